@@ -1,0 +1,70 @@
+#pragma once
+
+#include <memory>
+#include <span>
+
+#include "platform/baza/zapytanie.h"
+
+class TFmVLTFormularzElementu;
+struct KontekstSesji;
+
+// Base of every record of the retail database: one row of Query and one life cycle.
+// New (key column null, after Nowy) -> stored (after Wczytaj or a successful Zapisz); a shop copy (after WczytajKopie
+// without asNew) is read-only. Used by the thread that owns the database session.
+// Errors: EVLTWDError as named at each operation, EBladBazy for the database itself.
+class TDmVLTElement {
+ public:
+  TDmVLTElement(KontekstSesji& context, std::span<const OpisPola> pola);
+  virtual ~TDmVLTElement();
+  TDmVLTElement(const TDmVLTElement&) = delete;
+  TDmVLTElement& operator=(const TDmVLTElement&) = delete;
+
+  void Nowy();
+  // 2001 when there is no such record; the query is then open and empty.
+  void Wczytaj(int id);
+  // 2034 for identifiers that are no shop copy, 2031 when it is missing, 2032 where the record has no copies.
+  void WczytajKopie(int sklepId, int kopiaId, bool asNew);
+  // Writes the record and returns its identifier. Its own transaction when none is open, a savepoint otherwise;
+  // a failure undoes the save alone and leaves a new record new. 2033 for a shop copy.
+  int Zapisz();
+  // -1 for a new record.
+  int Id() const;
+  bool CzyNowy() const;
+  bool CzyZmieniony() const { return Query.GetUpdatesPending(); }
+  // New, or not yet stored for a reason of the record class (ExtraUnsavedTest).
+  bool CzyNiezapisany() const { return CzyNowy() || ExtraUnsavedTest(); }
+  // Lets a person edit the record; false when declined or when nobody sits at a screen.
+  bool Edytuj();
+
+  int SklepId() const { return m_sklepId; }
+  int KopiaId() const { return m_kopiaId; }
+  bool CzyKopia() const { return m_sklepId >= 0 && m_kopiaId >= 0; }
+
+  TKMQuery Query;
+
+ protected:
+  // The operations a record class supplies.
+  virtual std::unique_ptr<TFmVLTFormularzElementu> CreateEditor();
+  virtual const char* IdFieldName() const = 0;
+  virtual bool ExtraUnsavedTest() const { return false; }
+  virtual void SetLoadParams(int id) = 0;
+  virtual void ClearDetails() {}
+  virtual void AfterLoad(bool /*isNew*/, int /*id*/) {}
+  virtual int InsertRecord() = 0;
+  virtual void UpdateRecord(int id) = 0;
+  // Records without copy support raise 2032 here.
+  virtual void PrepareCopyQuery();
+  virtual void AfterCopyLoad(bool /*asNew*/) {}
+  // Called once the save's unit is committed or released, with the new identifier already in place: the record's
+  // rows in memory become the rows as stored.
+  virtual void AfterSave() {}
+
+  KontekstSesji& Context;
+
+ private:
+  TMField& PoleId();
+  const TMField& PoleId() const;
+
+  int m_sklepId = -1;
+  int m_kopiaId = -1;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+
+// Where a database is and how it is reached.
+struct ParametryPolaczenia {
+  enum class Rodzaj { Sqlite };
+
+  Rodzaj rodzaj = Rodzaj::Sqlite;
+  QString cel;                  // path of the database file
+  bool tworz = false;           // create the file when it is missing; otherwise a missing file is an error
+  int limitBlokadySekund = 15;  // how long to wait for somebody else's lock
+
+  // Reads "PATH" or "sqlite:PATH"; nothing for an empty text or a kind that is not supported.
+  static std::optional<ParametryPolaczenia> ZTekstu(const QString& tekst);
+  // The remembered connection: the first line of polaczenie.cfg in the user's configuration folder.
+  static std::optional<ParametryPolaczenia> Domyslne();
+};

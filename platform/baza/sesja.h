@@ -1,0 +1,113 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include <QString>
+
+#include "platform/baza/blad_bazy.h"
+#include "platform/baza/polaczenie.h"
+#include "platform/baza/wartosc.h"
+
+class Dialekt;
+class Polecenie;
+class TKMQuery;
+class TMConfig;
+
+// Rows of one running select, read forwards. The statement is given back when the cursor is destroyed, so that no
+// read stays open behind it: keep cursors short-lived.
+class Odczyt {
+ public:
+  Odczyt(Odczyt&& inny) noexcept;
+  Odczyt(const Odczyt&) = delete;
+  Odczyt& operator=(const Odczyt&) = delete;
+  ~Odczyt();
+
+  // Moves to the next row (first call: the first); false after the last one.
+  bool Nastepny();
+  // Value of a column of the current row, in the order of the column kinds given to Otworz.
+  const Wartosc& operator[](std::size_t kolumna) const;
+  std::size_t Kolumn() const;
+
+ private:
+  friend class TVLTBazaDanych;
+  explicit Odczyt(std::shared_ptr<Polecenie> polecenie);
+  std::shared_ptr<Polecenie> m_polecenie;
+};
+
+// A session with the back-office database. Used by one thread at a time. Statements are texts with ":Name"
+// placeholders, prepared once and kept; values are always bound, never part of the text.
+// Every failure of the database leaves as EBladBazy; use before Polacz as EBladBazy of kind Polaczenie.
+class TVLTBazaDanych {
+ public:
+  TVLTBazaDanych();
+  explicit TVLTBazaDanych(ParametryPolaczenia parametry);
+  ~TVLTBazaDanych();
+  TVLTBazaDanych(const TVLTBazaDanych&) = delete;
+  TVLTBazaDanych& operator=(const TVLTBazaDanych&) = delete;
+
+  // Takes the connection that the installation remembers (the file polaczenie.cfg); false when there is none.
+  bool WczytajDomyslnePolaczenie();
+  void UstawPolaczenie(ParametryPolaczenia parametry);
+  const ParametryPolaczenia& Parametry() const;
+  void Polacz();
+  void Odlacz();
+  bool Polaczona() const;
+  // The database's name as shown in the window's caption.
+  QString Nazwa() const;
+  const Dialekt& Jezyk() const;
+
+  // Runs a statement that returns no rows; returns the number of rows it touched.
+  long long ExecSQL(std::string_view sql, std::initializer_list<Parametr> parametry = {});
+  long long ExecSQL(std::string_view sql, std::span<const Parametr> parametry);
+  // Starts a select whose columns have the given kinds.
+  Odczyt Otworz(std::string_view sql, std::initializer_list<TypPola> kolumny,
+                std::initializer_list<Parametr> parametry = {});
+  Odczyt Otworz(std::string_view sql, std::span<const TypPola> kolumny, std::span<const Parametr> parametry);
+  // Gives a dataset this session; see TKMQuery.
+  void PowiazQuery(TKMQuery& query);
+  // The automatic key of the last insert of this session.
+  int PobierzAutoId();
+
+  // A write transaction; on SQLite an immediate one, so that a lock is met here and not in the middle.
+  void StartTransakcji();
+  void KoniecTransakcji();
+  // Never throws: a rollback is what is done when something already failed.
+  void WycofTransakcji() noexcept;
+  // Asked of the database, which may have ended the transaction by itself (a full disk).
+  bool GetCzyWTransakcji() const;
+  // Savepoints inside an open transaction; see JednostkaZapisu for the usual way.
+  void UstawPunkt(int poziom);
+  void ZwolnijPunkt(int poziom);
+  void WycofDoPunktu(int poziom) noexcept;
+
+  // A number that changes whenever another connection has committed a change since it was last asked.
+  // Constant between StartTransakcji and KoniecTransakcji.
+  long long ZnacznikObcychZmian();
+  // Number of transactions committed by this session; a counter for the benchmark and the tests.
+  long long LiczbaZatwierdzen() const;
+  // Makes what was committed durable (moves SQLite's write-ahead log into the database file). Quietly does nothing
+  // when another connection stands in the way.
+  void Utrwal();
+
+  // One line of the change log DziennikZmian: table code, text, up to two identifiers (-1: none).
+  void RejestrujZmiane(int tabela, const QString& opis, int id1, int id2);
+
+  // The named configuration of table Konfiguracja. Loading adds to the object (a name already there is replaced);
+  // saving replaces the stored configuration in one transaction, in the object's order.
+  void WczytajKonfiguracje(const QString& nazwa, TMConfig& config);
+  void ZapiszKonfiguracje(const QString& nazwa, const TMConfig& config);
+
+  // Test seam: called with every statement text before it runs; may throw.
+  using Podsluch = std::function<void(std::string_view sql)>;
+  void UstawPodsluch(Podsluch podsluch);
+
+ private:
+  struct Wnetrze;
+  std::unique_ptr<Wnetrze> m;
+};

@@ -1,0 +1,36 @@
+#include "platform/wyjatek.h"
+
+#include <utility>
+
+namespace {
+EMException::Prezenter& WspolnyPrezenter() {
+  static EMException::Prezenter prezenter;
+  return prezenter;
+}
+}  // namespace
+
+void EMException::Assign(const EMException& zrodlo) {
+  m_kod = zrodlo.MacCode();
+  m_tytul = zrodlo.MacMessage();
+  m_opis = zrodlo.MacDescription();
+}
+
+void EMException::UstawTeksty(QString tytul, QString opis) {
+  m_tytul = std::move(tytul);
+  m_opis = std::move(opis);
+}
+
+const char* EMException::what() const noexcept {
+  try {
+    m_what = (MacMessage() + QStringLiteral(": ") + MacDescription()).toStdString();
+    return m_what.c_str();
+  } catch (...) {
+    return "EMException";
+  }
+}
+
+void EMException::UstawPrezenter(Prezenter prezenter) { WspolnyPrezenter() = std::move(prezenter); }
+
+void EMException::ShowExceptionNow(const EMException& blad) {
+  if (WspolnyPrezenter()) WspolnyPrezenter()(blad);
+}
