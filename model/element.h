@@ -9,9 +9,9 @@ class TFmVLTFormularzElementu;
 struct KontekstSesji;
 
 // Base of every record of the retail database: one row of Query and one life cycle.
-// New (key column null, after Nowy) -> stored (after Wczytaj or a successful Zapisz); a shop copy (after WczytajKopie
-// without asNew) is read-only. Used by the thread that owns the database session.
-// Errors: EVLTWDError as named at each operation, EBladBazy for the database itself.
+// New (key column null, after Nowy) -> stored (after Wczytaj or a successful Zapisz); a shop copy (after
+// WczytajKopie without asNew) is read-only. Used by the thread that owns the database session. Errors:
+// EVLTWDError as named at each operation, EBladBazy for the database itself.
 class TDmVLTElement {
  public:
   TDmVLTElement(KontekstSesji& context, std::span<const OpisPola> pola);
@@ -24,8 +24,8 @@ class TDmVLTElement {
   void Wczytaj(int id);
   // 2034 for identifiers that are no shop copy, 2031 when it is missing, 2032 where the record has no copies.
   void WczytajKopie(int sklepId, int kopiaId, bool asNew);
-  // Writes the record and returns its identifier. Its own transaction when none is open, a savepoint otherwise;
-  // a failure undoes the save alone and leaves a new record new. 2033 for a shop copy.
+  // Writes the record and returns its identifier. Its own transaction when none is open, a savepoint
+  // otherwise; a failure undoes the save alone and leaves a new record new. 2033 for a shop copy.
   int Zapisz();
   // -1 for a new record.
   int Id() const;
@@ -55,8 +55,8 @@ class TDmVLTElement {
   // Records without copy support raise 2032 here.
   virtual void PrepareCopyQuery();
   virtual void AfterCopyLoad(bool /*asNew*/) {}
-  // Called once the save's unit is committed or released, with the new identifier already in place: the record's
-  // rows in memory become the rows as stored.
+  // Called once the save's unit is committed or released, with the new identifier already in place: the
+  // record's rows in memory become the rows as stored.
   virtual void AfterSave() {}
 
   KontekstSesji& Context;

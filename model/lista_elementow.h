@@ -1,10 +1,10 @@
 #pragma once
 
+#include <QString>
 #include <functional>
 #include <memory>
 #include <span>
-
-#include <QString>
+#include <unordered_map>
 
 #include "platform/baza/zapytanie.h"
 
@@ -54,5 +54,11 @@ class TDmVLTListaElementow {
   bool Flaga = true;
 
  private:
+  void UzupelnijIndeks();
+
   std::size_t m_indeksId;
+  // Identifier -> first row that has it: a walk over the rows at every search would make long lists
+  // quadratic.
+  std::unordered_map<long long, int> m_pierwszeZId;
+  int m_zindeksowane = 0;
 };

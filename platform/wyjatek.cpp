@@ -29,7 +29,9 @@ const char* EMException::what() const noexcept {
   }
 }
 
-void EMException::UstawPrezenter(Prezenter prezenter) { WspolnyPrezenter() = std::move(prezenter); }
+void EMException::UstawPrezenter(Prezenter prezenter) {
+  WspolnyPrezenter() = std::move(prezenter);
+}
 
 void EMException::ShowExceptionNow(const EMException& blad) {
   if (WspolnyPrezenter()) WspolnyPrezenter()(blad);

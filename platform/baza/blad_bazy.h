@@ -15,7 +15,8 @@ enum class RodzajBleduBazy {
   Inny
 };
 
-// An error of the database below us. Its texts name the cause and the statement's operation, never a bound value.
+// An error of the database below us. Its texts name the cause and the statement's operation, never a bound
+// value.
 class EBladBazy final : public EVLTExceptionBase {
  public:
   EBladBazy(RodzajBleduBazy rodzaj, QString tresc, QString operacja);

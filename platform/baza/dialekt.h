@@ -1,11 +1,10 @@
 #pragma once
 
+#include <QString>
 #include <string>
 
-#include <QString>
-
-// What differs between the families of database servers. Statement texts stand elsewhere, once, in the common form;
-// a dialect changes only what it must.
+// What differs between the families of database servers. Statement texts stand elsewhere, once, in the common
+// form; a dialect changes only what it must.
 class Dialekt {
  public:
   virtual ~Dialekt() = default;

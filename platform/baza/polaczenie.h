@@ -1,8 +1,7 @@
 #pragma once
 
-#include <optional>
-
 #include <QString>
+#include <optional>
 
 // Where a database is and how it is reached.
 struct ParametryPolaczenia {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <cstddef>
 #include <functional>
 #include <initializer_list>
@@ -7,8 +8,6 @@
 #include <span>
 #include <string_view>
 #include <vector>
-
-#include <QString>
 
 #include "platform/baza/blad_bazy.h"
 #include "platform/baza/polaczenie.h"
@@ -19,8 +18,8 @@ class Polecenie;
 class TKMQuery;
 class TMConfig;
 
-// Rows of one running select, read forwards. The statement is given back when the cursor is destroyed, so that no
-// read stays open behind it: keep cursors short-lived.
+// Rows of one running select, read forwards. The statement is given back when the cursor is destroyed, so
+// that no read stays open behind it: keep cursors short-lived.
 class Odczyt {
  public:
   Odczyt(Odczyt&& inny) noexcept;
@@ -91,15 +90,15 @@ class TVLTBazaDanych {
   long long ZnacznikObcychZmian();
   // Number of transactions committed by this session; a counter for the benchmark and the tests.
   long long LiczbaZatwierdzen() const;
-  // Makes what was committed durable (moves SQLite's write-ahead log into the database file). Quietly does nothing
-  // when another connection stands in the way.
+  // Makes what was committed durable (moves SQLite's write-ahead log into the database file). Quietly does
+  // nothing when another connection stands in the way.
   void Utrwal();
 
   // One line of the change log DziennikZmian: table code, text, up to two identifiers (-1: none).
   void RejestrujZmiane(int tabela, const QString& opis, int id1, int id2);
 
-  // The named configuration of table Konfiguracja. Loading adds to the object (a name already there is replaced);
-  // saving replaces the stored configuration in one transaction, in the object's order.
+  // The named configuration of table Konfiguracja. Loading adds to the object (a name already there is
+  // replaced); saving replaces the stored configuration in one transaction, in the object's order.
   void WczytajKonfiguracje(const QString& nazwa, TMConfig& config);
   void ZapiszKonfiguracje(const QString& nazwa, const TMConfig& config);
 

@@ -2,9 +2,9 @@
 
 class TVLTBazaDanych;
 
-// The unit of rollback: one save, one stock write, one new dictionary entry. It is a transaction of its own when none
-// is open, otherwise a savepoint inside the caller's. Left without Zatwierdz (an exception), it undoes exactly
-// its own statements and the caller's transaction stays open.
+// The unit of rollback: one save, one stock write, one new dictionary entry. It is a transaction of its own
+// when none is open, otherwise a savepoint inside the caller's. Left without Zatwierdz (an exception), it
+// undoes exactly its own statements and the caller's transaction stays open.
 class JednostkaZapisu {
  public:
   explicit JednostkaZapisu(TVLTBazaDanych& baza);

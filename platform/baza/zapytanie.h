@@ -16,8 +16,8 @@ struct OpisPola {
   TypPola typ;
 };
 
-// One named column of a dataset's current row. The value before the first change is kept until the changes are
-// accepted or the row is read again.
+// One named column of a dataset's current row. The value before the first change is kept until the changes
+// are accepted or the row is read again.
 class TMField {
  public:
   explicit TMField(const OpisPola& opis) : m_opis(&opis), m_wartosc(opis.typ) {}
@@ -48,9 +48,9 @@ class TMField {
   std::unique_ptr<Wartosc> m_stara;
 };
 
-// A dataset: a select with declared columns, its rows in memory and a cursor. Call order: PowiazQuery on the session
-// (which calls Powiaz), SetSql, SetParam..., Open, then moves and fields. Texts and parameters may be changed only
-// while it is closed. Not a live view: Open reads everything and leaves no statement busy.
+// A dataset: a select with declared columns, its rows in memory and a cursor. Call order: PowiazQuery on the
+// session (which calls Powiaz), SetSql, SetParam..., Open, then moves and fields. Texts and parameters may be
+// changed only while it is closed. Not a live view: Open reads everything and leaves no statement busy.
 class TMCustomDataSet {
  public:
   // The descriptions must outlive the dataset (they are static tables of the record classes).
@@ -112,5 +112,8 @@ class TKMQuery final : public TMCustomDataSet {
   TVLTBazaDanych* m_baza = nullptr;
   std::string m_sql;
   std::vector<Parametr> m_parametry;
+  std::vector<TypPola> m_typy;
+  // The first row of the last reading, used again: one record object reads one row after another.
+  std::vector<TMField> m_wolny;
   bool m_otwierajPusty = false;
 };

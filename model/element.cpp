@@ -1,0 +1,101 @@
+#include "model/element.h"
+
+#include "model/bledy.h"
+#include "model/kontekst.h"
+#include "platform/baza/sesja.h"
+#include "platform/baza/transakcja.h"
+
+TDmVLTElement::TDmVLTElement(KontekstSesji& context, std::span<const OpisPola> pola)
+    : Query(pola), Context(context) {}
+
+// Subclasses clear their details with their own members; the base only gives the query back.
+TDmVLTElement::~TDmVLTElement() {
+  Query.Close();
+}
+
+void TDmVLTElement::Nowy() {
+  m_sklepId = m_kopiaId = -1;
+  ClearDetails();
+  Query.Close();
+  Context.baza.PowiazQuery(Query);
+  Query.SetOpenEmpty(true);
+  Query.Open();
+  Query.Append();
+  AfterLoad(true, 0);
+}
+
+void TDmVLTElement::Wczytaj(int id) {
+  ClearDetails();
+  Query.Close();
+  Context.baza.PowiazQuery(Query);
+  Query.SetOpenEmpty(false);
+  m_sklepId = m_kopiaId = -1;
+  SetLoadParams(id);
+  Query.Open();
+  if (Query.IsEmpty()) throw EVLTWDError(2001);
+  AfterLoad(false, id);
+}
+
+void TDmVLTElement::WczytajKopie(int sklepId, int kopiaId, bool asNew) {
+  ClearDetails();
+  Query.Close();
+  Context.baza.PowiazQuery(Query);
+  Query.SetOpenEmpty(false);
+  m_sklepId = sklepId;
+  m_kopiaId = kopiaId;
+  if (!CzyKopia()) throw EVLTWDError(2034);
+  PrepareCopyQuery();
+  Query.Open();
+  if (Query.IsEmpty()) throw EVLTWDError(2031);
+  AfterCopyLoad(asNew);
+  if (asNew) {
+    m_sklepId = m_kopiaId = -1;
+    PoleId().Clear();
+  }
+}
+
+int TDmVLTElement::Zapisz() {
+  if (CzyKopia()) throw EVLTWDError(2033);
+  // A record that was never loaded has nothing to save.
+  if (Query.IsEmpty()) throw EVLTWDError(2001);
+  JednostkaZapisu jednostka(Context.baza);
+  const bool nowy = CzyNowy();
+  int id = Id();
+  if (nowy)
+    id = InsertRecord();
+  else
+    UpdateRecord(id);
+  jednostka.Zatwierdz();
+  if (nowy) PoleId().SetInteger(id);
+  Query.ZatwierdzZmiany();
+  AfterSave();
+  return id;
+}
+
+int TDmVLTElement::Id() const {
+  return CzyNowy() ? -1 : static_cast<int>(PoleId().AsInteger());
+}
+
+bool TDmVLTElement::CzyNowy() const {
+  return Query.IsEmpty() || PoleId().IsNull();
+}
+
+bool TDmVLTElement::Edytuj() {
+  const auto formularz = CreateEditor();
+  return formularz && formularz->PokazModalnie();
+}
+
+std::unique_ptr<TFmVLTFormularzElementu> TDmVLTElement::CreateEditor() {
+  return Context.fabrykaFormularzy ? Context.fabrykaFormularzy(*this) : nullptr;
+}
+
+void TDmVLTElement::PrepareCopyQuery() {
+  throw EVLTWDError(2032);
+}
+
+TMField& TDmVLTElement::PoleId() {
+  return Query.FieldByName(IdFieldName());
+}
+const TMField& TDmVLTElement::PoleId() const {
+  return Query.FieldByName(IdFieldName());
+}

@@ -1,0 +1,121 @@
+#include "platform/baza/zapytanie.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
+#include "platform/baza/sesja.h"
+
+void TMField::ZapamietajStara() {
+  if (!m_stara) m_stara = std::make_unique<Wartosc>(m_wartosc);
+}
+
+void TMField::SetInteger(long long wartosc) {
+  ZapamietajStara();
+  m_wartosc.SetInteger(wartosc);
+}
+
+void TMField::SetFloat(double wartosc) {
+  ZapamietajStara();
+  m_wartosc.SetFloat(wartosc);
+}
+
+void TMField::SetString(const QString& wartosc) {
+  ZapamietajStara();
+  m_wartosc.SetString(wartosc);
+}
+
+void TMField::Clear() {
+  ZapamietajStara();
+  m_wartosc.Clear();
+}
+
+bool TMField::Zmienione() const {
+  return m_stara && !(*m_stara == m_wartosc);
+}
+
+void TMField::Wczytaj(const Wartosc& wartosc) {
+  m_wartosc = wartosc;
+  m_stara.reset();
+}
+
+TMCustomDataSet::TMCustomDataSet(std::span<const OpisPola> pola) : m_opisy(pola) {}
+
+void TMCustomDataSet::MoveTo(int indeks) {
+  if (indeks < 0 || indeks >= RecordCount()) throw std::out_of_range("TMCustomDataSet::MoveTo");
+  m_biezacy = indeks;
+}
+
+void TMCustomDataSet::Append() {
+  std::vector<TMField>& wiersz = m_wiersze.emplace_back();
+  wiersz.reserve(m_opisy.size());
+  for (const OpisPola& opis : m_opisy) wiersz.emplace_back(opis);
+  m_biezacy = RecordCount() - 1;
+  m_zmianyWierszy = true;
+}
+
+void TMCustomDataSet::Delete() {
+  m_wiersze.erase(m_wiersze.begin() + m_biezacy);
+  m_biezacy = std::min(m_biezacy, RecordCount() - 1);
+  m_zmianyWierszy = true;
+}
+
+std::size_t TMCustomDataSet::IndexOf(std::string_view nazwa) const {
+  for (std::size_t i = 0; i < m_opisy.size(); ++i)
+    if (m_opisy[i].nazwa == nazwa) return i;
+  throw std::out_of_range("no column " + std::string(nazwa));
+}
+
+void TKMQuery::SetParam(const char* nazwa, Wartosc wartosc) {
+  for (Parametr& p : m_parametry)
+    if (std::string_view(p.nazwa) == nazwa) {
+      p.wartosc = std::move(wartosc);
+      return;
+    }
+  m_parametry.push_back({nazwa, std::move(wartosc)});
+}
+
+void TKMQuery::Open() {
+  if (!m_baza)
+    throw EBladBazy(RodzajBleduBazy::Polaczenie, QStringLiteral("Sesja nie jest otwarta"), QString());
+  Close();
+  if (!m_otwierajPusty) {
+    if (m_typy.empty())
+      for (const OpisPola& opis : m_opisy) m_typy.push_back(opis.typ);
+    Odczyt odczyt = m_baza->Otworz(m_sql, m_typy, m_parametry);
+    while (odczyt.Nastepny()) {
+      if (m_wolny.empty()) {
+        Append();
+      } else {
+        m_wiersze.push_back(std::move(m_wolny));
+        m_wolny.clear();
+      }
+      std::vector<TMField>& wiersz = m_wiersze.back();
+      for (std::size_t i = 0; i < wiersz.size(); ++i) wiersz[i].Wczytaj(odczyt[i]);
+    }
+    m_biezacy = m_wiersze.empty() ? -1 : 0;
+  }
+  m_aktywny = true;
+  m_zmianyWierszy = false;
+}
+
+void TKMQuery::Close() {
+  if (!m_wiersze.empty()) m_wolny = std::move(m_wiersze.front());
+  m_wiersze.clear();
+  m_biezacy = -1;
+  m_aktywny = false;
+  m_zmianyWierszy = false;
+}
+
+bool TKMQuery::GetUpdatesPending() const {
+  if (m_zmianyWierszy) return true;
+  return std::any_of(m_wiersze.begin(), m_wiersze.end(), [](const std::vector<TMField>& wiersz) {
+    return std::any_of(wiersz.begin(), wiersz.end(), [](const TMField& pole) { return pole.Zmienione(); });
+  });
+}
+
+void TKMQuery::ZatwierdzZmiany() {
+  for (std::vector<TMField>& wiersz : m_wiersze)
+    for (TMField& pole : wiersz) pole.m_stara.reset();
+  m_zmianyWierszy = false;
+}
