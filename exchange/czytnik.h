@@ -1,10 +1,9 @@
 #pragma once
 
+#include <QString>
 #include <functional>
 #include <memory>
 #include <optional>
-
-#include <QString>
 
 #include "exchange/komunikat.h"
 #include "exchange/linia_rekordu.h"
@@ -17,8 +16,8 @@ enum class WynikCzytania {
   Blad        // the file cannot be read further; Blad() tells why
 };
 
-// A record with fewer fields than it should have. The person may abort, retry (skip the record) or ignore (use it and
-// not be asked again in this run).
+// A record with fewer fields than it should have. The person may abort, retry (skip the record) or ignore
+// (use it and not be asked again in this run).
 struct NiezgodnaLiczbaPol {
   int numerRekordu;  // from 1, over the records read
   int znaleziono;
@@ -33,8 +32,9 @@ struct WynikLiczenia {
   std::optional<Komunikat> odmowa{};  // the file must not be imported
 };
 
-// Reads an import file record by record, whatever its layout. Order of calls: UtworzCzytnik, Otworz, SprawdzPola,
-// Policz, then Nastepny until Koniec or Blad. No call throws; what a person must see comes back as a Komunikat.
+// Reads an import file record by record, whatever its layout. Order of calls: UtworzCzytnik, Otworz,
+// SprawdzPola, Policz, then Nastepny until Koniec or Blad. No call throws; what a person must see comes back
+// as a Komunikat.
 class Czytnik {
  public:
   virtual ~Czytnik() = default;
@@ -48,8 +48,8 @@ class Czytnik {
 
   // Gets the position (in units of Rozmiar) now and then; returns false to stop.
   using Postep = std::function<bool(qint64 pozycja)>;
-  // Looks through the whole file, counts what Nastepny will return as records, and rewinds. Lines that are not
-  // records (comments, empty lines, the skipped first line) are not counted; deleted dBase records are.
+  // Looks through the whole file, counts what Nastepny will return as records, and rewinds. Lines that are
+  // not records (comments, empty lines, the skipped first line) are not counted; deleted dBase records are.
   virtual WynikLiczenia Policz(const Postep& postep) = 0;
 
   virtual WynikCzytania Nastepny() = 0;

@@ -1,9 +1,8 @@
 #pragma once
 
+#include <QString>
 #include <span>
 #include <string_view>
-
-#include <QString>
 
 // Kind of the records a file holds.
 enum class RodzajRekordu { Towary = 0, Kontrahenci = 2 };
@@ -89,8 +88,8 @@ inline constexpr int Nieinterpretowane = 36;
 inline constexpr int LiczbaWartosci = 36;  // 0 to Status
 }  // namespace PoleKontrahenta
 
-// One catalogue line. `oferowanaNazwa` is the caption in the standard-fields dialog; it is empty for a field whose
-// availability cannot be switched.
+// One catalogue line. `oferowanaNazwa` is the caption in the standard-fields dialog; it is empty for a field
+// whose availability cannot be switched.
 struct PoleKatalogu {
   int numer;
   std::u16string_view nazwa;
@@ -119,7 +118,9 @@ constexpr int LiczbaPolOferowanych(RodzajRekordu rodzaj) {
 }
 
 // Position of a field in the list of offered fields; negative for the goods barcode.
-constexpr int PozycjaOferowana(RodzajRekordu rodzaj, int pole) { return pole - PierwszePoleOferowane(rodzaj); }
+constexpr int PozycjaOferowana(RodzajRekordu rodzaj, int pole) {
+  return pole - PierwszePoleOferowane(rodzaj);
+}
 
 // Caption of a position of the list of offered fields; empty outside the list.
 QString NazwaPozycjiOferowanej(RodzajRekordu rodzaj, int pozycja);

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <string_view>
-
 #include <QString>
+#include <string_view>
 
 #include "exchange/struktura_pliku.h"
 
-// A number taken off a record line. A token that is no number keeps its trimmed text in `bledny`; the caller refuses
-// the record with it.
+// A number taken off a record line. A token that is no number keeps its trimmed text in `bledny`; the caller
+// refuses the record with it.
 template <typename T>
 struct TokenLiczby {
   T wartosc{};
@@ -15,9 +14,9 @@ struct TokenLiczby {
   QString bledny;
 };
 
-// The values of one import record in catalogue order, each followed by a tab, as bytes of the file's code page.
-// The readers below take them off in order. The line is only looked at: the reader that produced it owns the bytes,
-// which stay valid until its next record.
+// The values of one import record in catalogue order, each followed by a tab, as bytes of the file's code
+// page. The readers below take them off in order. The line is only looked at: the reader that produced it
+// owns the bytes, which stay valid until its next record.
 class LiniaRekordu {
  public:
   LiniaRekordu() = default;
@@ -29,8 +28,8 @@ class LiniaRekordu {
   QString Tekst();
   // The next token trimmed: `domyslna` for an empty one.
   TokenLiczby<int> Calkowita(int domyslna = 0);
-  // The next token trimmed: 0 for an empty one. `separator` is the system's decimal mark; the first mark of the other
-  // kind is read as it.
+  // The next token trimmed: 0 for an empty one. `separator` is the system's decimal mark; the first mark of
+  // the other kind is read as it.
   TokenLiczby<double> Liczba(char separator);
   void Pomin();
 

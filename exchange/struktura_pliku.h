@@ -1,10 +1,9 @@
 #pragma once
 
+#include <QString>
 #include <bitset>
 #include <optional>
 #include <vector>
-
-#include <QString>
 
 #include "exchange/katalog_pol.h"
 #include "exchange/komunikat.h"
@@ -17,8 +16,8 @@ enum class StronaKodowa { Windows = 0, LatinII = 1, Mazovia = 2, Ascii = 3 };
 
 enum class KwalifikatorTekstu { Cudzyslow = 0, Apostrof = 1, Brak = 2 };
 
-// One column of an import file: a two-digit catalogue number followed by the column's width (fixed width) or name
-// (dBase). The text is kept as given, whatever it holds, so that a configuration comes back unchanged.
+// One column of an import file: a two-digit catalogue number followed by the column's width (fixed width) or
+// name (dBase). The text is kept as given, whatever it holds, so that a configuration comes back unchanged.
 class WpisPola {
  public:
   WpisPola() = default;
@@ -41,8 +40,8 @@ class WpisPola {
   QString m_tekst;
 };
 
-// What stands in a goods file for one VAT rate: a two-character rate code (percents, "-1" for exempt), then the text
-// of up to 15 characters. The code is written left-aligned; a right-aligned one is understood too.
+// What stands in a goods file for one VAT rate: a two-character rate code (percents, "-1" for exempt), then
+// the text of up to 15 characters. The code is written left-aligned; a right-aligned one is understood too.
 class OpisVat {
  public:
   OpisVat() = default;
@@ -64,8 +63,8 @@ class OpisVat {
 // Fields of the catalogue that a file carries.
 using ZbiorPol = std::bitset<PoleKontrahenta::LiczbaWartosci>;
 
-// How an import file is laid out. The program keeps one for goods and one for contractors; both are edited in the
-// structure dialog and stored with the settings. Members bear the names of the dialog's controls.
+// How an import file is laid out. The program keeps one for goods and one for contractors; both are edited in
+// the structure dialog and stored with the settings. Members bear the names of the dialog's controls.
 struct StrukturaPliku {
   explicit StrukturaPliku(RodzajRekordu rodzaj_);
 
@@ -103,7 +102,8 @@ struct StrukturaPliku {
   bool CzyOferowane(int pole) const;
   void UstawOferowane(int pole, bool oferuj);
 
-  // What accepting a file type fixes: the code texts and the header flag of the own layout, no header in dBase.
+  // What accepting a file type fixes: the code texts and the header flag of the own layout, no header in
+  // dBase.
   void PrzyjmijTypPliku(TypPliku typ);
 };
 

@@ -1,0 +1,71 @@
+#include "platform/windows1250.h"
+
+#include <array>
+#include <cstdint>
+
+namespace windows1250 {
+namespace {
+
+// Bytes 80 to FF.
+constexpr std::array<char16_t, 128> kGorna = {
+    0x20AC, 0x0081, 0x201A, 0x0083, 0x201E, 0x2026, 0x2020, 0x2021, 0x0088, 0x2030, 0x0160, 0x2039, 0x015A,
+    0x0164, 0x017D, 0x0179, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x0098, 0x2122,
+    0x0161, 0x203A, 0x015B, 0x0165, 0x017E, 0x017A, 0x00A0, 0x02C7, 0x02D8, 0x0141, 0x00A4, 0x0104, 0x00A6,
+    0x00A7, 0x00A8, 0x00A9, 0x015E, 0x00AB, 0x00AC, 0x00AD, 0x00AE, 0x017B, 0x00B0, 0x00B1, 0x02DB, 0x0142,
+    0x00B4, 0x00B5, 0x00B6, 0x00B7, 0x00B8, 0x0105, 0x015F, 0x00BB, 0x013D, 0x02DD, 0x013E, 0x017C, 0x0154,
+    0x00C1, 0x00C2, 0x0102, 0x00C4, 0x0139, 0x0106, 0x00C7, 0x010C, 0x00C9, 0x0118, 0x00CB, 0x011A, 0x00CD,
+    0x00CE, 0x010E, 0x0110, 0x0143, 0x0147, 0x00D3, 0x00D4, 0x0150, 0x00D6, 0x00D7, 0x0158, 0x016E, 0x00DA,
+    0x0170, 0x00DC, 0x00DD, 0x0162, 0x00DF, 0x0155, 0x00E1, 0x00E2, 0x0103, 0x00E4, 0x013A, 0x0107, 0x00E7,
+    0x010D, 0x00E9, 0x0119, 0x00EB, 0x011B, 0x00ED, 0x00EE, 0x010F, 0x0111, 0x0144, 0x0148, 0x00F3, 0x00F4,
+    0x0151, 0x00F6, 0x00F7, 0x0159, 0x016F, 0x00FA, 0x0171, 0x00FC, 0x00FD, 0x0163, 0x02D9};
+
+constexpr size_t kOstatniZnak = 0x2122;
+
+// The way back, indexed by the character; 0 is "the page lacks it" for all but U+0000.
+constexpr auto kBajty = [] {
+  std::array<std::uint8_t, kOstatniZnak + 1> bajty{};
+  for (size_t i = 0; i < 0x80; ++i) bajty[i] = static_cast<std::uint8_t>(i);
+  for (size_t i = 0; i < kGorna.size(); ++i) bajty[kGorna[i]] = static_cast<std::uint8_t>(0x80 + i);
+  return bajty;
+}();
+
+}  // namespace
+
+char16_t Znak(unsigned char bajt) {
+  return bajt < 0x80 ? char16_t{bajt} : kGorna[bajt - 0x80U];
+}
+
+std::optional<unsigned char> Bajt(char16_t znak) {
+  if (znak > kOstatniZnak || (znak != 0 && kBajty[znak] == 0)) return std::nullopt;
+  return kBajty[znak];
+}
+
+QString NaUnicode(std::string_view bajty) {
+  QString tekst(static_cast<qsizetype>(bajty.size()), Qt::Uninitialized);
+  QChar* cel = tekst.data();
+  for (const char bajt : bajty) *cel++ = QChar(Znak(static_cast<unsigned char>(bajt)));
+  return tekst;
+}
+
+int Dopisz(QStringView tekst, std::string& wyjscie) {
+  int brakujacych = 0;
+  for (qsizetype i = 0; i < tekst.size(); ++i) {
+    const std::optional<unsigned char> bajt = Bajt(tekst[i].unicode());
+    if (!bajt) {
+      ++brakujacych;
+      // A surrogate pair is one character to the reader of the file.
+      if (tekst[i].isHighSurrogate() && i + 1 < tekst.size() && tekst[i + 1].isLowSurrogate()) ++i;
+    }
+    wyjscie += static_cast<char>(bajt.value_or('?'));
+  }
+  return brakujacych;
+}
+
+std::string ZUnicode(QStringView tekst) {
+  std::string bajty;
+  bajty.reserve(static_cast<size_t>(tekst.size()));
+  Dopisz(tekst, bajty);
+  return bajty;
+}
+
+}  // namespace windows1250
