@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <optional>
+#include <span>
+#include <unordered_map>
+#include <unordered_set>
+
+class TVLTBazaDanych;
+class TVLTBuforTowarow;
+
+// Rules of short names as configured in the database.
+struct RegulySkrotow {
+  int jakTworzyc = 0;  // 0: the whole name while it fits, 1: the abbreviated name
+  bool polskieZnaki = true;
+  bool maleLitery = true;
+  QString znakiSpecjalne = {};   // further allowed characters, each once, no letters or digits
+  char16_t spacjeNaZnak = u' ';  // 0 drops spaces, a blank keeps them, others replace them
+  QString inneSeparatory = QStringLiteral("'\"");
+  int minDlugosc = 1;
+  int maxDlugosc = 40;
+
+  // The configuration "NazwaSkrocona"; without any of its keys the older "Wykazy"; without those the defaults
+  // above.
+  static RegulySkrotow Wczytaj(TVLTBazaDanych& baza);
+
+  bool SpacjeZostaja() const { return spacjeNaZnak == u' '; }
+  bool Dozwolony(QChar znak) const;
+};
+
+// The short names of one good's codes as its record holds them now.
+struct SkrotyTowaru {
+  QString glowny = {};
+  std::span<const QString> dodatkowe = {};
+};
+
+// Short names ("nazwy na kasach") of goods and of their additional codes: checks them and makes unique ones.
+// One object serves a run. It remembers the names it has handed out, so that two goods of one file never
+// get the same name before either is saved: a name made by Utworz is held for the record in hand until
+// Potwierdz (it was saved) or Zwolnij (it was not, or its names are to be made again). The checks return
+// messages; only the database itself raises errors.
+class TDmVLTNazwySkrocone {
+ public:
+  // The database and the buffer must outlive the object. Without a buffer, or while it is not ready, the
+  // database is always asked. Reads the rules.
+  explicit TDmVLTNazwySkrocone(TVLTBazaDanych& baza, const TVLTBuforTowarow* bufor = nullptr);
+  TDmVLTNazwySkrocone(TVLTBazaDanych& baza, const TVLTBuforTowarow* bufor, RegulySkrotow reguly);
+
+  const RegulySkrotow& Reguly() const { return m_reguly; }
+
+  struct Wynik {
+    bool dobry;
+    QString komunikat;
+  };
+  // Against the rules; `dodatkowy`: the name of an additional code.
+  Wynik Sprawdz(const QString& skrot, bool dodatkowy) const;
+  // The same without a message.
+  bool Poprawny(const QString& skrot) const;
+
+  struct WynikUnikalnosci {
+    int towId;  // the good that uses the name, -1 when free
+    QString komunikat;
+  };
+  // In the database, leaving out the good with the given identifier (-1: none).
+  WynikUnikalnosci SprawdzUnikalnosc(const QString& skrot, int wlasneId, bool dodatkowy) const;
+  // Against the other codes of the same good; `indeks` is the additional code it belongs to, -1 the main
+  // code.
+  static Wynik SprawdzWsrodKodow(const QString& skrot, const SkrotyTowaru& kody, int indeks);
+
+  // A unique short name for a good's name; `indeks` as above names the code it is for, whose own present name
+  // does not stand in the way. `numer` -1 tries without a number first. Empty for a name without words,
+  // nothing when 9999 tries found no free name.
+  std::optional<QString> Utworz(const QString& nazwa, const SkrotyTowaru& kody, int indeks, int wlasneId,
+                                bool sprawdzajBaze, int numer = -1);
+  void Potwierdz();
+  void Zwolnij();
+
+ private:
+  enum class Werdykt { Pusty, ZaKrotki, ZaDlugi, Znaki, Odstepy, Polskie, Male, Poprawny };
+  Werdykt Ocen(const QString& skrot) const;
+  QString Podstawa(const QString& nazwa) const;
+  QString Kandydat(QStringView podstawa, QStringView przyrostek) const;
+  bool Zajety(const QString& skrot, int wlasneId, bool sprawdzajBaze) const;
+  bool NaPewnoWolny(const QString& skrot) const;
+
+  TVLTBazaDanych& m_baza;
+  const TVLTBuforTowarow* m_bufor;
+  RegulySkrotow m_reguly;
+  // Fingerprints of handed-out names: of saved records, and of the record in hand.
+  std::unordered_set<size_t> m_nadane;
+  std::unordered_set<size_t> m_wstepne;
+  // Per beginning of numbered names: the number up to which all were found taken, so that thousands of equal
+  // names do not search from 1 again. A number is noted only when somebody else's stored name holds it.
+  std::unordered_map<size_t, int> m_odNumeru;
+};
