@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QString>
 #include <string>
+
+#include <QString>
 
 // What differs between the families of database servers. Statement texts stand elsewhere, once, in the common
 // form; a dialect changes only what it must.

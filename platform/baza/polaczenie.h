@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QString>
 #include <optional>
+
+#include <QString>
 
 // Where a database is and how it is reached.
 struct ParametryPolaczenia {

@@ -1,9 +1,10 @@
 #include "platform/baza/sesja.h"
 
-#include <QFileInfo>
 #include <ctime>
 #include <string>
 #include <unordered_map>
+
+#include <QFileInfo>
 
 #include <soci/soci.h>
 #include <soci/sqlite3/soci-sqlite3.h>

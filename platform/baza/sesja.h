@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QString>
 #include <cstddef>
 #include <functional>
 #include <initializer_list>
@@ -8,6 +7,8 @@
 #include <span>
 #include <string_view>
 #include <vector>
+
+#include <QString>
 
 #include "platform/baza/blad_bazy.h"
 #include "platform/baza/polaczenie.h"

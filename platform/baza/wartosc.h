@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QString>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
+
+#include <QString>
 
 // Column kinds of the back-office tables. A date-time is kept as the text "YYYY-MM-DD HH:MM:SS".
 enum class TypPola { Calkowite, Dziesietne, Tekst, Czas };

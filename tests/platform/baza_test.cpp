@@ -1,0 +1,183 @@
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include "platform/baza/transakcja.h"
+#include "platform/baza/zapytanie.h"
+#include "platform/config.h"
+#include "tests/wspolne/baza_testowa.h"
+
+namespace {
+
+constexpr OpisPola kPola[] = {{"Id", TypPola::Calkowite},
+                              {"Nazwa", TypPola::Tekst},
+                              {"Cena", TypPola::Dziesietne},
+                              {"Duza", TypPola::Calkowite}};
+
+class Baza : public testing::Test {
+ protected:
+  void SetUp() override {
+    b.baza.ExecSQL(
+        "create table T (Id integer primary key autoincrement, Nazwa text, Cena real, Duza bigint)");
+    b.baza.ExecSQL("create unique index T_Nazwa on T (Nazwa)");
+    b.baza.ExecSQL("create table Konfiguracja (Nazwa text, Kolejnosc integer, Parametr text, Wartosc text)");
+  }
+  void Dodaj(const QString& nazwa) {
+    b.baza.ExecSQL("insert into T (Nazwa) values (:Nazwa)", {{"Nazwa", nazwa}});
+  }
+  long long Ile() { return b.Liczba("select count(*) from T"); }
+
+  BazaTestowa b;
+};
+
+TEST_F(Baza, WartosciWracajaTakieSame) {
+  const QString nazwa = QStringLiteral("Żółć 'x' \" : % ;");
+  const long long duza = 9'007'199'254'740'993;
+  b.baza.ExecSQL("insert into T (Nazwa, Cena, Duza) values (:Nazwa, :Cena, :Duza)",
+                 {{"Nazwa", nazwa}, {"Cena", 0.1}, {"Duza", duza}});
+  EXPECT_EQ(b.baza.PobierzAutoId(), 1);
+  b.baza.ExecSQL("insert into T (Nazwa, Cena) values (:Nazwa, :Cena)",
+                 {{"Nazwa", Wartosc(TypPola::Tekst)}, {"Cena", Wartosc(TypPola::Dziesietne)}});
+
+  TKMQuery query(kPola);
+  EXPECT_THROW(query.Open(), EBladBazy);
+  b.baza.PowiazQuery(query);
+  query.SetSql("select Id, Nazwa, Cena, Duza from T order by Id");
+  query.Open();
+  ASSERT_EQ(query.RecordCount(), 2);
+  EXPECT_EQ(query.FieldByName("Nazwa").AsString(), nazwa);
+  EXPECT_EQ(query.FieldByName("Cena").AsFloat(), 0.1);
+  EXPECT_EQ(query.FieldByName("Duza").AsInteger(), duza);
+  query.MoveTo(1);
+  EXPECT_TRUE(query.FieldByName("Nazwa").IsNull());
+  EXPECT_TRUE(query.FieldByName("Cena").IsNull());
+  EXPECT_THROW(query.FieldByName("Brak"), std::out_of_range);
+}
+
+TEST_F(Baza, ZmianyPolPamietajaStaraWartosc) {
+  Dodaj(QStringLiteral("a"));
+  TKMQuery query(kPola);
+  b.baza.PowiazQuery(query);
+  query.SetSql("select Id, Nazwa, Cena, Duza from T");
+  query.Open();
+  TMField& nazwa = query.FieldByName("Nazwa");
+  nazwa.SetString(QStringLiteral("b"));
+  nazwa.SetString(QStringLiteral("c"));
+  EXPECT_TRUE(query.GetUpdatesPending());
+  EXPECT_EQ(nazwa.OldValue().AsString(), QStringLiteral("a"));
+  nazwa.SetString(QStringLiteral("a"));
+  EXPECT_FALSE(query.GetUpdatesPending());
+  query.Append();
+  EXPECT_TRUE(query.GetUpdatesPending());
+  query.ZatwierdzZmiany();
+  EXPECT_FALSE(query.GetUpdatesPending());
+}
+
+TEST_F(Baza, JednostkaCofaTylkoSiebie) {
+  b.baza.StartTransakcji();
+  {
+    JednostkaZapisu pierwsza(b.baza);
+    Dodaj(QStringLiteral("zostaje"));
+    try {
+      JednostkaZapisu zagniezdzona(b.baza);
+      Dodaj(QStringLiteral("znika"));
+      Dodaj(QStringLiteral("zostaje"));
+      FAIL() << "a repeated name was accepted";
+    } catch (const EBladBazy& blad) {
+      EXPECT_EQ(blad.Rodzaj(), RodzajBleduBazy::Ograniczenie);
+      EXPECT_FALSE(blad.KonczyPrzebieg());
+      EXPECT_FALSE(blad.MacDescription().contains(QStringLiteral("zostaje")));  // a bound value
+      EXPECT_TRUE(blad.MacDescription().contains(QStringLiteral("insert into T")));
+    }
+    pierwsza.Zatwierdz();
+  }
+  EXPECT_TRUE(b.baza.GetCzyWTransakcji());
+  b.baza.KoniecTransakcji();
+  EXPECT_EQ(Ile(), 1);
+  {
+    JednostkaZapisu wlasna(b.baza);
+    Dodaj(QStringLiteral("bez zatwierdzenia"));
+  }
+  EXPECT_FALSE(b.baza.GetCzyWTransakcji());
+  EXPECT_EQ(Ile(), 1);
+}
+
+TEST_F(Baza, CzytaniaNieTrzymajaTransakcji) {
+  for (const char* nazwa : {"a", "b", "c"}) Dodaj(QString::fromLatin1(nazwa));
+  TVLTBazaDanych druga;
+  b.Polacz(druga);
+  const long long przed = druga.ZnacznikObcychZmian();
+  {
+    // The same text read again while its first reading stands in the middle.
+    auto zewnetrzny = druga.Otworz("select Nazwa from T order by Id", {TypPola::Tekst});
+    ASSERT_TRUE(zewnetrzny.Nastepny());
+    auto wewnetrzny = druga.Otworz("select Nazwa from T order by Id", {TypPola::Tekst});
+    int ile = 0;
+    while (wewnetrzny.Nastepny()) ++ile;
+    EXPECT_EQ(ile, 3);
+    ASSERT_TRUE(zewnetrzny.Nastepny());
+    EXPECT_EQ(zewnetrzny[0].AsString(), QStringLiteral("b"));
+  }
+  Dodaj(QStringLiteral("d"));
+  EXPECT_NE(druga.ZnacznikObcychZmian(), przed);
+  auto odczyt = druga.Otworz("select count(*) from T", {TypPola::Calkowite});
+  ASSERT_TRUE(odczyt.Nastepny());
+  EXPECT_EQ(odczyt[0].AsInteger(), 4);
+}
+
+TEST_F(Baza, RodzajeBledow) {
+  TVLTBazaDanych druga;
+  b.Polacz(druga);
+  b.baza.StartTransakcji();
+  const auto rodzaj = [](auto&& praca) {
+    try {
+      praca();
+    } catch (const EBladBazy& blad) {
+      EXPECT_FALSE(blad.MacMessage().isEmpty());
+      return blad.Rodzaj();
+    }
+    ADD_FAILURE() << "no error";
+    return RodzajBleduBazy::Inny;
+  };
+  EXPECT_EQ(rodzaj([&] { druga.StartTransakcji(); }), RodzajBleduBazy::Blokada);
+  b.baza.WycofTransakcji();
+  EXPECT_EQ(rodzaj([&] {
+              druga.ExecSQL("pragma query_only = on");
+              druga.ExecSQL("insert into T (Nazwa) values ('x')");
+            }),
+            RodzajBleduBazy::TylkoOdczyt);
+  b.baza.ExecSQL("pragma max_page_count = 6");
+  EXPECT_EQ(rodzaj([&] { Dodaj(QString(200'000, QLatin1Char('x'))); }), RodzajBleduBazy::PelnyDysk);
+
+  TVLTBazaDanych brak(*ParametryPolaczenia::ZTekstu(b.Sciezka() + QStringLiteral(".brak")));
+  EXPECT_EQ(rodzaj([&] { brak.Polacz(); }), RodzajBleduBazy::Polaczenie);
+  EXPECT_EQ(rodzaj([&] { brak.ExecSQL("select 1"); }), RodzajBleduBazy::Polaczenie);
+
+  const QString zwykly = b.Sciezka() + QStringLiteral(".txt");
+  QFile plik(zwykly);
+  ASSERT_TRUE(plik.open(QIODevice::WriteOnly));
+  plik.write(QByteArray(4096, 'x'));
+  plik.close();
+  TVLTBazaDanych nieBaza(*ParametryPolaczenia::ZTekstu(QStringLiteral("sqlite:") + zwykly));
+  EXPECT_EQ(rodzaj([&] { nieBaza.Polacz(); }), RodzajBleduBazy::Wejscie);
+  EXPECT_FALSE(nieBaza.Polaczona());
+}
+
+TEST_F(Baza, KonfiguracjaJestZastepowanaWCalosci) {
+  const QString nazwa = QStringLiteral("ZORVIK");
+  TMConfig pierwsza;
+  pierwsza.Ustaw(QStringLiteral("A"), QStringLiteral("1"));
+  pierwsza.Ustaw(QStringLiteral("B"), QStringLiteral("ż"));
+  b.baza.ZapiszKonfiguracje(nazwa, pierwsza);
+  TMConfig druga;
+  druga.Ustaw(QStringLiteral("C"), QStringLiteral("3"));
+  b.baza.ZapiszKonfiguracje(nazwa, druga);
+  TMConfig wynik;
+  wynik.Ustaw(QStringLiteral("A"), QStringLiteral("stare"));
+  b.baza.WczytajKonfiguracje(nazwa, wynik);
+  ASSERT_EQ(wynik.Params().size(), 2U);
+  EXPECT_EQ(wynik.ParamByName(QStringLiteral("A"))->Wartosc(), QStringLiteral("stare"));
+  EXPECT_EQ(wynik.ParamByName(QStringLiteral("C"))->Wartosc(), QStringLiteral("3"));
+}
+
+}  // namespace
