@@ -4,9 +4,10 @@
 #include <soci/sqlite3/soci-sqlite3.h>
 
 struct Polecenie::Wnetrze {
-  explicit Wnetrze(soci::session& sesja) : polecenie(sesja) {}
+  explicit Wnetrze(soci::session& sesja) : polecenie(sesja), sqlite(sesja.get_backend_name() == "sqlite3") {}
 
   soci::statement polecenie;
+  const bool sqlite;
   std::vector<soci::indicator> wskaznikiParametrow;
   std::vector<soci::indicator> wskaznikiKolumn;
 };
@@ -101,8 +102,9 @@ long long Polecenie::Dotknietych() {
 
 void Polecenie::Zwolnij() noexcept {
   if (m_stan != Stan::Wolne) {
-    if (auto* sqlite = dynamic_cast<soci::sqlite3_statement_backend*>(m->polecenie.get_backend()))
-      sqlite_api::sqlite3_reset(sqlite->stmt_);
+    if (m->sqlite)
+      sqlite_api::sqlite3_reset(
+          static_cast<soci::sqlite3_statement_backend*>(m->polecenie.get_backend())->stmt_);
     m_stan = Stan::Wolne;
   }
   Zajete = false;

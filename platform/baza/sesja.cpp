@@ -8,13 +8,14 @@
 
 #include <soci/soci.h>
 #include <soci/sqlite3/soci-sqlite3.h>
-#include <sqlite3.h>
 
 #include "platform/baza/dialekt.h"
 #include "platform/baza/polecenie.h"
 #include "platform/baza/transakcja.h"
 #include "platform/baza/zapytanie.h"
 #include "platform/config.h"
+
+using namespace sqlite_api;  // where SOCI puts SQLite's own header
 
 namespace {
 
@@ -77,7 +78,7 @@ constexpr TypPola kLiczba[] = {TypPola::Calkowite};
 }  // namespace
 
 struct TVLTBazaDanych::Wnetrze {
-  ParametryPolaczenia parametry;
+  ParametryPolaczenia polaczenie;
   std::unique_ptr<soci::session> sesja;
   std::unordered_map<std::string, std::shared_ptr<Polecenie>> polecenia;
   std::string klucz;
@@ -96,7 +97,7 @@ struct TVLTBazaDanych::Wnetrze {
 
   // Runs database work; whatever fails below leaves as EBladBazy.
   template <typename Praca>
-  auto Tlumacz(std::string_view sql, Praca&& praca) {
+  decltype(auto) Tlumacz(std::string_view sql, Praca&& praca) {
     try {
       return praca();
     } catch (const soci::sqlite3_soci_error& blad) {
@@ -186,16 +187,16 @@ bool TVLTBazaDanych::WczytajDomyslnePolaczenie() {
 }
 
 void TVLTBazaDanych::UstawPolaczenie(ParametryPolaczenia parametry) {
-  m->parametry = std::move(parametry);
+  m->polaczenie = std::move(parametry);
 }
 const ParametryPolaczenia& TVLTBazaDanych::Parametry() const {
-  return m->parametry;
+  return m->polaczenie;
 }
 bool TVLTBazaDanych::Polaczona() const {
   return m->sesja != nullptr;
 }
 QString TVLTBazaDanych::Nazwa() const {
-  return QFileInfo(m->parametry.cel).completeBaseName();
+  return QFileInfo(m->polaczenie.cel).completeBaseName();
 }
 const Dialekt& TVLTBazaDanych::Jezyk() const {
   return DialektSqlite();
@@ -203,24 +204,24 @@ const Dialekt& TVLTBazaDanych::Jezyk() const {
 
 void TVLTBazaDanych::Polacz() {
   Odlacz();
-  const QString plik = m->parametry.cel;
+  const QString plik = m->polaczenie.cel;
   const auto odmow = [&](const QString& powod) {
     throw EBladBazy(RodzajBleduBazy::Polaczenie, powod, QString());
   };
   if (plik.isEmpty()) odmow(QStringLiteral("Nie wskazano bazy danych"));
   if (plik.contains(QLatin1Char('"')))
     odmow(QStringLiteral("Ścieżka bazy danych nie może zawierać cudzysłowu: ") + plik);
-  if (!m->parametry.tworz && !QFileInfo(plik).isFile())
+  if (!m->polaczenie.tworz && !QFileInfo(plik).isFile())
     odmow(QStringLiteral("Nie ma pliku bazy danych ") + plik);
   try {
     m->Tlumacz("", [&] {
       m->sesja = std::make_unique<soci::session>(
           soci::sqlite3,
-          "db=\"" + plik.toStdString() + "\" timeout=" + std::to_string(m->parametry.limitBlokadySekund));
+          "db=\"" + plik.toStdString() + "\" timeout=" + std::to_string(m->polaczenie.limitBlokadySekund));
     });
     sqlite3_extended_result_codes(m->Uchwyt(), 0);
     sqlite3_create_function(m->Uchwyt(), "getdate", 0, SQLITE_UTF8, nullptr, GetDate, nullptr, nullptr);
-    if (m->parametry.tworz) Otworz("pragma journal_mode = wal", {TypPola::Tekst}).Nastepny();
+    if (m->polaczenie.tworz) Otworz("pragma journal_mode = wal", {TypPola::Tekst}).Nastepny();
     // Whole pages reach the log at each commit and the disk at each checkpoint: a killed process loses
     // nothing that was committed; Utrwal closes the gap for a power cut.
     ExecSQL("pragma synchronous = normal");
