@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include "exchange/plik_dbase.h"
+#include "tests/exchange/pliki_probne.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+std::string Slowo(size_t wartosc) {
+  return {static_cast<char>(wartosc & 0xFF), static_cast<char>(wartosc >> 8 & 0xFF)};
+}
+
+// A table as bytes; a length given as -1 is the right one.
+struct Tabela {
+  std::vector<std::pair<std::string, int>> pola{};
+  std::vector<std::string> rekordy{};
+  int dlugoscNaglowka = -1;
+  int dlugoscRekordu = -1;
+  std::string koniec = "\x1A";
+
+  std::string Bajty() const {
+    size_t rekord = 1;
+    std::string opisy;
+    for (const auto& [nazwa, dlugosc] : pola) {
+      std::string opis = nazwa;
+      opis.resize(32, '\0');
+      opis[11] = 'C';
+      opis[16] = static_cast<char>(dlugosc);
+      opisy += opis;
+      rekord += static_cast<size_t>(dlugosc);
+    }
+    const size_t naglowek = dlugoscNaglowka < 0 ? 33 + opisy.size() : static_cast<size_t>(dlugoscNaglowka);
+    if (dlugoscRekordu >= 0) rekord = static_cast<size_t>(dlugoscRekordu);
+    // The header's own record count is a lie.
+    std::string bajty = "\x03\x01\x01\x01\x0A" + std::string(3, '\0') + Slowo(naglowek) + Slowo(rekord);
+    bajty.resize(32, '\0');
+    bajty += opisy + "\r";
+    for (const std::string& r : rekordy) bajty += r;
+    return bajty + koniec;
+  }
+};
+
+const std::vector<std::pair<std::string, int>> kPola = {{"KOD", 4}, {"NAZWA", 6}};
+
+TEST(PlikDBase, RekordyIWartosci) {
+  PlikDBase plik;
+  const PlikProbny bajty(
+      Tabela{.pola = kPola, .rekordy = {" 5901Chleb ", "*5902Mleko ", std::string(" 59\0 Ser   ", 11)}}
+          .Bajty());
+  ASSERT_TRUE(plik.Open(bajty.Sciezka()));
+  EXPECT_EQ(plik.RecordCount(), 3);
+  EXPECT_EQ(plik.FieldCount(), 2);
+  EXPECT_EQ(plik.FieldName(1), "NAZWA");
+  EXPECT_EQ(plik.FieldName(2), "");
+  EXPECT_EQ(plik.FieldName(-1), "");
+  EXPECT_EQ(plik.FieldValue("KOD"), "");
+  ASSERT_TRUE(plik.ReadRecord(2));
+  EXPECT_EQ(plik.FieldValue("kod"), "59");
+  ASSERT_TRUE(plik.ReadRecord(0));
+  EXPECT_FALSE(plik.IsDeleted());
+  EXPECT_EQ(plik.FieldValue("nazwa"), "Chleb ");
+  EXPECT_EQ(plik.FieldValue("CENA"), "");
+  ASSERT_TRUE(plik.ReadRecord(1));
+  EXPECT_TRUE(plik.IsDeleted());
+  EXPECT_FALSE(plik.ReadRecord(3));
+  EXPECT_FALSE(plik.ReadRecord(-1));
+}
+
+TEST(PlikDBase, LiczbaRekordowZRozmiaru) {
+  const struct {
+    Tabela tabela;
+    qint64 rekordow;
+  } przypadki[] = {
+      {{.pola = kPola, .rekordy = {" 0001aaaaaa", " 0002bbbbbb"}, .koniec = ""}, 1},
+      {{.pola = kPola, .rekordy = {" 0001aaaaaa", " 0002bb"}}, 1},
+      {{.pola = kPola, .rekordy = {}}, 0},
+      {{.pola = kPola, .rekordy = {}, .koniec = ""}, 0},
+      {{.pola = kPola, .rekordy = {std::string(5000, ' ')}, .dlugoscRekordu = 5000}, 1},
+      {{.pola = std::vector(100, std::pair<std::string, int>("A", 255)),
+        .rekordy = {std::string(50, ' ')},
+        .dlugoscRekordu = 50},
+       1},
+  };
+  for (const auto& p : przypadki) {
+    PlikDBase plik;
+    EXPECT_TRUE(plik.Open(PlikProbny(p.tabela.Bajty()).Sciezka()));
+    EXPECT_EQ(plik.RecordCount(), p.rekordow);
+  }
+}
+
+TEST(PlikDBase, NaglowekNieBudziZaufania) {
+  const struct {
+    std::string bajty;
+    QString powod;
+  } przypadki[] = {
+      {Tabela{.pola = kPola, .dlugoscRekordu = 5001}.Bajty(), u"Za długi rekord"_s},
+      {Tabela{.pola = kPola, .dlugoscRekordu = 0}.Bajty(), u"Długość rekordu w nagłówku wynosi 0"_s},
+      {Tabela{.pola = kPola, .dlugoscNaglowka = 0}.Bajty(), u"nie zawiera opisów"_s},
+      {Tabela{.pola = kPola, .dlugoscNaglowka = 40}.Bajty(), u"nie zawiera opisów"_s},
+      {Tabela{.pola = kPola, .dlugoscNaglowka = 5000}.Bajty(), u"dłuższy niż plik"_s},
+      {Tabela{.pola = {}, .rekordy = {std::string(64, '\0')}, .dlugoscNaglowka = 97}.Bajty(),
+       u"nie zawiera opisów"_s},
+      {Tabela{.pola = std::vector(101, std::pair<std::string, int>("A", 1))}.Bajty(),
+       u"więcej niż 100 pól"_s},
+      {"abc", u"krótszy niż nagłówek"_s},
+  };
+  for (const auto& p : przypadki) {
+    PlikDBase plik;
+    EXPECT_FALSE(plik.Open(PlikProbny(p.bajty).Sciezka()));
+    ASSERT_TRUE(plik.Blad()) << p.powod.toStdString();
+    EXPECT_TRUE(plik.Blad()->tekst.contains(p.powod)) << plik.Blad()->tekst.toStdString();
+    EXPECT_EQ(plik.RecordCount(), 0);
+    EXPECT_FALSE(plik.ReadRecord(0));
+  }
+  PlikDBase plik;
+  EXPECT_FALSE(plik.Open(u"/nie/ma"_s));
+  EXPECT_FALSE(plik.Blad());
+}
+
+TEST(PlikDBase, PolePozaRekordemJestPuste) {
+  PlikDBase plik;
+  ASSERT_TRUE(plik.Open(
+      PlikProbny(Tabela{.pola = kPola, .rekordy = {" 5901Chle"}, .dlugoscRekordu = 9}.Bajty()).Sciezka()));
+  ASSERT_TRUE(plik.ReadRecord(0));
+  EXPECT_EQ(plik.FieldValue("KOD"), "5901");
+  EXPECT_EQ(plik.FieldValue("NAZWA"), "");
+}
+
+TEST(CzytnikDBase, KolumnyPolImaja) {
+  const std::string bajty =
+      Tabela{.pola = kPola, .rekordy = {" 5901 \x88uk  ", "*5902Mleko ", " 5903Ser   "}}.Bajty();
+  StrukturaPliku s = Struktura(RodzajRekordu::Towary, TypPliku::DBase,
+                               {u"01nazwa"_s, u"00Kod  "_s, u"32NAZWA"_s, u"x NAZWA"_s});
+  s.CBPolskieZnaki = StronaKodowa::LatinII;
+  s.CBNieAnalizujPierwszejLinii = true;
+  EXPECT_EQ(Odczyt(s, bajty), (QStringList{u"0=5901|1=łuk"_s, u"-"_s, u"0=5903|1=Ser"_s}));
+  s.pola.emplace_back(u"32CENA"_s);
+  EXPECT_EQ(Odczyt(s, bajty), QStringList{u"W importowanym pliku brak pola: CENA"_s});
+}
+
+}  // namespace

@@ -1,0 +1,55 @@
+#include <gtest/gtest.h>
+
+#include "exchange/format_liczb.h"
+#include "exchange/zapis_rekordow.h"
+#include "tests/exchange/pliki_probne.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+TEST(FormatLiczby, ZeraIZnakDziesietny) {
+  const struct {
+    double wartosc;
+    char separator;
+    const char* tekst;
+  } przypadki[] = {
+      {12.5, ',', "12,5"},          {3, ',', "3,0"},          {0, ',', "0,0"},      {-100, ',', "-100,0"},
+      {0.1234564, ',', "0,123456"}, {12.5, '.', "12.500000"}, {3, '.', "3.000000"},
+  };
+  for (const auto& p : przypadki) EXPECT_EQ(FormatLiczby(p.wartosc, p.separator), p.tekst);
+}
+
+TEST(ZapisRekordow, LiniaNaRekord) {
+  const PlikProbny plik("to zniknie");
+  ZapisRekordow zapis;
+  ASSERT_TRUE(zapis.Otworz(plik.Sciezka()));
+  zapis.Pole(u"");
+  zapis.Pole(u"ża\r\nb\nc\r\r\n");
+  zapis.PoleAscii("0.00");
+  zapis.Pole(u"中x\t\U0001F600");
+  EXPECT_TRUE(zapis.ZapiszRekord());
+  EXPECT_EQ(zapis.BrakujacychZnakow(), 2);
+  zapis.Pole(u"ok");
+  EXPECT_TRUE(zapis.ZapiszRekord());
+  EXPECT_EQ(zapis.BrakujacychZnakow(), 0);
+  EXPECT_TRUE(zapis.Zamknij());
+  QFile wynik(plik.Sciezka());
+  ASSERT_TRUE(wynik.open(QIODevice::ReadOnly));
+  EXPECT_EQ(wynik.readAll().toStdString(),
+            "\t\xBF"
+            "a b c  \t0.00\t?x\t?\r\nok\r\n");
+}
+
+#ifdef Q_OS_LINUX
+TEST(ZapisRekordow, PelnyDysk) {
+  ZapisRekordow zapis;
+  ASSERT_TRUE(zapis.Otworz(u"/dev/full"_s));
+  zapis.Pole(u"x");
+  zapis.ZapiszRekord();
+  EXPECT_FALSE(zapis.Zamknij());
+  EXPECT_FALSE(zapis.OpisBledu().isEmpty());
+}
+#endif
+
+}  // namespace
