@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QString>
-#include <QStringView>
 #include <array>
 #include <cstdint>
 #include <optional>
+
+#include <QString>
+#include <QStringView>
 
 #include "model/element.h"
 #include "model/lista_elementow.h"

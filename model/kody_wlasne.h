@@ -1,8 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include <QString>
 #include <QStringView>
-#include <optional>
 
 class ParametrySystemu;
 class TVLTBazaDanych;

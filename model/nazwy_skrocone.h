@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QString>
-#include <QStringView>
 #include <optional>
 #include <span>
-#include <unordered_map>
-#include <unordered_set>
+
+#include <QHash>
+#include <QSet>
+#include <QString>
 
 class TVLTBazaDanych;
 class TVLTBuforTowarow;
@@ -78,19 +78,38 @@ class TDmVLTNazwySkrocone {
 
  private:
   enum class Werdykt { Pusty, ZaKrotki, ZaDlugi, Znaki, Odstepy, Polskie, Male, Poprawny };
+  enum class Stan { Wolny, Chwilowy, Zajety };
+  struct Uzycie {
+    int towId;
+    QString nazwa;
+    bool aktywny;
+    bool wKodzieDodatkowym;
+  };
+  // Which codes of which good a name is made for, and what it may not collide with.
+  struct Cel {
+    const SkrotyTowaru& kody;
+    int indeks;
+    int wlasneId;
+    bool sprawdzajBaze;
+  };
+
   Werdykt Ocen(const QString& skrot) const;
+  std::optional<Uzycie> ZnajdzUzycie(const QString& skrot, int wlasneId) const;
+  bool NaPewnoWolny(const QString& skrot, int wlasneId) const;
   QString Podstawa(const QString& nazwa) const;
-  QString Kandydat(QStringView podstawa, QStringView przyrostek) const;
-  bool Zajety(const QString& skrot, int wlasneId, bool sprawdzajBaze) const;
-  bool NaPewnoWolny(const QString& skrot) const;
+  QString Poczatek(const QString& podstawa, int dlugoscPrzyrostka) const;
+  Stan StanKandydata(const QString& skrot, const Cel& cel) const;
+  std::optional<QString> UtworzZNumerem(const QString& podstawa, const Cel& cel);
+  std::optional<QString> UtworzOdNumeru(const QString& podstawa, const Cel& cel, int numer);
+  QString Nadaj(const QString& skrot);
 
   TVLTBazaDanych& m_baza;
   const TVLTBuforTowarow* m_bufor;
   RegulySkrotow m_reguly;
   // Fingerprints of handed-out names: of saved records, and of the record in hand.
-  std::unordered_set<size_t> m_nadane;
-  std::unordered_set<size_t> m_wstepne;
-  // Per beginning of numbered names: the number up to which all were found taken, so that thousands of equal
-  // names do not search from 1 again. A number is noted only when somebody else's stored name holds it.
-  std::unordered_map<size_t, int> m_odNumeru;
+  QSet<size_t> m_nadane;
+  QSet<size_t> m_wstepne;
+  // Per beginning of numbered names: the number below which all were found taken, so that thousands of equal
+  // names do not search from 1 again. Only numbers held by stored names of other goods are counted.
+  QHash<size_t, int> m_odNumeru;
 };

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QString>
-#include <QStringView>
 #include <array>
 #include <span>
 #include <utility>
 #include <vector>
+
+#include <QString>
+#include <QStringView>
 
 class TMConfig;
 class TVLTBazaDanych;

@@ -64,6 +64,8 @@ struct RegulyKodow {
   FormatyKodowWazonych formaty = {};
 
   static RegulyKodow ZParametrow(const ParametrySystemu& parametry, const FormatyKodowWazonych& formaty);
+  // Takes only what governs weighted codes; for rules whose other members come from an import's options.
+  void UstawWazone(const ParametrySystemu& parametry);
 
   RodzajKodu Rodzaj(QStringView kod) const;
   bool Wazony(QStringView kod) const { return Rodzaj(kod) == RodzajKodu::Wazony; }

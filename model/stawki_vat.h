@@ -2,7 +2,8 @@
 
 #include <QString>
 #include <QStringView>
-#include <vector>
+
+#include "platform/listy_liczb.h"
 
 class TVLTBazaDanych;
 
@@ -14,12 +15,12 @@ inline constexpr int kStawkaNajwyzsza = 10000;
 // Wczytaj, written back, whole, by Zapisz. 2003 for a position outside the set.
 class TVLTStawkiVat {
  public:
-  int Ilosc() const { return static_cast<int>(m_stawki.size()); }
+  int Ilosc() const { return static_cast<int>(m_stawki.Count()); }
   int Stawka(int index) const;
   // Clamps to -1..10000.
   void Dodaj(int stawka);
   void Usun(int index);
-  void Wyczysc() { m_stawki.clear(); }
+  void Wyczysc() { m_stawki.Clear(); }
   bool Zawiera(int stawka) const;
   // -1 when absent.
   int Indeks(int stawka) const;
@@ -35,7 +36,7 @@ class TVLTStawkiVat {
   bool DopiszDoBazy(TVLTBazaDanych& baza, int stawka);
 
  private:
-  std::vector<int> m_stawki;
+  TMacSetOfIntegers m_stawki{100};
 };
 
 // "ZW", or the percents with up to two decimals and a comma ("5,5"), with " %" behind when asked for.
