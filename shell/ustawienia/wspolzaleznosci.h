@@ -1,0 +1,69 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include <QString>
+
+#include "exchange/komunikat.h"
+
+struct OpcjeImportuKontrahentow;
+struct OpcjeImportuTowarow;
+struct StrukturaPliku;
+struct Ustawienia;
+
+// The rules that keep options consistent with each other and with the structures. They know no controls: the
+// window calls the rule of a control after the control has changed its member, and everybody who loads
+// settings calls ZastosujWspolzaleznosci afterwards.
+namespace wspolzaleznosci {
+
+// After every load of settings. The messages say which chosen options the structures did not allow.
+std::vector<Komunikat> ZastosujWspolzaleznosci(Ustawienia& ustawienia);
+
+// After the goods structure has been edited, and after the contractor structure has been.
+void PoZmianieStrukturyTow(Ustawienia& ustawienia);
+void PoZmianieStrukturyKontr(Ustawienia& ustawienia);
+
+// CBImportStanowChange: the stock field is offered exactly when stock is imported.
+void CBImportStanowChange(Ustawienia& ustawienia);
+// Whether cb_importStanowUjemnych is enabled.
+bool StanyUjemneDostepne(const OpcjeImportuTowarow& opcje);
+
+// RBPominTowarBezNazwyClick: a structure without names leaves nothing to skip; names are then made up.
+void RBPominTowarBezNazwyClick(Ustawienia& ustawienia);
+
+// RBTowaryAktywneClick, RBTowaryUsunieteClick and the contractor pair: a choice by status needs a structure
+// that tells the active from the deleted. Otherwise everything is imported again and the message is returned.
+std::optional<Komunikat> RBTowaryClick(Ustawienia& ustawienia);
+std::optional<Komunikat> RBKontrahenciClick(Ustawienia& ustawienia);
+
+void cb_aktkontrClick(OpcjeImportuKontrahentow& opcje);
+void cb_nowykontrClick(OpcjeImportuKontrahentow& opcje);
+// Whether the six buttons of the two tax-number groups are enabled.
+bool WyborNipDostepny(const OpcjeImportuKontrahentow& opcje);
+
+void UpDownMinDlugoscKoduClick(OpcjeImportuTowarow& opcje);
+void UpDownMaxDlugoscKoduClick(OpcjeImportuTowarow& opcje);
+// "1 znak", "3 znaki", "4 znaków".
+QString OpisDlugosciKodu(int dlugosc);
+
+// Boxes of which at least one stays checked.
+enum class GrupaPol { RodzajDomyslny, RodzajWysylany, Kontakty, ZnajomoscNip, ZakladPracyChronionej };
+
+struct PoleWyboru {
+  std::u16string_view nazwa;
+  GrupaPol grupa;
+  bool& (*wartosc)(Ustawienia&);
+  // The box checked again when the click on this one left the whole group unchecked.
+  std::u16string_view zamiast;
+};
+
+std::span<const PoleWyboru> TabelaConajmniejJednego();
+
+// After a click on a box of the table; other names change nothing. Returns the box that was checked again, or
+// null. Only a click does this: settings that leave a whole group unchecked are loaded as they are.
+const PoleWyboru* PoKliknieciu(Ustawienia& ustawienia, QStringView nazwaPola);
+
+}  // namespace wspolzaleznosci
