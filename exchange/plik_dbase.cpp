@@ -72,7 +72,8 @@ bool PlikDBase::WczytajNaglowek() {
   if (m_dlugoscNaglowka > m_plik.size())
     return Odmowa(QStringLiteral("Nagłówek (%1 bajtów) jest dłuższy niż plik").arg(m_dlugoscNaglowka));
   if (!WczytajPola(ilePol)) return false;
-  m_rekordow = (m_plik.size() - 1 - m_dlugoscNaglowka) / m_dlugoscRekordu;
+  // A file that ends with its header lacks even the byte that ends a file.
+  m_rekordow = std::max<qint64>(0, (m_plik.size() - 1 - m_dlugoscNaglowka) / m_dlugoscRekordu);
   return true;
 }
 

@@ -75,7 +75,7 @@ TEST(PlikDBase, LiczbaRekordowZRozmiaru) {
       {{.pola = kPola, .rekordy = {" 0001aaaaaa", " 0002bbbbbb"}, .koniec = ""}, 1},
       {{.pola = kPola, .rekordy = {" 0001aaaaaa", " 0002bb"}}, 1},
       {{.pola = kPola, .rekordy = {}}, 0},
-      {{.pola = kPola, .rekordy = {}, .koniec = ""}, 0},
+      {{.pola = kPola, .rekordy = {}, .dlugoscRekordu = 1, .koniec = ""}, 0},
       {{.pola = kPola, .rekordy = {std::string(5000, ' ')}, .dlugoscRekordu = 5000}, 1},
       {{.pola = std::vector(100, std::pair<std::string, int>("A", 255)),
         .rekordy = {std::string(50, ' ')},
