@@ -41,15 +41,4 @@ TEST(ZapisRekordow, LiniaNaRekord) {
             "a b c  \t0.00\t?x\t?\r\nok\r\n");
 }
 
-#ifdef Q_OS_LINUX
-TEST(ZapisRekordow, PelnyDysk) {
-  ZapisRekordow zapis;
-  ASSERT_TRUE(zapis.Otworz(u"/dev/full"_s));
-  zapis.Pole(u"x");
-  zapis.ZapiszRekord();
-  EXPECT_FALSE(zapis.Zamknij());
-  EXPECT_FALSE(zapis.OpisBledu().isEmpty());
-}
-#endif
-
 }  // namespace
