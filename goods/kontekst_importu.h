@@ -1,0 +1,53 @@
+#pragma once
+
+#include "exchange/czytnik.h"
+#include "exchange/katalog_pol.h"
+#include "exchange/struktura_pliku.h"
+
+class IOperator;
+class KodyWlasne;
+class Liczniki;
+class NumeracjaNazw;
+class RaportProblemow;
+class RozpoznawanieSlownikow;
+class Stany;
+class TDmVLTNazwySkrocone;
+class TVLTBuforNIP;
+class TVLTBuforTowarow;
+struct KontekstSesji;
+struct OpcjeImportuTowarow;
+struct RegulyKodow;
+
+// What the records of one goods import share. The run owns everything that is referred to here; nothing of it
+// changes hands while the run lasts.
+//
+// Around every record the run has a batch open, in whose transaction the units of the record
+// (JednostkaZapisu) are savepoints. Questions go through `oper`, which commits the batch first and opens one
+// again after the answer. Counters and report lines of the record belong to the batch.
+struct KontekstImportu {
+  KontekstSesji& sesja;
+  const OpcjeImportuTowarow& opcje;
+  const StrukturaPliku& struktura;
+  const Czytnik& plik;
+  char separator;  // the system's decimal mark, for LiniaRekordu::Liczba
+
+  TVLTBuforTowarow& bufor;
+  const TVLTBuforNIP* nipy;  // null when the file carries no tax numbers or they are not to be used
+  RozpoznawanieSlownikow& slowniki;
+  Stany& stany;
+  const RegulyKodow& reguly;  // made from the options; knows the weighted formats as they are now
+  KodyWlasne& kodyWlasne;
+  TDmVLTNazwySkrocone& skroty;
+  NumeracjaNazw& nazwy;
+
+  RaportProblemow& raport;
+  Liczniki& liczniki;
+  IOperator& oper;
+
+  // Whether the file carries a field at all.
+  bool NiesiePole(int pole) const { return plik.NiesiePole(pole); }
+  // Whether a field of a good that exists already is to be written.
+  bool Aktualizuje(int pole) const { return NiesiePole(pole) && struktura.CzyOferowane(pole); }
+  // Whether the record last read has a status to go by; without one every record is active.
+  bool MaStatus() const { return plik.MaStatus() && struktura.CzyOferowane(PoleTowaru::Status); }
+};

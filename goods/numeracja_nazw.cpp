@@ -1,0 +1,34 @@
+#include "goods/numeracja_nazw.h"
+
+#include <algorithm>
+
+#include "platform/baza/sesja.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString kPoczatek = u"Towar bez nazwy "_s;
+
+long long NajwyzszyNumer(TVLTBazaDanych& baza) {
+  long long najwyzszy = 0;
+  auto odczyt = baza.Otworz("select Nazwa from Towar where Nazwa >= :Od and Nazwa < :Do", {TypPola::Tekst},
+                            {{"Od", kPoczatek + u'0'}, {"Do", kPoczatek + u':'}});  // ':' follows '9'
+  while (odczyt.Nastepny()) {
+    bool liczba = false;
+    const long long numer = odczyt[0].AsString().mid(kPoczatek.size()).toLongLong(&liczba);
+    if (liczba) najwyzszy = std::max(najwyzszy, numer);
+  }
+  return najwyzszy;
+}
+
+}  // namespace
+
+QString NumeracjaNazw::Zaproponuj() {
+  if (!m_najwyzszy) m_najwyzszy = NajwyzszyNumer(m_baza);
+  return kPoczatek + QString::number(*m_najwyzszy + 1).rightJustified(4, u'0');
+}
+
+void NumeracjaNazw::Potwierdz() {
+  if (m_najwyzszy) ++*m_najwyzszy;
+}

@@ -1,0 +1,133 @@
+#include "run/przebieg.h"
+
+#include <exception>
+
+#include "model/kontekst.h"
+#include "platform/baza/sesja.h"
+#include "run/operator.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString Tekst(std::u16string_view tekst) {
+  return QString::fromUtf16(tekst.data(), static_cast<qsizetype>(tekst.size()));
+}
+
+QString Tresc(const EMException& blad) {
+  const QString tytul = blad.MacMessage();
+  const QString opis = blad.MacDescription();
+  if (tytul.isEmpty() || opis.isEmpty()) return tytul + opis;
+  return tytul + u"\n"_s + opis;
+}
+
+}  // namespace
+
+class Przebieg::PostepZapamietujacy final : public IPostep {
+ public:
+  PostepZapamietujacy(IPostep& postep, std::vector<Komunikat>& komunikaty)
+      : m_postep(postep), m_komunikaty(komunikaty) {}
+
+  void Faza(const QString& tekst, long long maksimum) override { m_postep.Faza(tekst, maksimum); }
+  void Pozycja(long long pozycja) override { m_postep.Pozycja(pozycja); }
+  void DopiszLiczbe(long long liczba) override { m_postep.DopiszLiczbe(liczba); }
+  void Gotowe() override { m_postep.Gotowe(); }
+  void Pokaz(const QString& tytul, const QString& tekst) override {
+    m_komunikaty.push_back({tytul, tekst});
+    m_postep.Pokaz(tytul, tekst);
+  }
+  void Koniec() override { m_postep.Koniec(); }
+
+ private:
+  IPostep& m_postep;
+  std::vector<Komunikat>& m_komunikaty;
+};
+
+Przebieg::Przebieg(const ParametryPrzebiegu& parametry, const OpisPrzebiegu& opis)
+    : m_parametry(parametry),
+      m_opis(opis),
+      m_zapamietujacy(std::make_unique<PostepZapamietujacy>(parametry.postep, m_komunikaty)),
+      m_postep(*m_zapamietujacy),
+      m_raport(m_postep, m_liczniki),
+      m_paczka(parametry.sesja.baza, m_liczniki, m_raport),
+      m_oper(parametry.oper, m_paczka) {}
+
+Przebieg::~Przebieg() = default;
+
+WynikPrzebiegu Przebieg::Wykonaj() {
+  const auto poczatek = std::chrono::steady_clock::now();
+  KoniecPrzebiegu koniec = KoniecPrzebiegu::Odmowa;
+  try {
+    if (const auto odmowa = Otworz())
+      Pokaz(*odmowa);
+    else
+      koniec = Prowadz();
+  } catch (const EMException& blad) {
+    koniec = PoWyjatku(blad.Naglowek(), Tresc(blad));
+  } catch (const std::exception& blad) {
+    koniec = PoWyjatku(u"Wystąpił błąd"_s, QString::fromLocal8Bit(blad.what()));
+  }
+  Zakoncz(koniec);
+  const std::chrono::duration<double> czas = std::chrono::steady_clock::now() - poczatek;
+  return {koniec, m_liczniki, std::move(m_komunikaty), m_raport.Sciezka(), czas.count()};
+}
+
+std::optional<Komunikat> Przebieg::Otworz() {
+  if (auto odmowa = OtworzPlik()) return odmowa;
+  if (m_opis.plikPominietych.empty()) return std::nullopt;
+  const QString& wybrany = m_parametry.katalogPominietych;
+  return m_raport.Otworz(wybrany.isEmpty() ? RaportProblemow::KatalogProgramu() : wybrany,
+                         Tekst(m_opis.plikPominietych), RaportProblemow::KatalogZapasowy());
+}
+
+KoniecPrzebiegu Przebieg::Prowadz() {
+  m_postep.Faza(u"łączenie z bazą VLT Win"_s);
+  if (!m_parametry.sesja.baza.Polaczona()) m_parametry.sesja.baza.Polacz();
+  m_postep.Gotowe();
+  if (const auto koniec = Przygotuj()) return *koniec;
+  const KoniecPrzebiegu koniec = Cialo();
+  m_paczka.Zatwierdz();
+  m_parametry.sesja.baza.Utrwal();
+  return koniec;
+}
+
+KoniecPrzebiegu Przebieg::PoWyjatku(const QString& naglowek, const QString& tekst) {
+  m_paczka.UratujCoSieDa();
+  PoBledzie();
+  OglosBlad(naglowek, tekst);
+  return KoniecPrzebiegu::Blad;
+}
+
+KoniecPrzebiegu Przebieg::PrzerwanoPrzezOperatora() {
+  m_postep.Faza(u"Aktualizacja przerwana przez operatora"_s);
+  m_postep.Gotowe();
+  return KoniecPrzebiegu::Przerwano;
+}
+
+void Przebieg::OglosBlad(const QString& naglowek, const QString& tekst) {
+  const long long rekordow = m_liczniki[Licznik::Rekordy];
+  m_postep.Pokaz(naglowek, tekst + (rekordow == 0 ? u"\nNie zapisano w bazie wyniku żadnego rekordu."_s
+                                                  : u"\nZapisano w bazie wynik pracy do rekordu "_s +
+                                                        QString::number(rekordow) + u" włącznie."_s));
+}
+
+void Przebieg::Zakoncz(KoniecPrzebiegu koniec) {
+  if (koniec == KoniecPrzebiegu::Odmowa) {
+    ZamknijPlik();
+    m_raport.Zamknij();
+    m_postep.Koniec();
+    return;
+  }
+  m_postep.Faza(Tekst(m_opis.zamykaniePliku));
+  ZamknijPlik();
+  m_raport.Zamknij();
+  m_postep.Gotowe();
+  if (koniec != KoniecPrzebiegu::Blad) m_postep.Pokaz(u"Koniec"_s, Tekst(m_opis.zakonczono));
+  PrzedPodsumowaniem();
+  for (const PozycjaPodsumowania& pozycja : m_opis.podsumowanie) {
+    m_postep.Faza(Tekst(pozycja.tekst));
+    m_postep.DopiszLiczbe(m_liczniki[pozycja.licznik]);
+    m_postep.Gotowe();
+  }
+  m_postep.Koniec();
+}

@@ -1,0 +1,100 @@
+#include "run/przebieg_importu.h"
+
+#include "exchange/czytnik.h"
+#include "run/pytanie_o_liczbe_pol.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+PrzebiegImportu::PrzebiegImportu(const ParametryPrzebiegu& parametry, const OpisPrzebiegu& opis)
+    : Przebieg(parametry, opis), m_czytnik(UtworzCzytnik(parametry.struktura)) {}
+
+PrzebiegImportu::~PrzebiegImportu() = default;
+
+std::optional<Komunikat> PrzebiegImportu::OtworzPlik() {
+  if (auto odmowa = m_czytnik->Otworz(Parametry().plik)) return odmowa;
+  return m_czytnik->SprawdzPola();
+}
+
+void PrzebiegImportu::ZamknijPlik() {
+  m_czytnik.reset();
+}
+
+std::optional<KoniecPrzebiegu> PrzebiegImportu::Przygotuj() {
+  if (!PrzygotujBufory()) return PrzerwanoPrzezOperatora();
+  return PrzejrzyjPlik();
+}
+
+std::optional<KoniecPrzebiegu> PrzebiegImportu::PrzejrzyjPlik() {
+  Postep().Faza(u"Wstępne przeglądanie pliku"_s, m_czytnik->Rozmiar());
+  DlawikPostepu dlawik;
+  const WynikLiczenia wynik = m_czytnik->Policz([&](qint64 pozycja) {
+    if (dlawik.Przepusc()) Postep().Pozycja(pozycja);
+    return !Stop();
+  });
+  if (wynik.przerwano) return PrzerwanoPrzezOperatora();
+  if (wynik.odmowa) {
+    Pokaz(*wynik.odmowa);
+    return KoniecPrzebiegu::Odmowa;
+  }
+  Postep().Pozycja(m_czytnik->Rozmiar());
+  Postep().Gotowe();
+  m_rekordow = wynik.rekordow;
+  Postep().Faza(u"Ilość rekordów do przetworzenia "_s);
+  Postep().DopiszLiczbe(m_rekordow);
+  Postep().Gotowe();
+  return std::nullopt;
+}
+
+KoniecPrzebiegu PrzebiegImportu::Cialo() {
+  PrzedRekordami();
+  Postep().Faza(u"Numer aktualnego rekordu "_s, m_rekordow);
+  PytanieOLiczbePol pytanie(Operator());
+  DlawikPostepu dlawik;
+  const auto pokazNumer = [&] {
+    Postep().Pozycja(m_czytnik->NumerRekordu());
+    Postep().DopiszLiczbe(m_czytnik->NumerRekordu());
+  };
+  const auto zakoncz = [&](KoniecPrzebiegu koniec) {
+    pokazNumer();
+    Postep().Gotowe();
+    return koniec;
+  };
+  while (!Stop()) {
+    switch (m_czytnik->Nastepny()) {
+      case WynikCzytania::Pominiety:
+        continue;
+      case WynikCzytania::Koniec:
+        return zakoncz(KoniecPrzebiegu::Zakonczono);
+      case WynikCzytania::Blad:
+        m_paczka.Zatwierdz();
+        OglosBlad(m_czytnik->Blad()->naglowek, m_czytnik->Blad()->tekst);
+        return zakoncz(KoniecPrzebiegu::Blad);
+      case WynikCzytania::Rekord:
+        break;
+    }
+    if (dlawik.Przepusc()) pokazNumer();
+    m_paczka.PrzedRekordem();
+    switch (pytanie.Zapytaj(m_czytnik->SprawdzLiczbePol())) {
+      case OdpowiedzLiczbaPol::Przerwij:
+        return zakoncz(KoniecPrzebiegu::Przerwano);
+      case OdpowiedzLiczbaPol::Pomin:
+        PominRekord();
+        break;
+      case OdpowiedzLiczbaPol::Ignoruj:
+        if (Rekord(*m_czytnik) == PoRekordzie::Stop) {
+          zakoncz(KoniecPrzebiegu::Przerwano);
+          return PrzerwanoPrzezOperatora();
+        }
+    }
+    m_liczniki.Zwieksz(Licznik::Rekordy);
+  }
+  zakoncz(KoniecPrzebiegu::Przerwano);
+  return PrzerwanoPrzezOperatora();
+}
+
+void PrzebiegImportu::PominRekord() {
+  LiniaRekordu linia = m_czytnik->Linia();
+  const QString pole0 = linia.Tekst();
+  m_raport.NowyRekord(pole0, linia.Tekst());
+  m_raport.Zglos(m_czytnik->SprawdzLiczbePol()->Pytanie().tekst);
+}
