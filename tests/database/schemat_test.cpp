@@ -1,10 +1,8 @@
 #include "database/schemat.h"
 
-#include <QTemporaryDir>
-
 #include <gmock/gmock.h>
 
-#include "platform/baza/sesja.h"
+#include "tests/wspolne/baza_testowa.h"
 
 namespace {
 
