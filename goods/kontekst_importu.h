@@ -12,7 +12,7 @@ class RaportProblemow;
 class RozpoznawanieSlownikow;
 class Stany;
 class TDmVLTNazwySkrocone;
-class TVLTBuforNIP;
+class TVLTBuforNip;
 class TVLTBuforTowarow;
 struct KontekstSesji;
 struct OpcjeImportuTowarow;
@@ -32,7 +32,7 @@ struct KontekstImportu {
   char separator;  // the system's decimal mark, for LiniaRekordu::Liczba
 
   TVLTBuforTowarow& bufor;
-  const TVLTBuforNIP* nipy;  // null when the file carries no tax numbers or they are not to be used
+  const TVLTBuforNip* nipy;  // null when the file carries no tax numbers or they are not to be used
   RozpoznawanieSlownikow& slowniki;
   Stany& stany;
   const RegulyKodow& reguly;  // made from the options; knows the weighted formats as they are now

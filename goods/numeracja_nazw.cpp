@@ -12,8 +12,8 @@ const QString kPoczatek = u"Towar bez nazwy "_s;
 
 long long NajwyzszyNumer(TVLTBazaDanych& baza) {
   long long najwyzszy = 0;
-  auto odczyt = baza.Otworz("select Nazwa from Towar where Nazwa >= :Od and Nazwa < :Do", {TypPola::Tekst},
-                            {{"Od", kPoczatek + u'0'}, {"Do", kPoczatek + u':'}});  // ':' follows '9'
+  auto odczyt = baza.Otworz("select Nazwa from Towar where Nazwa like :Wzor", {TypPola::Tekst},
+                            {{"Wzor", kPoczatek + u'%'}});
   while (odczyt.Nastepny()) {
     bool liczba = false;
     const long long numer = odczyt[0].AsString().mid(kPoczatek.size()).toLongLong(&liczba);

@@ -1,0 +1,256 @@
+#include "exchange/czytnik.h"
+#include "model/kontekst.h"
+#include "model/parametry_systemu.h"
+#include "platform/baza/transakcja.h"
+#include "run/przebieg_importu.h"
+#include "tests/wspolne/baza_testowa.h"
+#include "tests/wspolne/przebieg_testowy.h"
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using testing::ElementsAre;
+
+constexpr PozycjaPodsumowania kPodsumowanie[] = {{Licznik::Dodane, u"Dodanych "},
+                                                 {Licznik::Pominiete, u"Pominiętych "}};
+constexpr OpisPrzebiegu kOpis{u"POMINIETE.TXT", u"zamykanie", u"Zakończono", kPodsumowanie};
+
+// Stores the name of every record; "zly" is refused, "pytanie" asks first, "stop" ends the run.
+class PrzebiegProbny final : public PrzebiegImportu {
+ public:
+  explicit PrzebiegProbny(const ParametryPrzebiegu& parametry) : PrzebiegImportu(parametry, kOpis) {}
+  std::function<void()> poRekordzie = [] {};
+  bool poBledzie = false;
+
+ protected:
+  bool PrzygotujBufory() override { return true; }
+  void PrzedRekordami() override {}
+  void PoBledzie() override { poBledzie = true; }
+  PoRekordzie Rekord(Czytnik& czytnik) override {
+    const QString kod = czytnik.Linia().Tekst();
+    const QString nazwa = czytnik.Linia().Tekst();
+    m_raport.NowyRekord(kod, nazwa);
+    if (nazwa == u"stop") return PoRekordzie::Stop;
+    if (nazwa == u"pytanie") Operator().PodajTekst({u"Uwaga"_s, u"Nazwa?"_s});
+    if (nazwa == u"zły") {
+      m_raport.Zglos(u"Żle"_s, false);
+      m_raport.Zglos(u"Bardzo źle"_s);
+      m_raport.Zglos(u"Najgorzej"_s);
+    } else {
+      JednostkaZapisu jednostka(Parametry().sesja.baza);
+      Parametry().sesja.baza.ExecSQL("insert into Proba (Nazwa) values (:Nazwa)", {{"Nazwa", nazwa}});
+      jednostka.Zatwierdz();
+      m_liczniki.Zwieksz(Licznik::Dodane);
+    }
+    poRekordzie();
+    return PoRekordzie::Dalej;
+  }
+};
+
+class PrzebiegTest : public testing::Test {
+ protected:
+  PrzebiegTest() {
+    struktura.CBTypPliku = TypPliku::Rozdzielany;
+    struktura.separator = u";"_s;
+    struktura.CBNieAnalizujPierwszejLinii = false;
+    struktura.pola = {WpisPola(u"00"_s), WpisPola(u"01"_s)};
+    baza.baza.ExecSQL("create table Proba (Nazwa text)");
+  }
+
+  WynikPrzebiegu Uruchom(const QByteArray& tresc) {
+    QFile plik(folder.filePath(u"plik.txt"_s));
+    EXPECT_TRUE(plik.open(QIODevice::WriteOnly));
+    plik.write(tresc);
+    plik.close();
+    return Wykonaj(plik.fileName());
+  }
+  WynikPrzebiegu Wykonaj(const QString& sciezka) {
+    PrzebiegProbny przebieg({sesja, struktura, sciezka, postep, oper, stop, '.', katalog});
+    przebieg.poRekordzie = poRekordzie;
+    const WynikPrzebiegu wynik = przebieg.Wykonaj();
+    poBledzie = przebieg.poBledzie;
+    return wynik;
+  }
+  static QByteArray Rekordy(int ile) {
+    QByteArray tresc;
+    for (int i = 1; i <= ile; ++i) tresc += QByteArray::number(i) + ";nazwa\n";
+    return tresc;
+  }
+  long long Zapisanych() { return baza.Liczba("select count(*) from Proba"); }
+  QByteArray Pominiete() { return Zawartosc(folder.filePath(u"POMINIETE.TXT"_s)); }
+
+  QTemporaryDir folder;
+  QString katalog = folder.path();
+  BazaTestowa baza;
+  ParametrySystemu parametry;
+  KontekstSesji sesja{baza.baza, parametry};
+  StrukturaPliku struktura{RodzajRekordu::Towary};
+  PostepTestowy postep;
+  OperatorTestowy oper;
+  std::atomic<bool> stop{false};
+  std::function<void()> poRekordzie = [] {};
+  bool poBledzie = false;
+};
+
+TEST_F(PrzebiegTest, CalyPlik) {
+  const WynikPrzebiegu wynik = Uruchom("1;chleb\n#\n2;z\xB3y\n3;mleko\n");  // "zły"
+  EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Zakonczono);
+  EXPECT_THAT(postep.linie,
+              ElementsAre(u"łączenie z bazą VLT Win"_s, u"Wstępne przeglądanie pliku"_s,
+                          u"Ilość rekordów do przetworzenia 3"_s, u"Numer aktualnego rekordu 3"_s,
+                          u"zamykanie"_s, u"Koniec: Zakończono"_s, u"Dodanych 2"_s, u"Pominiętych 1"_s));
+  EXPECT_TRUE(postep.koniec);
+  EXPECT_EQ(wynik.komunikaty.size(), 1u);
+  EXPECT_EQ(Zapisanych(), 2);
+  EXPECT_EQ(Pominiete(), "2 | z\xB3y | \xAFle\r\n2 | z\xB3y | Bardzo \x9Fle\r\n2 | z\xB3y | Najgorzej\r\n");
+  EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 1);
+}
+
+TEST_F(PrzebiegTest, NajwyzejDwiescieRekordowWPaczce) {
+  EXPECT_EQ(Uruchom(Rekordy(401)).liczniki[Licznik::Dodane], 401);
+  EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 3);
+}
+
+TEST_F(PrzebiegTest, OdmowaPrzedPrzebiegiem) {
+  EXPECT_EQ(Wykonaj(u"/nie/ma"_s).koniec, KoniecPrzebiegu::Odmowa);
+  EXPECT_EQ(postep.linie, QStringList{u"UWAGA: Plik /nie/ma nie istnieje"_s});
+  postep.linie.clear();
+  EXPECT_EQ(Uruchom(QByteArray("1;a\n2;b\n").append('\0')).koniec, KoniecPrzebiegu::Odmowa);
+  EXPECT_EQ(Zapisanych(), 0);
+}
+
+// The file of the last run is emptied; where it cannot be made, another folder is taken and named.
+TEST_F(PrzebiegTest, PlikPominietych) {
+  PostepTestowy cichy;
+  Liczniki liczniki;
+  const QString zapas = folder.filePath(u"zapas"_s);
+  const auto otworz = [&](const QString& gdzie, const QString& zapasowy) {
+    RaportProblemow raport(cichy, liczniki);
+    const auto odmowa = raport.Otworz(gdzie, u"POMINIETE.TXT"_s, zapasowy);
+    return odmowa ? odmowa->tekst : raport.Sciezka();
+  };
+  EXPECT_EQ(otworz(folder.filePath(u"brak"_s), zapas), zapas + u"/POMINIETE.TXT"_s);
+  EXPECT_EQ(cichy.linie,
+            QStringList{u"UWAGA: Nie udało się utworzyć pliku POMINIETE.TXT na "_s +
+                        folder.filePath(u"brak/"_s) + u"\nPlik zostanie utworzony na "_s + zapas + u"/"_s});
+  const QString niemozliwy = zapas + u"/POMINIETE.TXT"_s;  // a file where a folder should be
+  EXPECT_EQ(otworz(niemozliwy, niemozliwy), KomunikatBladOtwarcia(niemozliwy + u"/POMINIETE.TXT"_s).tekst);
+  Uruchom("1;z\xB3y\n");
+  Uruchom("1;a\n");
+  EXPECT_EQ(Pominiete(), "");
+}
+
+TEST_F(PrzebiegTest, Przerwanie) {
+  poRekordzie = [this] { stop = Zapisanych() == 2; };
+  EXPECT_EQ(Uruchom("1;a\n2;b\n3;c\n").koniec, KoniecPrzebiegu::Przerwano);
+  EXPECT_EQ(Zapisanych(), 2);
+  EXPECT_THAT(postep.linie.mid(4), ElementsAre(u"Aktualizacja przerwana przez operatora"_s, u"zamykanie"_s,
+                                               u"Koniec: Zakończono"_s, u"Dodanych 2"_s, u"Pominiętych 0"_s));
+  stop = false;
+  poRekordzie = [] {};
+  EXPECT_EQ(Uruchom("1;a\n2;stop\n3;c\n").koniec, KoniecPrzebiegu::Przerwano);
+  EXPECT_EQ(Zapisanych(), 3);
+}
+
+TEST_F(PrzebiegTest, ZaMaloPol) {
+  struct {
+    OdpowiedzLiczbaPol odpowiedz;
+    KoniecPrzebiegu koniec;
+    int pytan, dodanych, pominietych;
+  } const przypadki[] = {
+      {OdpowiedzLiczbaPol::Przerwij, KoniecPrzebiegu::Przerwano, 1, 1, 0},
+      {OdpowiedzLiczbaPol::Pomin, KoniecPrzebiegu::Zakonczono, 2, 2, 2},
+      {OdpowiedzLiczbaPol::Ignoruj, KoniecPrzebiegu::Zakonczono, 1, 4, 0},
+  };
+  for (const auto& p : przypadki) {
+    SCOPED_TRACE(static_cast<int>(p.odpowiedz));
+    oper.liczbaPol = p.odpowiedz;
+    oper.pytania.clear();
+    const WynikPrzebiegu wynik = Uruchom("1;a\n2\n3\n4;d\n");
+    EXPECT_EQ(wynik.koniec, p.koniec);
+    EXPECT_EQ(oper.pytania.size(), p.pytan);
+    EXPECT_EQ(oper.pytania[0], u"Liczba pól w rekordzie 2 wynosi 1, deklarowana liczba pól wynosi 2."_s);
+    EXPECT_EQ(wynik.liczniki[Licznik::Dodane], p.dodanych);
+    EXPECT_EQ(wynik.liczniki[Licznik::Pominiete], p.pominietych);
+    EXPECT_EQ(postep.linie.contains(u"Aktualizacja przerwana przez operatora"_s), false);
+  }
+}
+
+TEST_F(PrzebiegTest, PrzedPytaniemPaczkaJestZatwierdzona) {
+  long long widoczne = -1;
+  oper.przyPytaniu = [&] {
+    TVLTBazaDanych inna;
+    baza.Polacz(inna);
+    auto odczyt = inna.Otworz("select count(*) from Proba", {TypPola::Calkowite});
+    odczyt.Nastepny();
+    widoczne = odczyt[0].AsInteger();
+    EXPECT_FALSE(baza.baza.GetCzyWTransakcji());
+  };
+  EXPECT_EQ(Uruchom("1;a\n2;pytanie\n").koniec, KoniecPrzebiegu::Zakonczono);
+  EXPECT_EQ(widoczne, 1);
+  EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 2);
+}
+
+// A fault inside a unit leaves the units before it; a fault of the commit takes the batch with its counters
+// and lines.
+TEST_F(PrzebiegTest, BladBazyKonczyPrzebieg) {
+  struct {
+    std::string_view polecenie;
+    int wystapienie;
+    int zapisanych;
+  } const przypadki[] = {{"insert", 3, 2}, {"release", 2, 1}, {"commit", 1, 0}, {"commit", 2, 200}};
+  for (const auto& p : przypadki) {
+    SCOPED_TRACE(std::string(p.polecenie) + std::to_string(p.wystapienie));
+    baza.baza.ExecSQL("delete from Proba");
+    int ktore = 0;
+    baza.baza.UstawPodsluch([&](std::string_view sql) {
+      if (sql.starts_with(p.polecenie) && ++ktore == p.wystapienie)
+        throw EBladBazy(RodzajBleduBazy::PelnyDysk, u"Brak miejsca"_s, {});
+    });
+    const WynikPrzebiegu wynik = Uruchom("0;z\xB3y\n" + Rekordy(300));
+    baza.baza.UstawPodsluch({});
+    EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Blad);
+    EXPECT_TRUE(poBledzie);
+    // A batch of 200 begins with the refused record.
+    const int dodanych = p.zapisanych == 200 ? 199 : p.zapisanych;
+    EXPECT_EQ(Zapisanych(), dodanych);
+    EXPECT_EQ(wynik.liczniki[Licznik::Dodane], dodanych);
+    EXPECT_EQ(Pominiete().count('\n'), p.zapisanych == 0 ? 0 : 3);
+    ASSERT_EQ(wynik.komunikaty.size(), 1u);
+    EXPECT_TRUE(wynik.komunikaty[0].tekst.contains(u"Brak miejsca"_s));
+    EXPECT_TRUE(wynik.komunikaty[0].tekst.contains(dodanych == 0 ? u"Nie zapisano"_s : u"do rekordu "_s));
+    EXPECT_FALSE(baza.baza.GetCzyWTransakcji());
+  }
+}
+
+TEST_F(PrzebiegTest, CudzeZmianyOdswiezajaPamiec) {
+  std::vector<bool> otwarcia;
+  Liczniki liczniki;
+  RaportProblemow raport(postep, liczniki);
+  PaczkaZapisow paczka(baza.baza, liczniki, raport);
+  paczka.PoOtwarciu = [&](bool obce) { otwarcia.push_back(obce); };
+  TVLTBazaDanych inna;
+  baza.Polacz(inna);
+  for (const bool obca : {false, false, true, false}) {
+    if (obca) inna.ExecSQL("insert into Proba (Nazwa) values ('obca')");
+    paczka.PrzedRekordem();
+    baza.baza.ExecSQL("insert into Proba (Nazwa) values ('nasza')");
+    paczka.Zatwierdz();
+  }
+  EXPECT_THAT(otwarcia, ElementsAre(true, false, true, false));
+}
+
+TEST(OperatorNieobecny, BezpieczneOdpowiedziOglaszaRaz) {
+  PostepTestowy postep;
+  OperatorNieobecny oper(postep, OdpowiedzLiczbaPol::Pomin);
+  EXPECT_EQ(oper.LiczbaPol({u"Uwaga"_s, u"Za mało."_s}), OdpowiedzLiczbaPol::Pomin);
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_FALSE(oper.CzyTak({u"Uwaga"_s, u"Czy?"_s}, false));
+    EXPECT_EQ(oper.PodajTekst({u"Uwaga"_s, u"Jaki?"_s}), std::nullopt);
+  }
+  EXPECT_THAT(postep.linie, ElementsAre(u"Uwaga: Za mało. Odpowiedź bez operatora: pomiń ten rekord"_s,
+                                        u"Uwaga: Czy? Odpowiedź bez operatora (także dalej): nie"_s,
+                                        u"Uwaga: Jaki? Odpowiedź bez operatora (także dalej): brak"_s));
+}
+
+}  // namespace

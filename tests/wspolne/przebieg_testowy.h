@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+
+#include <QFile>
+#include <QStringList>
+
+#include "run/operator.h"
+#include "run/postep.h"
+
+// What a run showed: one text per line, the last number behind it; message boxes as "TYTUŁ: tekst".
+class PostepTestowy final : public IPostep {
+ public:
+  QStringList linie;
+  bool koniec = false;
+
+  void Faza(const QString& tekst, long long /*maksimum*/) override {
+    m_tekst = tekst;
+    linie << tekst;
+  }
+  void Pozycja(long long /*pozycja*/) override {}
+  void DopiszLiczbe(long long liczba) override { linie.last() = m_tekst + QString::number(liczba); }
+  void Gotowe() override {}
+  void Pokaz(const QString& tytul, const QString& tekst) override {
+    linie << tytul + QStringLiteral(": ") + tekst;
+  }
+  void Koniec() override { koniec = true; }
+
+ private:
+  QString m_tekst;
+};
+
+// Answers every question with what the test says; `przyPytaniu` is called first.
+class OperatorTestowy final : public IOperator {
+ public:
+  OdpowiedzLiczbaPol liczbaPol = OdpowiedzLiczbaPol::Przerwij;
+  Poprawka poprawka = Poprawka::Zrezygnowano;
+  std::optional<QString> tekst;
+  std::function<void()> przyPytaniu = [] {};
+  QStringList pytania;
+
+  bool JestOsoba() const override { return true; }
+  OdpowiedzLiczbaPol LiczbaPol(const Komunikat& pytanie) override { return Zapisz(pytanie.tekst), liczbaPol; }
+  Poprawka Popraw(TDmVLTElement&, const QString& odmowa) override { return Zapisz(odmowa), poprawka; }
+  bool CzyTak(const Komunikat& pytanie, bool bezpieczna) override {
+    return Zapisz(pytanie.tekst), bezpieczna;
+  }
+  std::optional<QString> PodajTekst(const Komunikat& pytanie) override {
+    return Zapisz(pytanie.tekst), tekst;
+  }
+
+ private:
+  void Zapisz(const QString& pytanie) {
+    pytania << pytanie;
+    przyPytaniu();
+  }
+};
+
+inline QByteArray Zawartosc(const QString& sciezka) {
+  QFile plik(sciezka);
+  return plik.open(QIODevice::ReadOnly) ? plik.readAll() : QByteArray("?");
+}
