@@ -19,7 +19,7 @@ constexpr QStringView kKrotkie[] = {u"nie tworzyć", u"zgodne z opcją 'Kody zac
 constexpr QStringView kNaKasy[] = {u"nie wysyłać na urządzenia", u"wysyłać na urządzenia"};
 
 struct Wiersz {
-  QStringView nazwa;
+  QStringView nazwa = {};
   QStringView domyslna = {};
   QStringView tytul = {};  // only the parameters that govern codes and prices have one
   std::span<const QStringView> wybory = {};
