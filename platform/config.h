@@ -37,7 +37,8 @@ class TMConfig {
   void Ustaw(const QString& nazwa, const QString& wartosc);
   // Null when there is no such parameter; valid until the next Ustaw.
   const TMCfgParam* ParamByName(const QString& nazwa) const;
-  const TMCfgParams& Params() const { return m_parametry; }
+  const TMCfgParams& Params() const& { return m_parametry; }
+  const TMCfgParams& Params() const&& = delete;  // would not outlive the temporary
   bool CzyPusta() const { return m_parametry.empty(); }
 
   // Values by name; the given default when the parameter is missing or unreadable.

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "exchange/czytnik.h"
 #include "platform/baza/sesja.h"
 #include "platform/config.h"
 #include "ustawienia/tabela_ustawien.h"
@@ -16,11 +17,6 @@ Komunikat Uwaga(const QString& tekst) {
   return {QStringLiteral("UWAGA"), tekst};
 }
 
-Komunikat BladOtwarcia(const QString& sciezka) {
-  return Uwaga(QStringLiteral("Błąd otwarcia pliku ") + sciezka +
-               QStringLiteral("\nByć może plik jest używany przez inną aplikację"));
-}
-
 Komunikaty Zastosuj(const TMConfig& config, Ustawienia& ustawienia) {
   Komunikaty komunikaty;
   for (const QString& klucz : ZastosujUstawienia(config, ustawienia))
@@ -31,7 +27,7 @@ Komunikaty Zastosuj(const TMConfig& config, Ustawienia& ustawienia) {
 
 WynikImportu WczytajPlik(const QString& sciezka, Ustawienia& ustawienia) {
   TMConfig config;
-  if (plik_konfiguracji::Wczytaj(sciezka, config)) return {false, {BladOtwarcia(sciezka)}};
+  if (plik_konfiguracji::Wczytaj(sciezka, config)) return {false, {KomunikatBladOtwarcia(sciezka)}};
   return {true, Zastosuj(config, ustawienia)};
 }
 
@@ -59,7 +55,6 @@ Komunikaty WczytajZBazy(TVLTBazaDanych& baza, Ustawienia& ustawienia) {
   TMConfig config;
   ZapiszUstawienia(ustawienia, config);
   baza.WczytajKonfiguracje(NazwaKonfiguracji(), config);
-  if (config.CzyPusta()) return {};
   return Zastosuj(config, ustawienia);
 }
 
@@ -70,8 +65,7 @@ void ZapiszDoBazy(TVLTBazaDanych& baza, const Ustawienia& ustawienia) {
 }
 
 WynikImportu ImportujZPliku(const QString& sciezka, Ustawienia& ustawienia) {
-  if (!QFileInfo::exists(sciezka))
-    return {false, {Uwaga(QStringLiteral("Plik ") + sciezka + QStringLiteral(" nie istnieje"))}};
+  if (!QFileInfo::exists(sciezka)) return {false, {KomunikatBrakPliku(sciezka)}};
   return WczytajPlik(sciezka, ustawienia);
 }
 

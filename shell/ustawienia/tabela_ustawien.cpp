@@ -321,7 +321,7 @@ std::optional<int> NumerWpisu(const Ustawienie& lista, const QString& klucz) {
   if (lista.rdzen.empty() || !klucz.startsWith(QStringView(lista.rdzen))) return std::nullopt;
   const std::optional<int> numer =
       liczby::Calkowita(QStringView(klucz).mid(static_cast<qsizetype>(lista.rdzen.size())));
-  if (!numer || KluczWpisu(lista, *numer) != klucz) return std::nullopt;
+  if (!numer || *numer < 0 || KluczWpisu(lista, *numer) != klucz) return std::nullopt;
   return numer;
 }
 
