@@ -22,9 +22,9 @@ struct UstawieniaKodowWlasnych {
   static UstawieniaKodowWlasnych ZParametrow(const ParametrySystemu& parametry);
 };
 
-// Issues codes for goods that have none. A sequential number stands as it is; an EAN-8 is prefix, 4 digits
+// Hands out codes for goods that have none. A sequential number stands as it is; an EAN-8 is prefix, 4 digits
 // and check digit, an EAN-13 prefix, 9 digits and check digit. A number is free when no good has its code as
-// main or additional code and this run has not issued it. With reuse the lowest free number from the first
+// main or additional code and this run has not given it out. With reuse the lowest free number from the first
 // one is taken, otherwise one more than the highest ever seen. Call order: Zaproponuj, save the good,
 // Potwierdz. A proposal that was not confirmed is proposed again. One pass over the codes at the first use
 // (only without reuse), then each number is looked at once in a run.

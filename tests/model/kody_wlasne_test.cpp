@@ -27,7 +27,7 @@ class WlasneKody : public testing::Test {
                      {{"TowId", id}, {"Kod", dodatkowy}});
   }
   KodyWlasne Kody(UstawieniaKodowWlasnych ustawienia) { return {b.baza, bufor, reguly, ustawienia}; }
-  // Issues a code as an import does.
+  // Gives a code out as an import does.
   QString Nadaj(KodyWlasne& kody) {
     const auto kod = kody.Zaproponuj();
     if (!kod) return {};
