@@ -1,8 +1,9 @@
 #include "platform/config.h"
 
+#include <algorithm>
+
 #include <QFile>
 #include <QSaveFile>
-#include <algorithm>
 
 #include "platform/liczby.h"
 #include "platform/windows1250.h"

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QHash>
-#include <QString>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include <QHash>
+#include <QString>
 
 // One named parameter; every value is a text.
 class TMCfgParam {
