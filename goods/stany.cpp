@@ -1,0 +1,56 @@
+#include "goods/stany.h"
+
+#include "model/kontekst.h"
+#include "model/magazyny.h"
+#include "platform/baza/sesja.h"
+#include "platform/baza/transakcja.h"
+#include "platform/liczby.h"
+#include "run/liczniki.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Stocks are written with six decimals; compared in that form, a longer number in a file is the same every
+// time.
+double JakZapisana(double ilosc) {
+  return liczby::Liczba(liczby::Lf(ilosc), '.').value_or(ilosc);
+}
+
+double ObecnyStan(TVLTBazaDanych& baza, int towId, int magId) {
+  auto odczyt = baza.Otworz("select StanMag from ISTW where TowId = :TowId and MagId = :MagId",
+                            {TypPola::Dziesietne}, {{"TowId", towId}, {"MagId", magId}});
+  return odczyt.Nastepny() ? odczyt[0].AsFloat() : 0;
+}
+
+}  // namespace
+
+void Stany::WczytajMagazyny() {
+  TDmVLTListaMagazynow lista(m_sesja);
+  lista.Otworz();
+  if (lista.Ilosc() == 0) {
+    TDmVLTMagazyn magazyn(m_sesja);
+    magazyn.Nowy();
+    magazyn.UstawNazwe(u"Magazyn nr 1"_s);
+    magazyn.Zapisz();
+    lista.Przyjmij(magazyn);
+  }
+  m_magazyny.clear();
+  for (int i = 0; i < lista.Ilosc(); ++i) {
+    lista.UstawPozycje(i);
+    m_magazyny.push_back(lista.IdBiezacego());
+  }
+}
+
+bool Stany::Ustaw(int towId, int n, double ilosc) {
+  if (n < 1 || n > static_cast<int>(m_magazyny.size())) return false;
+  const int magId = m_magazyny[static_cast<std::size_t>(n - 1)];
+  const double nowa = JakZapisana(ilosc);
+  if (nowa == ObecnyStan(m_sesja.baza, towId, magId)) return false;
+  JednostkaZapisu jednostka(m_sesja.baza);
+  m_sesja.baza.ExecSQL("update ISTW set StanMag = :StanMag where TowId = :TowId and MagId = :MagId",
+                       {{"StanMag", nowa}, {"TowId", towId}, {"MagId", magId}});
+  jednostka.Zatwierdz();
+  m_liczniki.Zwieksz(Licznik::Stany);
+  return true;
+}
