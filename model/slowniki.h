@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <QHash>
 #include <QString>
 
@@ -36,16 +38,18 @@ class TDmVLTWpisSlownika : public TDmVLTElement {
 
  private:
   void SprawdzNazwe(int wlasneId) const;
+  std::vector<Parametr> Wartosci() const;
 
   const OpisSlownika& m_opis;
 };
 
-// A dictionary in memory, by identifier. An entry is found by its name without regard to case (all letters of
-// Unicode in one way); of entries that differ in case only, the first one. New and changed entries are taken
-// in place, nothing is read again.
+// A dictionary in memory, by identifier unless its class says otherwise. An entry is found by its name
+// without regard to case (all letters of Unicode in one way); of entries that differ in case only, the first
+// one. New and changed entries are taken in place, nothing is read again.
 class TDmVLTListaSlownika : public TDmVLTListaElementow {
  public:
-  TDmVLTListaSlownika(KontekstSesji& context, const OpisSlownika& opis);
+  // `porzadek`: columns of the order by; by identifier without it.
+  TDmVLTListaSlownika(KontekstSesji& context, const OpisSlownika& opis, const char* porzadek = nullptr);
 
   // Identifier of the first entry with the name; -1 when there is none.
   int ZnajdzNazwe(const QString& nazwa);

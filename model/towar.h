@@ -1,8 +1,10 @@
 #pragma once
 
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <QString>
 
@@ -44,7 +46,7 @@ enum class TypTowaru { Towar = 0, Opakowanie = 1, Usluga = 2 };
 
 // Columns of the main row in the order in which the select returns them: those of table Towar, then those of
 // the packaging link Powiazanie. POLE(column, kind): Klucz the key; Id an identifier, -1 when null; Liczba an
-// integer; Kwota a decimal number; Tekst; Wlasne a column with accessors of its own below.
+// integer; Kwota a decimal number; Tekst; Czas (read only); other kinds have accessors of their own.
 #define ZORVIK_POLA_TOWARU(POLE) \
   POLE(TowId, Klucz)             \
   POLE(AsId, Id)                 \
@@ -97,8 +99,8 @@ enum class TypTowaru { Towar = 0, Opakowanie = 1, Usluga = 2 };
   POLE(IleWOpak, Kwota)          \
   POLE(Tandem, Liczba)
 
-// Positions of the columns: Query.Field(PoleTowaru::Kod).
-struct PoleTowaru {
+// Positions of the columns: Query.Field(KolumnaTowaru::Kod).
+struct KolumnaTowaru {
 #define ZORVIK_POLE(nazwa, rodzaj) nazwa,
   enum Numer : std::size_t { ZORVIK_POLA_TOWARU(ZORVIK_POLE) kIlosc };
 #undef ZORVIK_POLE
@@ -133,48 +135,46 @@ class TDmVLTTowar final : public TDmVLTElement {
   // Getters and setters by the columns' names: towar.CenaDet(), towar.UstawCenaDet(12.5). Identifiers read -1
   // when null and a negative one is stored as null.
 #define ZORVIK_DOSTEP_Klucz(nazwa)
-#define ZORVIK_DOSTEP_Id(nazwa)         \
-  int nazwa() const {                   \
-    return CzytajId(PoleTowaru::nazwa); \
-  }                                     \
-  void Ustaw##nazwa(int id) {           \
-    PiszId(PoleTowaru::nazwa, id);      \
+#define ZORVIK_DOSTEP_Id(nazwa)            \
+  int nazwa() const {                      \
+    return CzytajId(KolumnaTowaru::nazwa); \
+  }                                        \
+  void Ustaw##nazwa(int id) {              \
+    PiszId(KolumnaTowaru::nazwa, id);      \
   }
-#define ZORVIK_DOSTEP_Liczba(nazwa)                                      \
-  int nazwa() const {                                                    \
-    return static_cast<int>(Query.Field(PoleTowaru::nazwa).AsInteger()); \
-  }                                                                      \
-  void Ustaw##nazwa(long long liczba) {                                  \
-    PiszLiczbe(PoleTowaru::nazwa, liczba);                               \
+#define ZORVIK_DOSTEP_Liczba(nazwa)                                         \
+  int nazwa() const {                                                       \
+    return static_cast<int>(Query.Field(KolumnaTowaru::nazwa).AsInteger()); \
+  }                                                                         \
+  void Ustaw##nazwa(long long liczba) {                                     \
+    PiszLiczbe(KolumnaTowaru::nazwa, liczba);                               \
   }
-#define ZORVIK_DOSTEP_Kwota(nazwa)                   \
-  double nazwa() const {                             \
-    return Query.Field(PoleTowaru::nazwa).AsFloat(); \
-  }                                                  \
-  void Ustaw##nazwa(double kwota) {                  \
-    PiszKwote(PoleTowaru::nazwa, kwota);             \
+#define ZORVIK_DOSTEP_Kwota(nazwa)                      \
+  double nazwa() const {                                \
+    return Query.Field(KolumnaTowaru::nazwa).AsFloat(); \
+  }                                                     \
+  void Ustaw##nazwa(double kwota) {                     \
+    PiszKwote(KolumnaTowaru::nazwa, kwota);             \
   }
-#define ZORVIK_DOSTEP_Tekst(nazwa)                    \
-  QString nazwa() const {                             \
-    return Query.Field(PoleTowaru::nazwa).AsString(); \
-  }                                                   \
-  void Ustaw##nazwa(const QString& tekst) {           \
-    PiszTekst(PoleTowaru::nazwa, tekst);              \
+#define ZORVIK_DOSTEP_Tekst(nazwa)                       \
+  QString nazwa() const {                                \
+    return Query.Field(KolumnaTowaru::nazwa).AsString(); \
+  }                                                      \
+  void Ustaw##nazwa(const QString& tekst) {              \
+    PiszTekst(KolumnaTowaru::nazwa, tekst);              \
   }
-#define ZORVIK_DOSTEP_Czas(nazwa)                     \
-  QString nazwa() const {                             \
-    return Query.Field(PoleTowaru::nazwa).AsString(); \
+#define ZORVIK_DOSTEP_Czas(nazwa)                        \
+  QString nazwa() const {                                \
+    return Query.Field(KolumnaTowaru::nazwa).AsString(); \
   }
-#define ZORVIK_DOSTEP_Nazwa(nazwa)                    \
-  QString nazwa() const {                             \
-    return Query.Field(PoleTowaru::nazwa).AsString(); \
-  }                                                   \
+#define ZORVIK_DOSTEP_Nazwa(nazwa)                       \
+  QString nazwa() const {                                \
+    return Query.Field(KolumnaTowaru::nazwa).AsString(); \
+  }                                                      \
   void Ustaw##nazwa(const QString& tekst);
-#define ZORVIK_DOSTEP_Typ(nazwa)                          \
-  ::TypTowaru nazwa() const;                              \
-  void Ustaw##nazwa(::TypTowaru typ) {                    \
-    PiszLiczbe(PoleTowaru::nazwa, static_cast<int>(typ)); \
-  }
+#define ZORVIK_DOSTEP_Typ(nazwa) \
+  ::TypTowaru nazwa() const;     \
+  void Ustaw##nazwa(::TypTowaru typ);
 #define ZORVIK_DOSTEP_Stawka(nazwa) \
   std::optional<int> nazwa() const; \
   void Ustaw##nazwa(std::optional<int> stawka);
@@ -191,8 +191,8 @@ class TDmVLTTowar final : public TDmVLTElement {
 #undef ZORVIK_DOSTEP_Typ
 #undef ZORVIK_DOSTEP_Stawka
   // UstawNazwa: when the name changes while the short name (trimmed) is empty, a unique short name is made
-  // from it; without a free one the short name stays empty. Stawka: hundredths of a percent, -1 exempt; none
-  // chosen: nothing. TypTowaru: any other stored value than 0..2 reads as Towar.
+  // from it; without a free one the short name stays empty. Stawka: hundredths of a percent, -1 exempt;
+  // none chosen: nothing. TypTowaru: any other stored value than 0..2 reads as Towar.
 
   KodyDodatkowe& Kody() {
     return m_kody;
@@ -262,14 +262,23 @@ class TDmVLTTowar final : public TDmVLTElement {
   void PiszLiczbe(std::size_t pole, long long liczba);
   void PiszKwote(std::size_t pole, double kwota);
   void PiszTekst(std::size_t pole, const QString& tekst);
+  void UstawStatus(bool aktywny);
 
+  WynikWalidacji SprawdzDoPlanu(Plan& plan) const;
   Plan Zaplanuj() const;
-  int Wstaw(const Plan& plan);
-  void Popraw(int id, const Plan& plan);
-  void ZapiszSzczegoly(int id, const KodyDodatkowe& kody);
-  void UstawStatus(int id, bool aktywny);
+  void UzupelnijWartosci(Plan& plan) const;
+  std::vector<Parametr> ParametryZapisu() const;
+  void ZapiszNotatke(int id) const;
+  void WstawPowiazanie(int id) const;
+  void ZapiszSzczegoly(int id) const;
+  bool Zmienione(std::initializer_list<KolumnaTowaru::Numer> kolumny) const;
+  void SprawdzKasy(int id) const;
+  void ZaznaczNaKasach(int id) const;
+  QString OpisZmian() const;
 
   OtoczenieTowarow m_otoczenie;
+  // A new good's row: nothing chosen, numbers 0, texts empty.
+  std::vector<Wartosc> m_nowyWiersz;
   KodyDodatkowe m_kody;
   WartosciParametrow m_wartosci;
   DostawcyTowaru m_dostawcy;

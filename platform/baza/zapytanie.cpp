@@ -107,6 +107,11 @@ void TKMQuery::Close() {
   m_zmianyWierszy = false;
 }
 
+void TKMQuery::UstawWiersz(std::span<const Wartosc> wartosci) {
+  std::vector<TMField>& wiersz = m_wiersze[static_cast<std::size_t>(m_biezacy)];
+  for (std::size_t i = 0; i < wiersz.size(); ++i) wiersz[i].Wczytaj(wartosci[i]);
+}
+
 bool TKMQuery::GetUpdatesPending() const {
   if (m_zmianyWierszy) return true;
   return std::any_of(m_wiersze.begin(), m_wiersze.end(), [](const std::vector<TMField>& wiersz) {

@@ -103,6 +103,8 @@ class TKMQuery final : public TMCustomDataSet {
   void Open();
   void Close();
 
+  // Gives the current row these values as if they had been read: how a new record starts.
+  void UstawWiersz(std::span<const Wartosc> wartosci);
   // True when a field was changed, or a row added or removed, since Open or the last ZatwierdzZmiany.
   bool GetUpdatesPending() const;
   // The rows as they are now become the rows as read: called after they were written.

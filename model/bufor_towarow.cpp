@@ -1,0 +1,113 @@
+#include "model/bufor_towarow.h"
+
+#include <algorithm>
+
+#include <QHashFunctions>
+
+#include "platform/baza/sesja.h"
+
+namespace {
+
+constexpr int kCoIlePostep = 1000;
+
+std::uint64_t Odcisk(const QString& tekst) {
+  return qHash(tekst, 0);
+}
+
+void Wstaw(std::unordered_multimap<std::uint64_t, int>& indeks, const QString& tekst, int towId) {
+  indeks.emplace(Odcisk(tekst), towId);
+}
+
+// One occurrence: a good may have the same text twice.
+void Wyjmij(std::unordered_multimap<std::uint64_t, int>& indeks, const QString& tekst, int towId) {
+  const auto [poczatek, koniec] = indeks.equal_range(Odcisk(tekst));
+  const auto para = std::find_if(poczatek, koniec, [towId](const auto& p) { return p.second == towId; });
+  if (para != koniec) indeks.erase(para);
+}
+
+}  // namespace
+
+bool TVLTBuforTowarow::Napelnij(TVLTBazaDanych& baza, const Postep& postep) {
+  Uniewaznij();
+  // Asked first: what others write while we read counts as written afterwards.
+  m_znacznik = baza.ZnacznikObcychZmian();
+  m_obceZmiany = false;
+  int ilosc = 0;
+  for (auto odczyt = baza.Otworz("select TowId, Nazwa, Kod, Skrot from Towar",
+                                 {TypPola::Calkowite, TypPola::Tekst, TypPola::Tekst, TypPola::Tekst});
+       odczyt.Nastepny();) {
+    const int towId = static_cast<int>(odczyt[0].AsInteger());
+    Wstaw(m_nazwy, odczyt[1].AsString(), towId);
+    Wstaw(m_kody, odczyt[2].AsString(), towId);
+    Wstaw(m_skroty, odczyt[3].AsString(), towId);
+    if (++ilosc % kCoIlePostep == 0 && postep && !postep(ilosc)) {
+      Uniewaznij();
+      return false;
+    }
+  }
+  for (auto odczyt = baza.Otworz("select TowId, Kod, Skrot from KodDod",
+                                 {TypPola::Calkowite, TypPola::Tekst, TypPola::Tekst});
+       odczyt.Nastepny();) {
+    const int towId = static_cast<int>(odczyt[0].AsInteger());
+    Wstaw(m_kody, odczyt[1].AsString(), towId);
+    Wstaw(m_skroty, odczyt[2].AsString(), towId);
+  }
+  m_ilosc = ilosc;
+  m_gotowy = true;
+  return true;
+}
+
+void TVLTBuforTowarow::Uniewaznij() {
+  m_kody.clear();
+  m_skroty.clear();
+  m_nazwy.clear();
+  m_ilosc = 0;
+  m_gotowy = false;
+}
+
+void TVLTBuforTowarow::SprawdzObceZmiany(TVLTBazaDanych& baza) {
+  m_obceZmiany = m_obceZmiany || baza.ZnacznikObcychZmian() != m_znacznik;
+}
+
+bool TVLTBuforTowarow::MozeByKod(const QString& kod) const {
+  return m_kody.contains(Odcisk(kod));
+}
+bool TVLTBuforTowarow::MozeBySkrot(const QString& skrot) const {
+  return m_skroty.contains(Odcisk(skrot));
+}
+bool TVLTBuforTowarow::MozeByNazwa(const QString& nazwa) const {
+  return m_nazwy.contains(Odcisk(nazwa));
+}
+
+void TVLTBuforTowarow::Dodaj(int towId, const Teksty& teksty) {
+  Zmien(towId, {}, teksty);
+  ++m_ilosc;
+}
+
+void TVLTBuforTowarow::Zmien(int towId, const Teksty& bylo, const Teksty& jest) {
+  const auto jeden = [towId](Indeks& indeks, const QString& stary, const QString& nowy) {
+    if (stary == nowy) return;
+    if (!stary.isNull()) Wyjmij(indeks, stary, towId);
+    if (!nowy.isNull()) Wstaw(indeks, nowy, towId);
+  };
+  const auto wiele = [towId](Indeks& indeks, const std::vector<QString>& stare,
+                             const std::vector<QString>& nowe) {
+    if (stare == nowe) return;
+    for (const QString& stary : stare) Wyjmij(indeks, stary, towId);
+    for (const QString& nowy : nowe) Wstaw(indeks, nowy, towId);
+  };
+  jeden(m_nazwy, bylo.nazwa, jest.nazwa);
+  jeden(m_kody, bylo.kod, jest.kod);
+  jeden(m_skroty, bylo.skrot, jest.skrot);
+  wiele(m_kody, bylo.dodatkowe, jest.dodatkowe);
+  wiele(m_skroty, bylo.dodSkroty, jest.dodSkroty);
+}
+
+std::vector<int> TVLTBuforTowarow::Kandydaci(const Indeks& indeks, const QString& tekst) {
+  std::vector<int> towary;
+  const auto [poczatek, koniec] = indeks.equal_range(Odcisk(tekst));
+  for (auto para = poczatek; para != koniec; ++para) towary.push_back(para->second);
+  std::sort(towary.begin(), towary.end());
+  towary.erase(std::unique(towary.begin(), towary.end()), towary.end());
+  return towary;
+}

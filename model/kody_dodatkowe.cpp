@@ -1,0 +1,134 @@
+#include "model/kody_dodatkowe.h"
+
+#include <algorithm>
+
+#include "model/bledy.h"
+#include "model/zakresy.h"
+#include "platform/baza/sesja.h"
+
+namespace {
+
+auto ZNumerem(int kolejnosc) {
+  return [kolejnosc](const KodDodatkowy& kod) { return kod.kolejnosc == kolejnosc; };
+}
+
+const KodDodatkowy* Znajdz(const std::vector<KodDodatkowy>& kody, int kolejnosc) {
+  const auto kod = std::find_if(kody.begin(), kody.end(), ZNumerem(kolejnosc));
+  return kod == kody.end() ? nullptr : &*kod;
+}
+
+// A stored code can be changed in all but its text: another text is another code.
+bool TenSam(const KodDodatkowy* a, const KodDodatkowy& b) {
+  return a && a->kod == b.kod;
+}
+
+void Wstaw(TVLTBazaDanych& baza, int towId, const KodDodatkowy& kod) {
+  baza.ExecSQL(
+      "insert into KodDod (TowId, Kolejnosc, Skrot, Kod, PoziomCen, PrefPLU, IleWKodzie)"
+      " values (:TowId, :Kolejnosc, :Skrot, :Kod, :PoziomCen, :PrefPLU, :IleWKodzie)",
+      {{"TowId", towId},
+       {"Kolejnosc", kod.kolejnosc},
+       {"Skrot", kod.skrot},
+       {"Kod", kod.kod},
+       {"PoziomCen", kod.poziomCen},
+       {"PrefPLU", kod.prefPLU},
+       {"IleWKodzie", WymagajZakresu(kod.ileWKodzie)}});
+}
+
+void Popraw(TVLTBazaDanych& baza, int towId, const KodDodatkowy& kod) {
+  baza.ExecSQL(
+      "update KodDod set PrefPLU = :PrefPLU, Skrot = :Skrot, PoziomCen = :PoziomCen,"
+      " IleWKodzie = :IleWKodzie where TowId = :TowId and Kolejnosc = :Kolejnosc",
+      {{"PrefPLU", kod.prefPLU},
+       {"Skrot", kod.skrot},
+       {"PoziomCen", kod.poziomCen},
+       {"IleWKodzie", WymagajZakresu(kod.ileWKodzie)},
+       {"TowId", towId},
+       {"Kolejnosc", kod.kolejnosc}});
+}
+
+void Skasuj(TVLTBazaDanych& baza, int towId, const KodDodatkowy& kod) {
+  baza.ExecSQL("delete from KodDod where TowId = :TowId and Kolejnosc = :Kolejnosc",
+               {{"TowId", towId}, {"Kolejnosc", kod.kolejnosc}});
+}
+
+}  // namespace
+
+const KodDodatkowy& KodyDodatkowe::operator[](int indeks) const {
+  if (indeks < 0 || indeks >= Ilosc()) throw EVLTWDError(2003, nullptr, QString::number(indeks));
+  return m_kody[static_cast<std::size_t>(indeks)];
+}
+
+int KodyDodatkowe::Indeks(const QString& kod) const {
+  const auto znaleziony =
+      std::find_if(m_kody.begin(), m_kody.end(), [&](const KodDodatkowy& k) { return k.kod == kod; });
+  return znaleziony == m_kody.end() ? -1 : static_cast<int>(znaleziony - m_kody.begin());
+}
+
+int KodyDodatkowe::Dodaj(KodDodatkowy kod) {
+  kod.kolejnosc = m_kody.empty() ? 1 : m_kody.back().kolejnosc + 1;
+  m_kody.push_back(std::move(kod));
+  return m_kody.back().kolejnosc;
+}
+
+bool KodyDodatkowe::Zmien(const KodDodatkowy& kod) {
+  const auto znaleziony = std::find_if(m_kody.begin(), m_kody.end(), ZNumerem(kod.kolejnosc));
+  if (znaleziony == m_kody.end()) return false;
+  *znaleziony = kod;
+  return true;
+}
+
+bool KodyDodatkowe::Usun(int kolejnosc) {
+  return std::erase_if(m_kody, ZNumerem(kolejnosc)) != 0;
+}
+
+void KodyDodatkowe::Ustaw(std::vector<KodDodatkowy> kody) {
+  int poprzedni = 0;
+  for (KodDodatkowy& kod : kody) poprzedni = kod.kolejnosc = std::max(kod.kolejnosc, poprzedni + 1);
+  m_kody = std::move(kody);
+}
+
+bool KodyDodatkowe::TakieSameJakWBazie() const {
+  return std::equal(m_kody.begin(), m_kody.end(), m_zBazy.begin(), m_zBazy.end(),
+                    [](const KodDodatkowy& a, const KodDodatkowy& b) {
+                      return a.kod == b.kod && a.skrot == b.skrot && a.prefPLU == b.prefPLU;
+                    });
+}
+
+int KodyDodatkowe::Wyslany(TVLTBazaDanych& baza, int indeks) const {
+  auto odczyt = baza.Otworz("select count(*) from KasTow where KodWyslany = :Kod", {TypPola::Calkowite},
+                            {{"Kod", (*this)[indeks].kod}});
+  return odczyt.Nastepny() ? static_cast<int>(odczyt[0].AsInteger()) : 0;
+}
+
+void KodyDodatkowe::Wyczysc() {
+  m_kody.clear();
+  m_zBazy.clear();
+}
+
+void KodyDodatkowe::Wczytaj(TVLTBazaDanych& baza, int towId) {
+  m_kody.clear();
+  for (auto odczyt = baza.Otworz("select Kolejnosc, Skrot, Kod, PoziomCen, PrefPLU, IleWKodzie from KodDod"
+                                 " where TowId = :TowId order by Kolejnosc",
+                                 {TypPola::Calkowite, TypPola::Tekst, TypPola::Tekst, TypPola::Calkowite,
+                                  TypPola::Calkowite, TypPola::Dziesietne},
+                                 {{"TowId", towId}});
+       odczyt.Nastepny();)
+    m_kody.push_back({static_cast<int>(odczyt[0].AsInteger()), odczyt[2].AsString(), odczyt[1].AsString(),
+                      static_cast<int>(odczyt[3].AsInteger()), static_cast<int>(odczyt[4].AsInteger()),
+                      odczyt[5].AsFloat()});
+  m_zBazy = m_kody;
+}
+
+void KodyDodatkowe::Zapisz(TVLTBazaDanych& baza, int towId) const {
+  if (!Zmienione()) return;
+  for (const KodDodatkowy& bylo : m_zBazy)
+    if (!TenSam(Znajdz(m_kody, bylo.kolejnosc), bylo)) Skasuj(baza, towId, bylo);
+  for (const KodDodatkowy& jest : m_kody) {
+    const KodDodatkowy* bylo = Znajdz(m_zBazy, jest.kolejnosc);
+    if (!TenSam(bylo, jest))
+      Wstaw(baza, towId, jest);
+    else if (!(*bylo == jest))
+      Popraw(baza, towId, jest);
+  }
+}

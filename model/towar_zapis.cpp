@@ -1,0 +1,269 @@
+#include <algorithm>
+#include <array>
+
+#include "model/bledy.h"
+#include "model/kontekst.h"
+#include "model/nazwy_skrocone.h"
+#include "model/stawki_vat.h"
+#include "model/tabele_dziennika.h"
+#include "model/towar.h"
+#include "model/towar_plan.h"
+#include "model/zakresy.h"
+#include "platform/baza/sesja.h"
+
+namespace {
+
+using enum KolumnaTowaru::Numer;
+
+// The columns that an insert and an update write, in their order: those of table Towar without the key and
+// without Zmiana, which the server's clock fills.
+constexpr auto kZapisywane = [] {
+  std::array<KolumnaTowaru::Numer, OpakId - 2> pola{};
+  std::size_t ile = 0;
+  for (std::size_t i = AsId; i < OpakId; ++i)
+    if (i != Zmiana) pola[ile++] = static_cast<KolumnaTowaru::Numer>(i);
+  return pola;
+}();
+
+// insert into Towar (AsId, ..., Rezerwa2, Zmiana) select :AsId, ..., :Rezerwa2, getdate()
+std::string Insert(const TKMQuery& query) {
+  std::string kolumny, wartosci;
+  for (const auto pole : kZapisywane) {
+    const char* nazwa = query.Field(pole).FieldName();
+    kolumny += std::string(nazwa) + ", ";
+    wartosci += ':' + std::string(nazwa) + ", ";
+  }
+  return "insert into Towar (" + kolumny + "Zmiana) select " + wartosci + "getdate()";
+}
+
+// update Towar set AsId = :AsId, ..., Rezerwa2 = :Rezerwa2, Zmiana = getdate() where TowId = :TowId
+std::string Update(const TKMQuery& query) {
+  std::string przypisania;
+  for (const auto pole : kZapisywane) {
+    const char* nazwa = query.Field(pole).FieldName();
+    przypisania += std::string(nazwa) + " = :" + nazwa + ", ";
+  }
+  return "update Towar set " + przypisania + "Zmiana = getdate() where TowId = :TowId";
+}
+
+// A refusal of the values by the database is the record's fault; every other failure of it is not.
+template <typename Praca>
+auto ZOdmowaZapisu(Praca praca) {
+  try {
+    return praca();
+  } catch (const EBladBazy& blad) {
+    if (blad.KonczyPrzebieg()) throw;
+    throw EVLTWDError(2007, std::make_shared<EBladBazy>(blad));
+  }
+}
+
+// How the change log names a changed column and its two values.
+struct OpisZmiany {
+  KolumnaTowaru::Numer pole;
+  const char16_t* nazwa;
+  QString (*opis)(const Wartosc& bylo, const Wartosc& jest);
+};
+
+QString StaryNaNowy(const QString& bylo, const QString& jest) {
+  return bylo + QStringLiteral(" na ") + jest;
+}
+
+QString OpisLiczby(const Wartosc& bylo, const Wartosc& jest) {
+  return StaryNaNowy(bylo.AsString(), jest.AsString());
+}
+
+QString OpisStawki(const Wartosc& bylo, const Wartosc& jest) {
+  const auto tekst = [](const Wartosc& w) {
+    return w.IsNull() ? QString() : StawkaNaTekst(static_cast<int>(w.AsInteger()), true);
+  };
+  return StaryNaNowy(tekst(bylo), tekst(jest));
+}
+
+// All prices are stored net.
+QString OpisCeny(const Wartosc& bylo, const Wartosc& jest) {
+  return StaryNaNowy(bylo.AsString(), jest.AsString()) + QStringLiteral(" netto");
+}
+
+QString OpisKodu(const Wartosc& bylo, const Wartosc& jest) {
+  return QStringLiteral("z '") + bylo.AsString() + QStringLiteral("' na '") + jest.AsString() + u'\'';
+}
+
+QString OpisTypu(const Wartosc& bylo, const Wartosc& jest) {
+  const auto slowo = [](const Wartosc& typ) {
+    return typ.AsInteger() == 1   ? QStringLiteral("opakowanie")
+           : typ.AsInteger() == 2 ? QStringLiteral("usługa")
+                                  : QStringLiteral("towar");
+  };
+  return StaryNaNowy(slowo(bylo), slowo(jest));
+}
+
+constexpr OpisZmiany kOpisyZmian[] = {
+    {AsId, u"asortyment", OpisLiczby},       {JMId, u"jednostka miary", OpisLiczby},
+    {KatId, u"kategoria", OpisLiczby},       {Kod, u"kod", OpisKodu},
+    {TypTowaru, u"typ", OpisTypu},           {Stawka, u"stawka VAT", OpisStawki},
+    {CenaEw, u"cena ewidencyjna", OpisCeny}, {CenaDet, u"cena detaliczna", OpisCeny},
+    {CenaHurt, u"cena hurtowa", OpisCeny},   {CenaNoc, u"cena nocna", OpisCeny},
+    {CenaDod, u"cena dodatkowa", OpisCeny}};
+
+constexpr KolumnaTowaru::Numer kCenySprzedazy[] = {CenaDet, CenaHurt, CenaNoc, CenaDod};
+
+bool CenaSprzedazy(std::size_t pole) {
+  return std::find(std::begin(kCenySprzedazy), std::end(kCenySprzedazy), pole) != std::end(kCenySprzedazy);
+}
+
+}  // namespace
+
+int TDmVLTTowar::InsertRecord() {
+  m_plan = std::make_unique<Plan>(Zaplanuj());
+  return ZOdmowaZapisu([&] {
+    static const std::string sql = Insert(Query);
+    Context.baza.ExecSQL(sql, ParametryZapisu());
+    const int id = Context.baza.PobierzAutoId();
+    ZapiszNotatke(id);
+    WstawPowiazanie(id);
+    ZapiszSzczegoly(id);
+    Context.baza.RejestrujZmiane(kDziennikTowar, QStringLiteral("Nowy towar"), id, -1);
+    return id;
+  });
+}
+
+void TDmVLTTowar::UpdateRecord(int id) {
+  m_plan = std::make_unique<Plan>(Zaplanuj());
+  ZOdmowaZapisu([&] {
+    SprawdzKasy(id);
+    static const std::string sql = Update(Query);
+    auto parametry = ParametryZapisu();
+    parametry.push_back({"TowId", id});
+    if (Context.baza.ExecSQL(sql, parametry) == 0) throw EVLTWDError(2001);
+    ZapiszNotatke(id);
+    if (Zmienione({KolumnaTowaru::OpakId, KolumnaTowaru::IleWOpak, KolumnaTowaru::Tandem})) {
+      Context.baza.ExecSQL("delete from Powiazanie where TowId = :TowId", {{"TowId", id}});
+      WstawPowiazanie(id);
+    }
+    ZapiszSzczegoly(id);
+    ZaznaczNaKasach(id);
+    Context.baza.ExecSQL("update SklepFlagi set Zmiana = getdate() where TowId = :TowId", {{"TowId", id}});
+    Context.baza.RejestrujZmiane(kDziennikTowar, OpisZmian(), id, -1);
+  });
+}
+
+void TDmVLTTowar::AfterSave() {
+  if (m_plan->kod != Kod()) {
+    UstawKod(m_plan->kod);
+    Query.ZatwierdzZmiany();
+  }
+  if (m_plan->kody) m_kody = std::move(*m_plan->kody);
+  if (m_plan->wartosci) m_wartosci = std::move(*m_plan->wartosci);
+  m_plan.reset();
+  m_kody.ZatwierdzZmiany();
+  m_wartosci.ZatwierdzZmiany();
+  m_dostawcy.ZatwierdzZmiany();
+  if (m_stany) m_stany->ZatwierdzZmiany();
+  m_notatkaZmieniona = false;
+  m_otoczenie.skroty.Potwierdz();
+}
+
+// Everything that can refuse the record without writing.
+TDmVLTTowar::Plan TDmVLTTowar::Zaplanuj() const {
+  Plan plan;
+  if (const WynikWalidacji wynik = SprawdzDoPlanu(plan); !wynik.Dobry())
+    throw EVLTWDError(wynik.kod, nullptr, wynik.szczegol);
+  for (std::size_t i = 0; i < KolumnaTowaru::kIlosc; ++i) {
+    const TMField& pole = Query.Field(i);
+    const bool wZakresie = pole.Value().Typ() == TypPola::Calkowite    ? LiczbaWZakresie(pole.AsInteger())
+                           : pole.Value().Typ() == TypPola::Dziesietne ? KwotaWZakresie(pole.AsFloat())
+                                                                       : true;
+    if (!wZakresie) throw EVLTWDError(2006);
+  }
+  UzupelnijWartosci(plan);
+  return plan;
+}
+
+// Every parameter of the category has a value.
+void TDmVLTTowar::UzupelnijWartosci(Plan& plan) const {
+  if (KatId() < 0 || (!CzyNowy() && !Zmienione({KolumnaTowaru::KatId}))) return;
+  WartosciParametrow wartosci = m_wartosci;
+  for (auto odczyt = Context.baza.Otworz("select ParId from KatParam where KatId = :KatId",
+                                         {TypPola::Calkowite}, {{"KatId", KatId()}});
+       odczyt.Nastepny();)
+    if (const int parId = static_cast<int>(odczyt[0].AsInteger()); !wartosci.Wartosc(parId))
+      wartosci.Ustaw(parId, 0);
+  plan.wartosci = std::move(wartosci);
+}
+
+std::vector<Parametr> TDmVLTTowar::ParametryZapisu() const {
+  std::vector<Parametr> parametry;
+  parametry.reserve(kZapisywane.size() + 1);
+  for (const auto pole : kZapisywane) {
+    const TMField& field = Query.Field(pole);
+    if (pole == KolumnaTowaru::Kod)
+      parametry.push_back({field.FieldName(), m_plan->kod});
+    else
+      parametry.push_back({field.FieldName(), field.Value()});
+  }
+  return parametry;
+}
+
+void TDmVLTTowar::ZapiszNotatke(int id) const {
+  if (!m_notatkaZmieniona) return;
+  Context.baza.ExecSQL("delete from Notatki where TowId = :TowId", {{"TowId", id}});
+  Context.baza.ExecSQL(
+      "insert into Notatki (TowId, Kolejnosc, Tekst, KoniecLinii) values (:TowId, 0, :Tekst, 0)",
+      {{"TowId", id}, {"Tekst", *m_notatka}});
+}
+
+bool TDmVLTTowar::Zmienione(std::initializer_list<KolumnaTowaru::Numer> kolumny) const {
+  return std::any_of(kolumny.begin(), kolumny.end(), [&](auto k) { return Query.Field(k).Zmienione(); });
+}
+
+void TDmVLTTowar::WstawPowiazanie(int id) const {
+  if (OpakId() < 0) return;
+  Context.baza.ExecSQL(
+      "insert into Powiazanie (TowId, OpakId, IleWOpak, Tandem) values (:TowId, :OpakId, :IleWOpak, :Tandem)",
+      {{"TowId", id}, {"OpakId", OpakId()}, {"IleWOpak", IleWOpak()}, {"Tandem", Tandem()}});
+}
+
+// Rows that did not change are left alone.
+void TDmVLTTowar::ZapiszSzczegoly(int id) const {
+  (m_plan->kody ? *m_plan->kody : m_kody).Zapisz(Context.baza, id);
+  if (m_stany) m_stany->Zapisz(Context.baza, id);
+  (m_plan->wartosci ? *m_plan->wartosci : m_wartosci).Zapisz(Context.baza, id);
+  m_dostawcy.Zapisz(Context.baza, id);
+}
+
+// A good that a register holds keeps what the register knows it by.
+void TDmVLTTowar::SprawdzKasy(int id) const {
+  if (!Zmienione(
+          {KolumnaTowaru::TypTowaru, KolumnaTowaru::Kod, KolumnaTowaru::Stawka, KolumnaTowaru::Skrot}) &&
+      m_kody.TakieSameJakWBazie())
+    return;
+  if (Context.baza
+          .Otworz("select KasaId from KasTow where TowId = :TowId and Wyslany <> 0", {TypPola::Calkowite},
+                  {{"TowId", id}})
+          .Nastepny())
+    throw EVLTWDError(2820);
+}
+
+void TDmVLTTowar::ZaznaczNaKasach(int id) const {
+  bool ceny = false;
+  bool inne = m_kody.Zmienione();
+  for (std::size_t i = 0; i < KolumnaTowaru::kIlosc; ++i)
+    if (Query.Field(i).Zmienione()) (CenaSprzedazy(i) ? ceny : inne) = true;
+  if (!ceny && !inne) return;
+  Context.baza.ExecSQL(ceny && inne ? "update KasTow set ZmianyCen = 1, ZmianyInne = 1 where TowId = :TowId"
+                       : ceny       ? "update KasTow set ZmianyCen = 1 where TowId = :TowId"
+                                    : "update KasTow set ZmianyInne = 1 where TowId = :TowId",
+                       {{"TowId", id}});
+}
+
+QString TDmVLTTowar::OpisZmian() const {
+  QString opis = QStringLiteral("Zmiana towaru");
+  QString lacznik = QStringLiteral(": ");
+  for (const OpisZmiany& zmiana : kOpisyZmian) {
+    const TMField& pole = Query.Field(zmiana.pole);
+    if (!pole.Zmienione()) continue;
+    opis += lacznik + QString::fromUtf16(zmiana.nazwa) + u' ' + zmiana.opis(pole.OldValue(), pole.Value());
+    lacznik = QStringLiteral(", ");
+  }
+  return opis;
+}
