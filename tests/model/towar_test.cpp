@@ -1,0 +1,446 @@
+#include "model/towar.h"
+
+#include "model/lista_towarow.h"
+#include "tests/model/towary_probne.h"
+
+namespace {
+
+class Towary : public TowaryProbne {};
+
+KodDodatkowy Dodatkowy(const QString& kod, const QString& skrot) {
+  return {0, kod, skrot};
+}
+
+TEST_F(Towary, KazdaOdmowaZapisu) {
+  auto inny = Nowy(u"111"_s, u"Inny"_s);
+  inny->Kody().Dodaj(Dodatkowy(u"112"_s, u"Inny dod"_s));
+  inny->UstawCKU(u"C1"_s);
+  const int innyId = inny->Zapisz();
+  const int usuniety = Zapisany(u"113"_s, u"Usunięty"_s);
+  Wczytany(usuniety)->Usun();
+  const QString zajety = u"jest już używany przez towar [%1]: Inny"_s.arg(innyId);
+
+  using T = TDmVLTTowar;
+  const auto dodaj = [](const QString& kod, const QString& skrot) {
+    return [=](T& t) { t.Kody().Dodaj(Dodatkowy(kod, skrot)); };
+  };
+  struct Przypadek {
+    int kod;
+    std::function<void(T&)> zmien;
+    QString szczegol = {};
+  };
+  const Przypadek przypadki[] = {
+      {2840, [](T& t) { t.UstawNazwa(u"  "_s), t.UstawStawka({}); }},
+      {2815, [](T& t) { t.UstawStawka({}), t.UstawKod({}); }},
+      {2816, [](T& t) { t.UstawKod(u" "_s), t.UstawAsId(-1); }},
+      {2857, [](T& t) { t.UstawCKU(u"C1"_s), t.UstawAsId(-1); }, u"CKU 'C1' "_s + zajety},
+      {2813, [](T& t) { t.UstawAsId(-1), t.UstawJMId(77); }},
+      {2814, [](T& t) { t.UstawJMId(77), t.UstawSkrot({}); }},
+      {2823, [](T& t) { t.UstawSkrot(u"zbyt długa nazwa na kasie"_s), t.UstawOpakId(77); }, u"Skrót zbyt"_s},
+      {2819, [](T& t) { t.UstawSkrot(u"Inny"_s); }, u"Inny"_s},
+      {2819, [](T& t) { t.UstawSkrot(u"Inny dod"_s); }, u"kodów dodatkowych"_s},
+      {2818, [](T& t) { t.UstawOpakId(77), t.UstawKod(u"ab"_s); }},
+      {2818, [=](T& t) { t.UstawOpakId(usuniety); }},
+      {2894, [](T& t) { t.UstawKod(u"ab"_s); }, u"ab"_s},
+      {2826, [](T& t) { t.UstawKod(u"5901234123458"_s); }, u"5901234123458"_s},
+      {2821, [](T& t) { t.UstawKod(u"2712345"_s), t.UstawTypTowaru(TypTowaru::Usluga); }},
+      {2822, [](T& t) { t.UstawKod(u" 111"_s); }, u"Kod '111' "_s + zajety},
+      {2822, [](T& t) { t.UstawKod(u"112"_s); }, u"Kod '112' "_s + zajety},
+      {2895, dodaj(u"a b"_s, u"x"_s), u"a b"_s},
+      {2827, dodaj(u"2712345"_s, u"x"_s), u"2712345"_s},
+      {2828, dodaj(u"900"_s, u"x"_s), u"900"_s},
+      {2830, dodaj(u"111"_s, u"x"_s), zajety},
+      {2823, dodaj(u"901"_s, {}), u"kodu dodatkowego"_s},
+      {2824, dodaj(u"901"_s, u"Nowy"_s), u"Nowy"_s},
+      {2819, dodaj(u"901"_s, u"Inny"_s), u"Inny"_s},
+      {2896, [](T& t) { t.UstawKod(u"2700017"_s); }, u"17"_s},
+      {2897, [](T& t) { t.UstawKod(u"2700111"_s); }, u"Kod '111' "_s + zajety},
+      {0, [&](T& t) { dodaj(u"900"_s, {})(t), t.UstawTypTowaru(TypTowaru::Opakowanie); }},
+      {0, [](T& t) { t.UstawStawka(-1); }}};
+  unikalneCKU = true;
+  reguly.kodyKrotkie = RegulyKodow::KodyKrotkie::ObcinajZera;
+  for (const Przypadek& p : przypadki) {
+    SCOPED_TRACE(p.kod);
+    reguly.minDlugosc = p.kod == 2896 ? 3 : 1;
+    auto towar = Nowy(u"900"_s, u"Nowy"_s);
+    p.zmien(*towar);
+    const WynikWalidacji wynik = towar->Sprawdz();
+    EXPECT_EQ(wynik.kod, p.kod);
+    EXPECT_TRUE(wynik.szczegol.contains(p.szczegol)) << wynik.szczegol.toStdString();
+    if (p.kod == 0) continue;
+    EXPECT_EQ(KodBledu([&] { towar->Zapisz(); }), p.kod);
+    EXPECT_TRUE(towar->CzyNowy());
+    skroty->Zwolnij();
+  }
+  EXPECT_EQ(b.Liczba("select count(*) from Towar"), 2);
+}
+
+TEST_F(Towary, WlasneKodyISkrotyNieStojaNaDrodzeNiezaleznieOdBufora) {
+  for (const bool zBuforem : {false, true}) {
+    const QString kod = zBuforem ? u"20"_s : u"10"_s;
+    if (zBuforem) {
+      ASSERT_TRUE(bufor.Napelnij(b.baza));
+    }
+    auto towar = Nowy(kod + u'1', u"Nazwa "_s + kod);
+    towar->Kody().Dodaj(Dodatkowy(kod + u'2', u"dod "_s + kod));
+    const int id = towar->Zapisz();
+    if (zBuforem) bufor.Dodaj(id, towar->Teksty());
+    towar->UstawOpis1(u"opis"_s);
+    EXPECT_EQ(towar->Zapisz(), id);
+    EXPECT_EQ(Nowy(kod + u'2', u"Inna "_s + kod)->Sprawdz().kod, 2822);
+  }
+}
+
+// Every column gets a value of its own, so that a column read or written in another's place shows.
+TEST_F(Towary, KazdaKolumnaIKazdySzczegolWracajaZBazy) {
+  const int opakowanie = Zapisany(u"800"_s, u"Skrzynka"_s);
+  b.baza.ExecSQL("insert into KatParam (KatId, ParId) values (1, 2)");
+  auto towar = Nowy(u"900"_s, u"x"_s);
+  for (std::size_t i = 1; i < KolumnaTowaru::kIlosc; ++i) {
+    TMField& pole = towar->Query.Field(i);
+    switch (pole.Value().Typ()) {
+      case TypPola::Calkowite:
+        pole.SetInteger(static_cast<int>(i) + 100);
+        break;
+      case TypPola::Dziesietne:
+        pole.SetFloat(static_cast<double>(i) + 0.25);
+        break;
+      case TypPola::Tekst:
+        pole.SetString(u"zażółć "_s + QString::number(i));
+        break;
+      case TypPola::Czas:
+        break;
+    }
+  }
+  towar->UstawKod(u"900"_s);
+  towar->UstawAsId(1);
+  towar->UstawJMId(1);
+  towar->UstawKatId(1);
+  towar->UstawProducent(1);
+  towar->UstawOpakId(opakowanie);
+  towar->UstawTypTowaru(TypTowaru::Towar);
+  towar->Kody().Dodaj({0, u"901"_s, u"dod"_s, 2, 3, 1.5});
+  towar->Wartosci().Ustaw(1, 4);
+  towar->Dostawcy().UstawZNipem(std::vector<int>{2, 1, 2});
+  towar->UstawNotatka(u"uwaga"_s);
+  ASSERT_EQ(towar->Stany()[0].nazwa, u"A");
+  EXPECT_TRUE(towar->Stany().UstawCenaMag(2, 7.5));
+  EXPECT_FALSE(towar->Stany().UstawStanMin(99, 1));
+  const int id = towar->Zapisz();
+
+  auto jest = Wczytany(id);
+  for (std::size_t i = 1; i < KolumnaTowaru::kIlosc; ++i)
+    if (i != KolumnaTowaru::Zmiana) {
+      EXPECT_EQ(jest->Query.Field(i).AsString(), towar->Query.Field(i).AsString())
+          << jest->Query.Field(i).FieldName();
+    }
+  EXPECT_FALSE(jest->Zmiana().isEmpty());
+  EXPECT_EQ(jest->Kody().Wszystkie(), (std::vector<KodDodatkowy>{{1, u"901"_s, u"dod"_s, 2, 3, 1.5}}));
+  EXPECT_EQ(jest->Wartosci().Wszystkie(), (std::vector<WartosciParametrow::Pozycja>{{1, 4}, {2, 0}}))
+      << "a parameter of the category has a value";
+  EXPECT_EQ(jest->Dostawcy().Wszyscy(), (std::vector<DostawcyTowaru::Dostawca>{{2, true}, {1, true}}));
+  EXPECT_EQ(jest->Notatka(), u"uwaga");
+  EXPECT_EQ(jest->Stany()[0].cenaMag, 7.5);
+  EXPECT_EQ(jest->Stany()[1].cenaMag, 0);
+  EXPECT_TRUE(towar->TakiSamJakWBazie() && jest->TakiSamJakWBazie());
+  EXPECT_EQ(Wiersze("DziennikZmian"), u"1|Nowy towar|1|-1 1|Nowy towar|2|-1");
+
+  TDmVLTListaTowarow lista(kontekst, Otoczenie());
+  lista.Otworz();
+  lista.DodajElement(id);
+  EXPECT_EQ(lista.Ilosc(), 3);
+  EXPECT_EQ(lista.Kod(), u"900");
+}
+
+TEST_F(Towary, CzytanieJednegoToCzteryPytania) {
+  const int id = Zapisany(u"1"_s, u"a"_s);
+  b.baza.ExecSQL("update Towar set TypTowaru = 7, Opis1 = null, TermWazn = null, KatId = null");
+  int pytan = 0;
+  b.baza.UstawPodsluch([&](std::string_view) { ++pytan; });
+  const auto towar = Wczytany(id);
+  EXPECT_EQ(pytan, 4);
+  EXPECT_EQ(towar->TypTowaru(), TypTowaru::Towar);
+  towar->UstawTypTowaru(TypTowaru::Towar);
+  towar->UstawOpis1({});
+  towar->UstawTermWazn(0);
+  towar->UstawKatId(-1);
+  EXPECT_FALSE(towar->CzyZmieniony()) << "what reads the same is no change";
+}
+
+TEST_F(Towary, PorownanieZBaza) {
+  auto wzor = Nowy(u"900"_s, u"Nazwa"_s);
+  wzor->UstawCenaDet(10);
+  wzor->Kody().Dodaj(Dodatkowy(u"901"_s, u"a"_s));
+  wzor->Kody().Dodaj(Dodatkowy(u"902"_s, u"b"_s));
+  wzor->Wartosci().Ustaw(1, 2);
+  const int id = wzor->Zapisz();
+  for (const char* sql :
+       {"insert into TowDostawca values (1, 3, 0)", "insert into TowDostawca values (1, 1, 1)",
+        "insert into TowDostawca values (1, 2, 2)"})
+    b.baza.ExecSQL(sql);
+
+  using T = TDmVLTTowar;
+  const auto kody = [](T& t) { return t.Kody().Wszystkie(); };
+  const auto dostawcy = [](std::vector<int> d) { return [d](T& t) { t.Dostawcy().UstawZNipem(d); }; };
+  const std::tuple<const char*, bool, std::function<void(T&)>> przypadki[] = {
+      {"nothing", true, [](T&) {}},
+      {"price within 1e-6", true, [](T& t) { t.UstawCenaDet(10 + 5e-7); }},
+      {"price", false, [](T& t) { t.UstawCenaDet(10.00001); }},
+      {"there and back", true, [](T& t) { t.UstawOpis1(u"x"_s), t.UstawOpis1({}); }},
+      {"case of a text", false, [](T& t) { t.UstawNazwa(u"NAZWA"_s); }},
+      {"blank behind a text", false, [](T& t) { t.UstawNazwa(u"Nazwa "_s); }},
+      {"producer", false, [](T& t) { t.UstawProducent(1); }},
+      {"status", true, [](T& t) { t.UstawAktywny(0); }},
+      {"quantity of a code", true,
+       [&](T& t) {
+         auto k = kody(t);
+         k[0].ileWKodzie = 6;
+         t.Kody().Ustaw(k);
+       }},
+      {"PLU of a code", false,
+       [&](T& t) {
+         auto k = kody(t);
+         k[0].prefPLU = 6;
+         t.Kody().Ustaw(k);
+       }},
+      {"order of codes", false,
+       [&](T& t) {
+         auto k = kody(t);
+         std::swap(k[0], k[1]);
+         t.Kody().Ustaw(k);
+       }},
+      {"code less", false, [](T& t) { t.Kody().Usun(2); }},
+      {"parameter within 1e-6", true, [](T& t) { t.Wartosci().Ustaw(1, 2 + 5e-7); }},
+      {"parameter", false, [](T& t) { t.Wartosci().Ustaw(1, 3); }},
+      {"parameter more", false, [](T& t) { t.Wartosci().Ustaw(2, 0); }},
+      {"suppliers with a number", true, dostawcy({1, 2})},
+      {"order of suppliers", false, dostawcy({2, 1})},
+      {"supplier less", false, dostawcy({1})}};
+  for (const auto& [opis, takiSam, zmien] : przypadki) {
+    auto towar = Wczytany(id);
+    zmien(*towar);
+    EXPECT_EQ(towar->TakiSamJakWBazie(), takiSam) << opis;
+  }
+  auto towar = Wczytany(id);
+  towar->Dostawcy().UstawZNipem(std::vector<int>{2});
+  towar->Zapisz();
+  EXPECT_EQ(Wiersze("TowDostawca"), u"1|2|0 1|3|1") << "a supplier without a tax number is kept";
+}
+
+TEST_F(Towary, ZmianyKodowDodatkowych) {
+  auto towar = Nowy(u"900"_s, u"Nazwa"_s);
+  for (const char16_t* kod : {u"1", u"2", u"3"})
+    towar->Kody().Dodaj(Dodatkowy(QString::fromUtf16(kod), u"s"_s + QString::fromUtf16(kod)));
+  const int id = towar->Zapisz();
+  auto kody = towar->Kody().Wszystkie();
+  kody[2].prefPLU = 9;
+  towar->Kody().Ustaw({kody[0], Dodatkowy(u"4"_s, u"s4"_s), kody[2]});
+  towar->Kody().Dodaj(Dodatkowy(u"5"_s, u"s5"_s));
+  EXPECT_EQ(KodBledu([&] { towar->Kody()[4]; }), 2003);
+  QStringList instrukcje;
+  b.baza.UstawPodsluch([&](std::string_view sql) {
+    const QString tekst = QString::fromUtf8(sql.data(), static_cast<qsizetype>(sql.size()));
+    if (tekst.contains(u"KodDod ") && !tekst.startsWith(u"select")) instrukcje << tekst.section(u' ', 0, 0);
+  });
+  towar->Zapisz();
+  EXPECT_EQ(instrukcje, (QStringList{u"delete"_s, u"insert"_s, u"update"_s, u"insert"_s}));
+  EXPECT_EQ(Wiersze("KodDod"), u"1|1|s1|1|0|0|1.0 1|2|s4|4|0|0|1.0 1|3|s3|3|0|9|1.0 1|4|s5|5|0|0|1.0");
+  EXPECT_TRUE(towar->MaKod(u"5"_s) && towar->MaKod(u"900"_s) && !towar->MaKod(u"2"_s));
+  EXPECT_EQ(Wczytany(id)->Kody().Wszystkie(), towar->Kody().Wszystkie());
+}
+
+TEST_F(Towary, ZmianyTrafiajaDoDziennikaKasISklepow) {
+  const int id = Zapisany(u"900"_s, u"Nazwa"_s);
+  b.baza.ExecSQL("insert into JM (Nazwa) values ('kg')");
+  b.baza.ExecSQL("insert into KasTow (KasaId, TowId, KodWyslany) values (1, 1, '901')");
+  b.baza.ExecSQL("insert into Sklep (SklepId) values (1)");
+  b.baza.ExecSQL("insert into SklepFlagi (SklepId, TowId) values (1, 1)");
+  using T = TDmVLTTowar;
+  const std::tuple<QString, QString, std::function<void(T&)>> przypadki[] = {
+      {u": cena detaliczna 0 na 12.5 netto"_s, u"1|0"_s, [](T& t) { t.UstawCenaDet(12.5); }},
+      {{}, u"0|1"_s, [](T& t) { t.UstawOpis2(u"x"_s); }},
+      {u": jednostka miary 1 na 2, stawka VAT 23 % na ZW, cena hurtowa 0 na 1 netto"_s, u"1|1"_s,
+       [](T& t) { t.UstawJMId(2), t.UstawStawka(-1), t.UstawCenaHurt(1); }},
+      {u": kod z '900' na '902', typ towar na usługa"_s, u"0|1"_s,
+       [](T& t) { t.UstawKod(u"902"_s), t.UstawTypTowaru(TypTowaru::Usluga); }},
+      {{}, u"0|0"_s, [](T&) {}}};
+  for (const auto& [opis, flagi, zmien] : przypadki) {
+    b.baza.ExecSQL("update KasTow set ZmianyCen = 0, ZmianyInne = 0");
+    b.baza.ExecSQL("update SklepFlagi set Zmiana = null");
+    auto towar = Wczytany(id);
+    zmien(*towar);
+    towar->Zapisz();
+    EXPECT_EQ(b.Tekst("select Opis from DziennikZmian order by rowid desc limit 1"),
+              QString(u"Zmiana towaru"_s + opis));
+    EXPECT_EQ(b.Tekst("select ZmianyCen || '|' || ZmianyInne from KasTow"), flagi);
+    EXPECT_EQ(b.Liczba("select count(*) from SklepFlagi where Zmiana is not null"), 1);
+  }
+}
+
+TEST_F(Towary, TowarNaKasieZachowujeToPoCzymKasaGoZna) {
+  const int id = Zapisany(u"900"_s, u"Nazwa"_s);
+  b.baza.ExecSQL("insert into KasTow (KasaId, TowId, KodWyslany, Wyslany) values (1, 1, '901', 1)");
+  using T = TDmVLTTowar;
+  const std::pair<int, std::function<void(T&)>> przypadki[] = {
+      {2820, [](T& t) { t.UstawTypTowaru(TypTowaru::Usluga); }},
+      {2820, [](T& t) { t.UstawKod(u"902"_s); }},
+      {2820, [](T& t) { t.UstawStawka(800); }},
+      {2820, [](T& t) { t.UstawSkrot(u"inny"_s); }},
+      {2820, [](T& t) { t.Kody().Dodaj(Dodatkowy(u"901"_s, u"d"_s)); }},
+      {0, [](T& t) { t.UstawCenaDet(3); }}};
+  for (const auto& [kod, zmien] : przypadki) {
+    auto towar = Wczytany(id);
+    zmien(*towar);
+    EXPECT_EQ(KodBledu([&] { towar->Zapisz(); }), kod);
+  }
+  auto towar = Wczytany(id);
+  towar->Kody().Dodaj(Dodatkowy(u"901"_s, u"d"_s));
+  EXPECT_EQ(towar->Kody().Wyslany(b.baza, 0), 1);
+}
+
+// Each statement of a save fails in turn: nothing of it stays in the database or in memory, the caller's
+// transaction goes on, and the same record can be saved afterwards.
+TEST_F(Towary, NieudanyZapisNieZostawiaSladu) {
+  reguly.kodyKrotkie = RegulyKodow::KodyKrotkie::ObcinajZera;
+  reguly.uzupelniacWazone = true;
+  const char* tabele[] = {"Towar",   "KodDod",      "Istw",   "Powiazanie",   "TowWartosc",
+                          "Notatki", "TowDostawca", "KasTow", "DziennikZmian"};
+  const auto wszystko = [&] {
+    QString tekst;
+    for (const char* tabela : tabele) tekst += Wiersze(tabela) + u'\n';
+    return tekst;
+  };
+  const int opakowanie = Zapisany(u"800"_s, u"Skrzynka"_s);
+  auto towar = Nowy(u"2700012"_s, u"Ser żółty"_s);
+  auto zmien = [&, numer = 0]() mutable {
+    ++numer;
+    towar->UstawNotatka(u"n"_s + QString::number(numer));
+    towar->UstawOpakId(opakowanie);
+    towar->UstawIleWOpak(numer);
+    towar->UstawCenaDet(numer);
+    towar->Kody().Dodaj(Dodatkowy(u"90"_s + QString::number(numer), u"d"_s + QString::number(numer)));
+    towar->Stany().UstawStanMin(1, numer);
+    towar->Wartosci().Ustaw(1, numer);
+    towar->Dostawcy().UstawZNipem(std::vector<int>{numer});
+  };
+  for (const bool nowy : {true, false}) {
+    zmien();
+    const auto przed = wszystko();
+    const auto teksty = towar->Teksty();
+    int ktora = 0;
+    for (bool udany = false; !udany;) {
+      const auto rodzaj = ktora % 2 == 0 ? RodzajBleduBazy::Ograniczenie : RodzajBleduBazy::PelnyDysk;
+      int numer = -1;  // the first statement opens the unit itself
+      bool zapis = false;
+      b.baza.StartTransakcji();
+      b.baza.UstawPodsluch([&](std::string_view sql) {
+        if (sql.starts_with("rollback") || numer++ != ktora || sql.starts_with("release")) return;
+        zapis = !sql.starts_with("select") || sql.find("KasTow") != sql.npos;
+        throw EBladBazy(rodzaj, u"próba"_s, {});
+      });
+      try {
+        towar->Zapisz();
+        udany = true;
+      } catch (const EVLTWDError& blad) {
+        EXPECT_EQ(blad.MacCode(), 2007);
+        EXPECT_TRUE(dynamic_cast<const EBladBazy*>(blad.Przyczyna()));
+        EXPECT_EQ(rodzaj, RodzajBleduBazy::Ograniczenie);
+      } catch (const EBladBazy& blad) {
+        EXPECT_EQ(blad.Rodzaj(), rodzaj);
+        EXPECT_TRUE(!zapis || rodzaj == RodzajBleduBazy::PelnyDysk) << ktora;
+      }
+      b.baza.UstawPodsluch({});
+      ASSERT_TRUE(b.baza.GetCzyWTransakcji());
+      if (!udany) {
+        EXPECT_EQ(wszystko(), przed) << ktora;
+        EXPECT_EQ(towar->CzyNowy(), nowy);
+        EXPECT_EQ(towar->Teksty().kod, teksty.kod);
+        EXPECT_EQ(towar->Teksty().dodatkowe, teksty.dodatkowe);
+        b.baza.WycofTransakcji();
+        skroty->Zwolnij();
+      } else {
+        b.baza.KoniecTransakcji();
+      }
+      ++ktora;
+    }
+    EXPECT_GT(ktora, 15);
+    EXPECT_EQ(towar->Kod(), u"2700012??????") << "the stored form of the code comes back after a success";
+    EXPECT_TRUE(towar->MaKod(u"12"_s)) << "and so does the automatic code";
+    EXPECT_TRUE(towar->TakiSamJakWBazie());
+    EXPECT_EQ(Wczytany(towar->Id())->Teksty().dodatkowe, towar->Teksty().dodatkowe);
+  }
+}
+
+TEST_F(Towary, LiczbyPozaZakresemKolumny) {
+  using T = TDmVLTTowar;
+  const std::function<void(T&)> przypadki[] = {
+      [](T& t) { t.UstawTermWazn(1LL << 31); },
+      [](T& t) { t.UstawCenaDet(1e15); },
+      [](T& t) { t.UstawMarza(std::numeric_limits<double>::quiet_NaN()); },
+      [](T& t) { t.Wartosci().Ustaw(1, -1e15); },
+      [](T& t) {
+        t.Kody().Dodaj({0, u"901"_s, u"d"_s, 0, 0, 1e16});
+      },
+      [](T& t) { t.Stany().UstawStanMax(1, 1e15); }};
+  for (const auto& zmien : przypadki) {
+    auto towar = Nowy(u"900"_s, u"Nazwa"_s);
+    zmien(*towar);
+    EXPECT_EQ(KodBledu([&] { towar->Zapisz(); }), 2006);
+    skroty->Zwolnij();
+  }
+  EXPECT_EQ(b.Liczba("select count(*) from Towar"), 0);
+}
+
+TEST_F(Towary, SkrotPowstajeZNazwyTylkoGdyJestPusty) {
+  Zapisany(u"1"_s, u"Mleko"_s);
+  auto towar = Nowy(u"2"_s, u"Mleko"_s);
+  EXPECT_FALSE(towar->Skrot().isEmpty());
+  EXPECT_NE(towar->Skrot(), u"Mleko") << "taken";
+  const QString pierwszy = towar->Skrot();
+  towar->UstawNazwa(u"Ser"_s);
+  EXPECT_EQ(towar->Skrot(), pierwszy);
+  towar->UstawSkrot(u" "_s);
+  towar->UstawNazwa(u"Ser"_s);
+  EXPECT_EQ(towar->Skrot(), u" ") << "the name did not change";
+  towar->Kody().Dodaj(Dodatkowy(u"3"_s, {}));
+  EXPECT_TRUE(towar->UtworzSkrot() && towar->UtworzSkrot(0));
+  EXPECT_EQ(towar->Skrot(), u"Ser");
+  EXPECT_NE(towar->Kody()[0].skrot, u"Ser");
+  EXPECT_GT(towar->Zapisz(), 0);
+}
+
+TEST_F(Towary, UsuwanieIPrzywracanie) {
+  struct Przypadek {
+    const char* sql;
+    PrzeszkodaUsuniecia przeszkoda;
+    int kod;
+  };
+  const Przypadek przypadki[] = {
+      {"update Towar set CKU = 'C'", PrzeszkodaUsuniecia::Centralny, 2868},
+      {"update Towar set CKU = ' ', TypTowaru = 0", PrzeszkodaUsuniecia::Brak, 0},
+      {"update Istw set BlokadaMag = 0.5 where MagId = 2", PrzeszkodaUsuniecia::Stan, 2867},
+      {"update Istw set BlokadaMag = 0, StanMag = -1 where MagId = 1", PrzeszkodaUsuniecia::Stan, 2867},
+      {"update Towar set TypTowaru = 1", PrzeszkodaUsuniecia::Stan, 2867},
+      {"update Towar set TypTowaru = 2", PrzeszkodaUsuniecia::Brak, 0}};
+  const int id = Zapisany(u"900"_s, u"Nazwa"_s);
+  for (const Przypadek& p : przypadki) {
+    b.baza.ExecSQL(p.sql);
+    EXPECT_EQ(SprawdzUsuwanie(b.baza, id), p.przeszkoda) << p.sql;
+    EXPECT_FALSE(b.baza.GetCzyWTransakcji());
+    auto towar = Wczytany(id);
+    EXPECT_EQ(towar->Centralny(), p.kod == 2868);
+    towar->UstawOpis1(u"czeka"_s);
+    EXPECT_EQ(KodBledu([&] { towar->Usun(); }), p.kod) << p.sql;
+    EXPECT_EQ(b.Liczba("select Aktywny from Towar"), p.kod == 0 ? 0 : 1);
+    EXPECT_EQ(towar->Aktywny(), p.kod == 0 ? 0 : 1);
+    if (p.kod != 0) continue;
+    EXPECT_EQ(KodBledu([&] { towar->Usun(); }), 2802);
+    towar->Przywroc();
+    EXPECT_EQ(KodBledu([&] { towar->Przywroc(); }), 2803);
+    EXPECT_EQ(Wczytany(id)->Aktywny(), 1);
+    EXPECT_EQ(b.Tekst("select Opis1 from Towar"), u"");
+    EXPECT_FALSE(towar->TakiSamJakWBazie()) << "other changes stay pending";
+  }
+}
+
+}  // namespace
