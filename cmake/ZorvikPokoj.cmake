@@ -39,6 +39,7 @@ function(zorvik_test nazwa)
   add_executable(test_${nazwa} ${P_SOURCES})
   target_include_directories(test_${nazwa} PRIVATE "${widok}")
   target_link_libraries(test_${nazwa} PRIVATE ${P_LINK} zorvik_styl GTest::gtest GTest::gmock GTest::gtest_main)
-  target_precompile_headers(test_${nazwa} PRIVATE <gmock/gmock.h> <QString> <QByteArray> <string> <vector>)
+  target_precompile_headers(test_${nazwa} PRIVATE
+    <gmock/gmock.h> "${PROJECT_SOURCE_DIR}/tests/wspolne/drukowanie.h" <QString> <QByteArray> <string> <vector>)
   gtest_discover_tests(test_${nazwa} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <QString>
+
+#include "goods/kontrola_kodu.h"
+#include "goods/pola_rekordu.h"
+#include "goods/zapis_towaru.h"
+#include "model/towar.h"
+#include "run/przebieg.h"
+
+class EVLTWDError;
+struct KontekstImportu;
+
+// Decides what one record of a goods file does: it is skipped, adds a good, adds its code to a good, or
+// changes, removes or restores a good. Every refusal becomes a line of the report and the run goes on; only
+// faults of the database that every record would meet leave as exceptions.
+class RekordTowaru {
+ public:
+  explicit RekordTowaru(KontekstImportu& import);
+
+  // Stop when the operator ends the run while correcting the record.
+  PoRekordzie Przetworz(const LiniaRekordu& linia);
+
+ private:
+  // What a step says: go on with the next step, or the record is done with.
+  enum class Krok { Dalej, Koniec, Stop };
+
+  Krok Przeprowadz(const PolaRekordu& pola);
+  Krok FiltrujStatus(const PolaRekordu& pola);
+  Krok UstalKod();
+  Krok ZnajdzTowar(const QString& kod);
+  Krok UstalNazwe();
+  Krok SprawdzKod();
+  Krok SprawdzTaSamaNazwe();
+  Krok DodajJakoKodDodatkowy(int towId);
+  Krok DodajTowar();
+  Krok PoprawTowar();
+
+  std::optional<int> TowarZNazwa() const;
+  // The stock the record carries; nothing when it carries none that is to be written.
+  Krok CzytajStan(const PolaRekordu& pola);
+  bool ZapiszStan(int towId);
+  bool ZmienStatus();
+  bool SlownikiDoUzupelnienia() const;
+  void PotwierdzNadane();
+
+  Krok Pomin(const QString& komunikat);
+
+  KontekstImportu& m_import;
+  TDmVLTTowar m_towar;
+  ZapisTowaru m_zapis;
+
+  // Of the record in hand.
+  KodRekordu m_kod;
+  QString m_nazwa;
+  bool m_nazwaNadana = false;
+  bool m_aktywny = true;
+  std::optional<double> m_stan;
+};

@@ -1,0 +1,102 @@
+#include "goods/zapis_towaru.h"
+
+#include <vector>
+
+#include "goods/kontekst_importu.h"
+#include "model/bledy.h"
+#include "model/bufor_towarow.h"
+#include "model/nazwy_skrocone.h"
+#include "model/towar.h"
+#include "run/operator.h"
+#include "run/raport_problemow.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString TekstOdmowy(int kod, bool brakKodu) {
+  switch (kod) {
+    case 2840:
+      return brakKodu ? u"Brak nazwy i kodu towaru"_s : u"Brak nazwy towaru"_s;
+    case 2816:
+      return u"Brak kodu towaru"_s;
+    case 2822:
+      return u"Towar o tym kodzie już jest w bazie"_s;
+    case 2828:
+      return u" Kod główny pokrywa się z kodem dodatkowym"_s;
+    case 2819:
+    case 2823:
+    case 2824:
+      return u"Błąd nadania unikalnej nazwy skróconej"_s;
+    default:
+      return u"Nie można zapisać towaru"_s;
+  }
+}
+
+bool OdmowaSkrotu(int kod) {
+  return kod == 2819 || kod == 2823 || kod == 2824;
+}
+
+}  // namespace
+
+ZapisTowaru::Wynik ZapisTowaru::Zapisz(const QString& rezygnacja) {
+  for (;;) {
+    try {
+      ZapiszIPowiadom();
+      return Wynik::Zapisany;
+    } catch (const EVLTWDError& odmowa) {
+      if (WyreczWPoprawianiu(odmowa)) continue;
+      const QString tekst = TekstOdmowy(odmowa.MacCode(), m_towar.Kod().trimmed().isEmpty());
+      switch (PoprawLubPomin(m_import.oper, m_towar, tekst, u"Zignorować ten towar? Jesteś pewny?"_s)) {
+        case Poprawka::Poprawiono:
+          break;
+        case Poprawka::Stop:
+          return Wynik::Stop;
+        case Poprawka::Zrezygnowano:
+          m_import.raport.Zglos(rezygnacja);
+          return Wynik::Pominiety;
+      }
+    }
+  }
+}
+
+void ZapisTowaru::ZapiszIPowiadom() {
+  if (m_towar.CzyNowy()) {
+    const int id = m_towar.Zapisz();
+    m_import.bufor.Dodaj(id, m_towar.Teksty());
+  } else {
+    const TVLTBuforTowarow::Teksty bylo = m_towar.TekstyZBazy();
+    const int id = m_towar.Zapisz();
+    m_import.bufor.Zmien(id, bylo, m_towar.Teksty());
+  }
+  m_import.skroty.Potwierdz();
+}
+
+// True when the good was changed and is worth another save.
+bool ZapisTowaru::WyreczWPoprawianiu(const EVLTWDError& odmowa) {
+  return OdmowaSkrotu(odmowa.MacCode()) &&
+         m_import.oper.CzyTak({u"Uwaga"_s, u"Czy wyręczyć Cię w poprawianiu nazwy skróconej"_s}, false) &&
+         PoprawSkroty();
+}
+
+bool ZapisTowaru::PoprawSkroty() {
+  bool poprawiono = false;
+  for (int i = -1; i < m_towar.Kody().Ilosc(); ++i)
+    if (SkrotDoPoprawy(i)) {
+      if (!m_towar.UtworzSkrot(i)) return false;
+      poprawiono = true;
+    }
+  return poprawiono;
+}
+
+bool ZapisTowaru::SkrotDoPoprawy(int indeks) const {
+  const bool dodatkowy = indeks >= 0;
+  const QString skrot = dodatkowy ? m_towar.Kody()[indeks].skrot : m_towar.Skrot();
+  const TDmVLTNazwySkrocone& skroty = m_import.skroty;
+  if (!skroty.Poprawny(skrot) || skroty.SprawdzUnikalnosc(skrot, m_towar.Id(), dodatkowy).towId >= 0)
+    return true;
+  if (!dodatkowy) return false;
+  std::vector<QString> inne;
+  for (const KodDodatkowy& kod : m_towar.Kody().Wszystkie()) inne.push_back(kod.skrot);
+  return !TDmVLTNazwySkrocone::SprawdzWsrodKodow(skrot, {m_towar.Skrot(), inne}, indeks).dobry;
+}
