@@ -29,11 +29,17 @@ void Stany::WczytajMagazyny() {
   TDmVLTListaMagazynow lista(m_sesja);
   lista.Otworz();
   if (lista.Ilosc() == 0) {
-    TDmVLTMagazyn magazyn(m_sesja);
-    magazyn.Nowy();
-    magazyn.UstawNazwe(u"Magazyn nr 1"_s);
-    magazyn.Zapisz();
-    lista.Przyjmij(magazyn);
+    // Looked up again inside the write transaction, where nobody else makes the same warehouse.
+    JednostkaZapisu jednostka(m_sesja.baza);
+    lista.Otworz();
+    if (lista.Ilosc() == 0) {
+      TDmVLTMagazyn magazyn(m_sesja);
+      magazyn.Nowy();
+      magazyn.UstawNazwe(u"Magazyn nr 1"_s);
+      magazyn.Zapisz();
+      lista.Przyjmij(magazyn);
+    }
+    jednostka.Zatwierdz();
   }
   m_magazyny.clear();
   for (int i = 0; i < lista.Ilosc(); ++i) {

@@ -1,0 +1,124 @@
+#include "app/operacje.h"
+
+#include <QLocale>
+
+#include "app/argumenty.h"
+#include "app/postep_terminala.h"
+#include "app/przerwanie.h"
+#include "app/srodowisko.h"
+#include "app/terminal.h"
+#include "goods/import_towarow.h"
+#include "model/bufor_towarow.h"
+#include "model/kontekst.h"
+#include "run/operator.h"
+#include "run/przebieg.h"
+#include "ustawienia/kontrola_struktury.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+WynikPrzebiegu UruchomImportTowarow(const ParametryPrzebiegu& parametry, Ustawienia& ustawienia) {
+  TVLTBuforTowarow bufor;
+  return ImportujTowary(parametry, ustawienia.importTow, bufor);
+}
+
+constexpr PozycjaJson kLicznikiTowarow[] = {
+    {u"rekordow", Licznik::Rekordy},
+    {u"dodanych", Licznik::Dodane},
+    {u"poprawionych", Licznik::Poprawione},
+    {u"pominietych", Licznik::Pominiete},
+    {u"bezZmian", Licznik::BezZmian},
+    {u"asortymentow", Licznik::Asortymenty},
+    {u"jednostek", Licznik::Jednostki},
+    {u"stawek", Licznik::Stawki},
+    {u"kategorii", Licznik::Kategorie},
+    {u"parametrow", Licznik::Parametry},
+    {u"formatowKodowWazonych", Licznik::FormatyKodowWazonych},
+};
+
+const Operacja kOperacje[] = {
+    {u"import-towarow", u"importuje towary z pliku do bazy",
+     u"Bez nazwy pliku importuje plik z ustawienia ParNazwaPlikuImportuTow.", u"Import towarów",
+     Kierunek::Import, &Ustawienia::plikImportuTow, &Ustawienia::strukturaTow, kLicznikiTowarow,
+     UruchomImportTowarow},
+};
+
+char SeparatorSystemowy() {
+  return QLocale::system().decimalPoint() == u","_s ? ',' : '.';
+}
+
+// The run, from the settings to its result; refused when it could not begin.
+WynikPrzebiegu Przeprowadz(const Operacja& operacja, const Argumenty& argumenty, PostepTerminala& postep) {
+  const PokazKomunikat pokaz = [&](const Komunikat& k) { postep.Pokaz(k.naglowek, k.tekst); };
+  Srodowisko srodowisko;
+  if (!Przygotuj(argumenty, PotrzebaBazy::Konieczna, pokaz, srodowisko)) return {};
+  Ustawienia& ustawienia = srodowisko.ustawienia;
+  const StrukturaPliku& struktura = ustawienia.*operacja.struktura;
+  const auto odmowa = operacja.kierunek == Kierunek::Import ? SprawdzStrukture(struktura) : std::nullopt;
+  if (odmowa) {
+    pokaz(*odmowa);
+    return {};
+  }
+
+  OperatorNieobecny oper(postep, argumenty.liczbaPol);
+  KontekstSesji sesja{srodowisko.baza, srodowisko.parametry};
+  return operacja.uruchom(
+      {.sesja = sesja,
+       .struktura = struktura,
+       .plik = argumenty.plik.value_or(ustawienia.*operacja.plik),
+       .postep = postep,
+       .oper = oper,
+       .stop = przerwanie::Zazadane(),
+       .separatorDziesietny = argumenty.separatorDziesietny.value_or(SeparatorSystemowy()),
+       .katalogPominietych = argumenty.pominiete.value_or(QString())},
+      ustawienia);
+}
+
+struct OpisKonca {
+  std::u16string_view nazwa;  // value of "koniec" in the result
+  std::u16string_view dlaLudzi;
+  StatusWyjscia status;
+};
+
+// In the order of KoniecPrzebiegu.
+constexpr OpisKonca kKonce[] = {
+    {u"zakonczono", u"zakończono", StatusWyjscia::Zakonczono},
+    {u"przerwano", u"przerwano", StatusWyjscia::Przerwano},
+    {u"blad", u"zakończono z powodu błędu", StatusWyjscia::Blad},
+    {u"odmowa", u"nie rozpoczęto", StatusWyjscia::Odmowa},
+};
+
+QString Podsumowanie(const Operacja& operacja, const OpisKonca& koniec, const WynikPrzebiegu& wynik) {
+  QString tekst = u"%1: %2"_s.arg(Napis(operacja.tytul), Napis(koniec.dlaLudzi));
+  if (wynik.koniec == KoniecPrzebiegu::Odmowa) return tekst + u'\n';
+  const auto ile = [&](Licznik licznik) { return wynik.liczniki[licznik]; };
+  tekst +=
+      u" po %1 s. Rekordów: %2, dodanych: %3, poprawionych: %4, pominiętych: %5 (w tym bez zmian: %6).\n"_s
+          .arg(QString::number(wynik.sekund, 'f', 1).replace(u'.', u','))
+          .arg(ile(Licznik::Rekordy))
+          .arg(ile(Licznik::Dodane))
+          .arg(ile(Licznik::Poprawione))
+          .arg(ile(Licznik::Pominiete))
+          .arg(ile(Licznik::BezZmian));
+  if (!wynik.plikPominietych.isEmpty()) tekst += u"Pominięte rekordy: %1\n"_s.arg(wynik.plikPominietych);
+  return tekst;
+}
+
+}  // namespace
+
+std::span<const Operacja> TabelaOperacji() {
+  return kOperacje;
+}
+
+StatusWyjscia WykonajOperacje(const Operacja& operacja, const Argumenty& argumenty) {
+  PostepTerminala postep;
+  const WynikPrzebiegu wynik = Przeprowadz(operacja, argumenty, postep);
+  const OpisKonca& koniec = kKonce[static_cast<std::size_t>(wynik.koniec)];
+  if (argumenty.json)
+    terminal::WypiszBajty(
+        WynikJson(operacja.nazwa, koniec.nazwa, operacja.liczniki, wynik, postep.Pokazane()));
+  else
+    terminal::Wypisz(Podsumowanie(operacja, koniec, wynik));
+  return koniec.status;
+}

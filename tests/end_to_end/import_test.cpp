@@ -1,0 +1,167 @@
+#include "platform/windows1250.h"
+#include "tests/end_to_end/pliki_towarow.h"
+
+namespace {
+
+namespace T = PoleTowaru;
+
+// Everything an import writes, without identifiers of goods and times.
+constexpr std::string_view kZrzut = R"(
+    select t.Kod || '|' || t.Nazwa || '|' || t.Skrot || '|' || t.TypTowaru || '|' || t.Indeks1 || '|' || t.Opis1
+      || '|' || t.IleWZgrzewce || '|' || t.TermWazn || '|' || t.PrefPLU || '|' || t.Marza || '|' || t.CenaEw
+      || '|' || t.CenaDet || '|' || t.CenaHurt || '|' || t.CenaOtwarta || '|' || t.Stawka || '|' || t.Aktywny
+      || '|' || (select Nazwa from Asort a where a.AsId = t.AsId)
+      || '|' || (select Nazwa from JM j where j.JMId = t.JMId)
+      || '|' || coalesce((select k.Nazwa from Kategoria k where k.KatId = t.KatId), '-')
+      || '|' || coalesce((select group_concat(d.Kod || ',' || d.Skrot || ',' || d.PrefPLU, ';')
+                          from KodDod d where d.TowId = t.TowId), '-')
+      || '|' || coalesce((select group_concat(p.Nazwa || '=' || w.Wartosc, ';') from TowWartosc w
+                          join Parametr p on p.ParId = w.ParId where w.TowId = t.TowId), '-')
+      || '|' || coalesce((select group_concat(i.StanMag, ';') from Istw i where i.TowId = t.TowId), '-')
+      || '|' || coalesce((select k.NIP from Kontrahent k where k.KontrId = t.Producent), '-')
+      || '|' || coalesce((select group_concat(k.NIP, ';') from TowDostawca d
+                          join Kontrahent k on k.KontrId = d.KontrId where d.TowId = t.TowId), '-')
+    from Towar t order by t.Kod)";
+
+const std::vector<Rekord> kTowary = {
+    {{T::Kod, u"5901234567893"_s},
+     {T::Nazwa, u"Żurek śląski z kiełbasą"_s},
+     {T::TypTowaru, u"0"_s},
+     {T::Indeks1, u"10.85"_s},
+     {T::Opis1, u"Gęsty, źródlana woda"_s},
+     {T::IleWZgrzewce, u"12"_s},
+     {T::TermWazn, u"30"_s},
+     {T::Marza, u"12,5"_s},
+     {T::CenaEw, u"7,10"_s},
+     {T::CenaDet, u"9.99"_s},
+     {T::StawkaVat, u"8"_s},
+     {T::Asortyment, u"Zupy próbne"_s},
+     {T::JednostkaMiary, u"słoik"_s},
+     {T::KodyDodatkowe, u"(5901234567909|Żurek|7);(5901234567916||)"_s},
+     {T::KategoriaIParametry, u"Gotowe: ostrość(2:łagodna|ostra)"_s},
+     {T::Stan, u"12,5"_s},
+     {T::NipProducenta, u"9990000126"_s},
+     {T::NipyDostawcow, u"(9990000126)"_s},
+     {T::Status, u"1"_s}},
+    {{T::Kod, u"5901234567923"_s},
+     {T::Nazwa, u"Ćwiczenia z fizjoterapeutą"_s},
+     {T::TypTowaru, u"2"_s},
+     {T::CenaDet, u"150"_s},
+     {T::CenaOtwarta, u"1"_s},
+     {T::StawkaVat, u"ZW"_s},
+     {T::Asortyment, u"Usługi próbne"_s},
+     {T::Status, u"1"_s}},
+    {{T::Kod, u"5901234567930"_s}, {T::Nazwa, u"Dawny łosoś"_s}, {T::StawkaVat, u"5"_s}, {T::Status, u"0"_s}},
+    {{T::Kod, u"123"_s}, {T::Nazwa, u"Krótki, źle"_s}, {T::StawkaVat, u"23"_s}, {T::Status, u"1"_s}},
+    {{T::Kod, u"5901234567947"_s}, {T::StawkaVat, u"23"_s}, {T::Status, u"1"_s}},
+    {{T::Kod, u"5901234567954"_s},
+     {T::Nazwa, u"Zła cena"_s},
+     {T::CenaDet, u"tanio"_s},
+     {T::StawkaVat, u"23"_s},
+     {T::Status, u"1"_s}},
+};
+
+constexpr std::u16string_view kPominiete =
+    u"123 | Krótki, źle | Kod krótki\r\n"
+    u"5901234567947 |  | Brak nazwy towaru\r\n"
+    u"5901234567954 | Zła cena | tanio nie jest liczbą\r\n";
+
+TEST(ImportCaly, CzteryUkladyDajaTeSamaBaze) {
+  struct Uklad {
+    TypPliku typ;
+    StronaKodowa strona;
+  };
+  QStringList wzor;
+  for (const auto& [typ, strona] :
+       {Uklad{TypPliku::Zorvik, StronaKodowa::Windows}, Uklad{TypPliku::Rozdzielany, StronaKodowa::Windows},
+        Uklad{TypPliku::StalaSzerokosc, StronaKodowa::Mazovia},
+        Uklad{TypPliku::DBase, StronaKodowa::LatinII}}) {
+    SCOPED_TRACE(static_cast<int>(typ));
+    const Stanowisko s(true);
+    const int bylo = s.Towarow();
+    s.Zapisz(u"towary"_s, PlikTowarow(kTowary, typ, strona));
+    const QStringList slowa =
+        UstawieniaPliku(typ, strona) + QStringList{u"--ustaw"_s, u"ParImportStanow=1"_s};
+    const Wynik wynik = s.Import(u"towary"_s, slowa);
+    EXPECT_EQ(wynik.status, 0) << wynik.bledy.toStdString();
+    EXPECT_EQ(wynik.Liczba(u"rekordow"_s), 6);
+    EXPECT_EQ(wynik.Liczba(u"dodanych"_s), 3);
+    EXPECT_EQ(wynik.Liczba(u"pominietych"_s), 3);
+    EXPECT_EQ(wynik.Liczba(u"asortymentow"_s), 3);  // two of the file and "Pomocniczy"
+    EXPECT_EQ(s.Towarow(), bylo + 3);
+    EXPECT_EQ(s.Odczytaj(u"POMINIETE.TXT"_s).toStdString(), windows1250::ZUnicode(kPominiete));
+
+    const QStringList zrzut = s.Zapytaj(kZrzut);
+    if (wzor.isEmpty()) wzor = zrzut;
+    EXPECT_EQ(zrzut, wzor);
+    EXPECT_TRUE(zrzut.filter(u"5901234567893"_s).value(0).contains(u"|Żurek śląski z kiełbasą|"_s));
+
+    const Wynik ponownie = s.Import(u"towary"_s, slowa);
+    EXPECT_EQ(ponownie.Liczba(u"bezZmian"_s), 3);
+    EXPECT_EQ(ponownie.Liczba(u"pominietych"_s), 6);
+    EXPECT_EQ(s.Zapytaj(kZrzut), wzor);
+  }
+}
+
+TEST(ImportCaly, ZlyPlikJestOdrzuconyZPowodem) {
+  const std::string dobry = DuzyPlik(3);
+  const std::string dbase = PlikTowarow(kTowary, TypPliku::DBase, StronaKodowa::Windows);
+  const auto zmieniony = [&](size_t gdzie, const std::string& bajty) {
+    return std::string(dbase).replace(gdzie, bajty.size(), bajty);
+  };
+  std::string utf16 = "\xFF\xFE";
+  for (const char znak : dobry) utf16 += {znak, '\0'};
+  std::string wielePol = dbase.substr(0, 32);
+  for (int i = 0; i < 120; ++i) wielePol += dbase.substr(32, 32);
+  wielePol.replace(8, 2, "\x41\x0F");  // 121 × 32 + 1
+  const struct {
+    const char* nazwa;
+    TypPliku typ;
+    std::string tresc;
+    QString tekst;
+  } kPliki[] = {
+      {"UTF-16", TypPliku::Zorvik, utf16, u"UTF-16"_s},
+      {"znacznik UTF-8", TypPliku::Zorvik, "\xEF\xBB\xBF" + dobry, u"UTF-8"_s},
+      {"bajty zerowe", TypPliku::Zorvik, dobry + std::string(10, '\0') + "\r\n", u"bajty zerowe"_s},
+      {"linia bez końca", TypPliku::Zorvik, dobry + std::string(2 << 20, 'a'), u"dłuższa niż"_s},
+      {"linia bez końca", TypPliku::Rozdzielany, std::string(2 << 20, 'a'), u"dłuższa niż"_s},
+      {"rekord długości 0", TypPliku::DBase, zmieniony(10, std::string(2, '\0')), u"Długość rekordu"_s},
+      {"za długi rekord", TypPliku::DBase, zmieniony(10, "\xFF\xFF"), u"Za długi rekord"_s},
+      {"nagłówek długości 0", TypPliku::DBase, zmieniony(8, std::string(2, '\0')), u"Nagłówek"_s},
+      {"nagłówek za plikiem", TypPliku::DBase, zmieniony(8, "\xFF\xFF"), u"Nagłówek"_s},
+      {"ponad 100 pól", TypPliku::DBase, wielePol + dbase, u"więcej niż 100 pól"_s},
+      {"sam początek", TypPliku::DBase, dbase.substr(0, 20), u"krótszy niż nagłówek"_s},
+      {"brak pola", TypPliku::DBase, zmieniony(32, "INNE"), u"W importowanym pliku brak pola: pole0"_s},
+  };
+  const Stanowisko s;
+  for (const auto& plik : kPliki) {
+    SCOPED_TRACE(plik.nazwa);
+    s.Zapisz(u"zly"_s, plik.tresc);
+    const Wynik wynik = s.Import(u"zly"_s, UstawieniaPliku(plik.typ, StronaKodowa::Windows));
+    EXPECT_EQ(wynik.status, 3);
+    EXPECT_EQ(wynik.Koniec(), u"odmowa"_s);
+    EXPECT_TRUE(wynik.bledy.contains(plik.tekst)) << wynik.bledy.toStdString();
+    EXPECT_EQ(s.Towarow(), 0);
+  }
+  // Wrong numbers that do no harm: the size of the file tells how many records there are.
+  s.Zapisz(u"dobry"_s, zmieniony(4, "\xFF\xFF\xFF\xFF"));
+  EXPECT_EQ(
+      s.Import(u"dobry"_s, UstawieniaPliku(TypPliku::DBase, StronaKodowa::Windows)).Liczba(u"rekordow"_s), 6);
+}
+
+TEST(ImportCaly, PlikKodCenaNieRuszaInnychPol) {
+  const Stanowisko s;
+  s.Zapisz(u"towary"_s, PlikTowarow(kTowary, TypPliku::Zorvik, StronaKodowa::Windows));
+  EXPECT_EQ(s.Import(u"towary"_s).status, 0);
+  const QString przed = s.Zapytaj(kZrzut).filter(u"5901234567893"_s).value(0);
+  s.Zapisz(u"cennik"_s, "5901234567893;11,49\n");
+  const Wynik wynik =
+      s.Import(u"cennik"_s, {u"--ustaw"_s, u"ParTypPlikuTow=1"_s, u"--ustaw"_s, u"ParSeparatorTow=;"_s,
+                             u"--ustaw"_s, u"ParIloscPolTow=2"_s, u"--ustaw"_s, u"ParPoleTow0=00"_s,
+                             u"--ustaw"_s, u"ParPoleTow1=18"_s, u"--ustaw"_s, u"ParNieAnalPierwTow=0"_s});
+  EXPECT_EQ(wynik.Liczba(u"poprawionych"_s), 1) << wynik.bledy.toStdString();
+  EXPECT_EQ(s.Zapytaj(kZrzut).filter(u"5901234567893"_s).value(0),
+            QString(przed).replace(u"|9.99|"_s, u"|11.49|"_s));
+}
+
+}  // namespace
