@@ -108,16 +108,17 @@ RozpoznawanieSlownikow::RozpoznawanieSlownikow(KontekstSesji& sesja, const Opcje
       m_asortymenty(sesja),
       m_jednostki(sesja),
       m_kategorie(sesja),
-      m_parametry(sesja),
-      m_kodyWazone(sesja) {}
+      m_parametry(sesja) {}
 
 void RozpoznawanieSlownikow::Wczytaj() {
   m_asortymenty.Otworz();
   m_jednostki.Otworz();
   m_kategorie.Otworz();
   m_parametry.Otworz();
-  m_kodyWazone.Otworz();
-  m_formaty = m_kodyWazone.Formaty();
+  TDmVLTListaKodowWazonych formaty(m_sesja);
+  formaty.Otworz();
+  m_formaty = formaty.Formaty();
+  m_iloscFormatow = formaty.Ilosc();
   m_stawki.Wczytaj(m_sesja.baza);
 }
 
@@ -200,14 +201,14 @@ bool RozpoznawanieSlownikow::DodajFormat(FormatKoduWazonego format) {
   TDmVLTKodWazony kod(m_sesja);
   const bool zapisany = Udalo([&] {
     kod.Nowy();
-    kod.UstawNazwe(u"KW typ "_s + QString::number(m_kodyWazone.Ilosc() + 1));
+    kod.UstawNazwe(u"KW typ "_s + QString::number(m_iloscFormatow + 1));
     kod.UstawFormat(format);
     kod.UstawWartoscWKodzie(0);
     kod.UstawDodKontrola(0);
     kod.Zapisz();
   });
   if (!zapisany) return false;
-  m_kodyWazone.DodajElement(kod.Id());
+  ++m_iloscFormatow;
   m_formaty.Dodaj(format);
   m_liczniki.Zwieksz(Licznik::FormatyKodowWazonych);
   return true;

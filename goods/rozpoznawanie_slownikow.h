@@ -69,6 +69,6 @@ class RozpoznawanieSlownikow {
   TDmVLTListaJednostek m_jednostki;
   TDmVLTListaKategorii m_kategorie;
   TDmVLTListaParametrow m_parametry;
-  TDmVLTListaKodowWazonych m_kodyWazone;
   TVLTStawkiVat m_stawki;
+  int m_iloscFormatow = 0;
 };

@@ -18,8 +18,8 @@ Poprawka PoprawLubPomin(IOperator& oper, TDmVLTElement& rekord, const QString& o
 OdpowiedzLiczbaPol OperatorNieobecny::LiczbaPol(const Komunikat& pytanie) {
   // The text differs with every record, the question does not.
   static const QString kOdpowiedzi[] = {u"przerwij"_s, u"pomiń ten rekord"_s, u"ignoruj"_s};
-  m_postep.Pokaz(pytanie.naglowek, pytanie.tekst + u" Odpowiedź bez operatora: "_s +
-                                       kOdpowiedzi[static_cast<int>(m_liczbaPol)]);
+  m_postep->Pokaz(pytanie.naglowek, pytanie.tekst + u" Odpowiedź bez operatora: "_s +
+                                        kOdpowiedzi[static_cast<int>(m_liczbaPol)]);
   return m_liczbaPol;
 }
 
@@ -40,5 +40,6 @@ std::optional<QString> OperatorNieobecny::PodajTekst(const Komunikat& pytanie) {
 
 void OperatorNieobecny::Powiedz(const Komunikat& pytanie, const QString& odpowiedz) {
   if (!m_powiedziane.insert(pytanie.tekst).second) return;
-  m_postep.Pokaz(pytanie.naglowek, pytanie.tekst + u" Odpowiedź bez operatora (także dalej): "_s + odpowiedz);
+  m_postep->Pokaz(pytanie.naglowek,
+                  pytanie.tekst + u" Odpowiedź bez operatora (także dalej): "_s + odpowiedz);
 }

@@ -31,6 +31,8 @@ class IOperator {
  public:
   virtual ~IOperator() = default;
 
+  // Set while a run lasts (null afterwards): what is said in place of a person is then said by the run.
+  virtual void UstawPostepPrzebiegu(IPostep* /*postep*/) {}
   // False when nobody can answer: no question is then worth preparing for.
   virtual bool JestOsoba() const = 0;
   virtual OdpowiedzLiczbaPol LiczbaPol(const Komunikat& pytanie) = 0;
@@ -50,8 +52,9 @@ Poprawka PoprawLubPomin(IOperator& oper, TDmVLTElement& rekord, const QString& o
 class OperatorNieobecny final : public IOperator {
  public:
   OperatorNieobecny(IPostep& postep, OdpowiedzLiczbaPol liczbaPol = OdpowiedzLiczbaPol::Przerwij)
-      : m_postep(postep), m_liczbaPol(liczbaPol) {}
+      : m_wlasnyPostep(postep), m_postep(&postep), m_liczbaPol(liczbaPol) {}
 
+  void UstawPostepPrzebiegu(IPostep* postep) override { m_postep = postep ? postep : &m_wlasnyPostep; }
   bool JestOsoba() const override { return false; }
   OdpowiedzLiczbaPol LiczbaPol(const Komunikat& pytanie) override;
   Poprawka Popraw(TDmVLTElement& rekord, const QString& odmowa) override;
@@ -61,7 +64,8 @@ class OperatorNieobecny final : public IOperator {
  private:
   void Powiedz(const Komunikat& pytanie, const QString& odpowiedz);
 
-  IPostep& m_postep;
+  IPostep& m_wlasnyPostep;
+  IPostep* m_postep;
   OdpowiedzLiczbaPol m_liczbaPol;
   std::set<QString> m_powiedziane;
 };

@@ -57,6 +57,7 @@ Przebieg::~Przebieg() = default;
 WynikPrzebiegu Przebieg::Wykonaj() {
   const auto poczatek = std::chrono::steady_clock::now();
   KoniecPrzebiegu koniec = KoniecPrzebiegu::Odmowa;
+  m_parametry.oper.UstawPostepPrzebiegu(&m_postep);
   try {
     if (const auto odmowa = Otworz())
       Pokaz(*odmowa);
@@ -68,6 +69,7 @@ WynikPrzebiegu Przebieg::Wykonaj() {
     koniec = PoWyjatku(u"Wystąpił błąd"_s, QString::fromLocal8Bit(blad.what()));
   }
   Zakoncz(koniec);
+  m_parametry.oper.UstawPostepPrzebiegu(nullptr);
   const std::chrono::duration<double> czas = std::chrono::steady_clock::now() - poczatek;
   return {koniec, m_liczniki, std::move(m_komunikaty), m_raport.Sciezka(), czas.count()};
 }

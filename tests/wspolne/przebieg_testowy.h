@@ -16,10 +16,11 @@ class PostepTestowy final : public IPostep {
 
   void Faza(const QString& tekst, long long /*maksimum*/) override {
     m_tekst = tekst;
+    m_faza = linie.size();
     linie << tekst;
   }
   void Pozycja(long long /*pozycja*/) override {}
-  void DopiszLiczbe(long long liczba) override { linie.last() = m_tekst + QString::number(liczba); }
+  void DopiszLiczbe(long long liczba) override { linie[m_faza] = m_tekst + QString::number(liczba); }
   void Gotowe() override {}
   void Pokaz(const QString& tytul, const QString& tekst) override {
     linie << tytul + QStringLiteral(": ") + tekst;
@@ -28,6 +29,7 @@ class PostepTestowy final : public IPostep {
 
  private:
   QString m_tekst;
+  qsizetype m_faza = 0;
 };
 
 // Answers every question with what the test says; `przyPytaniu` is called first.

@@ -1,0 +1,214 @@
+#include "goods/nazwy_jednostek.h"
+#include "goods/numeracja_nazw.h"
+#include "goods/rozpoznawanie_slownikow.h"
+#include "tests/goods/srodowisko.h"
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using Nazwany = int (RozpoznawanieSlownikow::*)(const QString&, int);
+
+class SlownikiTest : public testing::Test, protected SrodowiskoTowarow {
+ protected:
+  SlownikiTest() {
+    for (const char* sql :
+         {"insert into Asort (Nazwa) values ('Pieczywo')", "insert into Asort (Nazwa) values ('Żółte sery')",
+          "insert into JM (Nazwa, Precyzja) values ('szt.', 0)",
+          "insert into Kategoria (Nazwa) values ('Wina')",
+          "insert into KodWazony (Nazwa, Prefix, CzescStala) values ('Waga', 27, 5)"})
+      baza.baza.ExecSQL(sql);
+    slowniki.Wczytaj();
+  }
+  QString NazwaW(const char* tabela, int id) {
+    return baza.Tekst("select Nazwa from " + std::string(tabela) + " where rowid = " + std::to_string(id));
+  }
+  long long Ile(const char* tabela) { return baza.Liczba("select count(*) from " + std::string(tabela)); }
+  void ZakazNowych() {
+    opcje.cb_noweasortymenty = opcje.cb_nowejednostki = opcje.cb_nowestawki = opcje.cb_nowekategorie = false;
+    opcje.cb_noweparametry = opcje.cb_nowekodywazone = false;
+  }
+  void Psuj(std::string_view poczatek, RodzajBleduBazy rodzaj) {
+    baza.baza.UstawPodsluch([=](std::string_view sql) {
+      if (sql.starts_with(poczatek)) throw EBladBazy(rodzaj, u"Błąd"_s, {});
+    });
+  }
+  static ParametrZBloku Lista(const QString& nazwa, int n, std::vector<QString> wartosci) {
+    return {nazwa, ParametrZBloku::Typ::Lista, n, std::move(wartosci), 0, 0};
+  }
+  static ParametrZBloku Zakres(const QString& nazwa, int n) {
+    return {nazwa, ParametrZBloku::Typ::Zakres, n, {}, 0, 100};
+  }
+
+  FormatyKodowWazonych formaty;
+  RozpoznawanieSlownikow slowniki{sesja, opcje, raport, liczniki, formaty};
+};
+
+TEST_F(SlownikiTest, WpisyPoNazwie) {
+  struct {
+    const char* tabela;
+    Nazwany rozpoznaj;
+    Licznik licznik;
+    QString istniejacy, innaPisownia;
+    int id;
+    bool przemianowany;
+    QString brak;
+  } const przypadki[] = {
+      {"Asort", &RozpoznawanieSlownikow::Asortyment, Licznik::Asortymenty, u"Żółte sery"_s, u"ŻÓŁTE SERY"_s,
+       2, true, u"Nie ma takiego asortymentu"_s},
+      {"JM", &RozpoznawanieSlownikow::Jednostka, Licznik::Jednostki, u"szt."_s, u"Szt."_s, 1, true,
+       u"Nie ma takiej jednostki"_s},
+      {"Kategoria", &RozpoznawanieSlownikow::Kategoria, Licznik::Kategorie, u"Wina"_s, u"WINA"_s, 1, false,
+       u"Nie ma takiej kategorii"_s},
+  };
+  for (const auto& p : przypadki) {
+    SCOPED_TRACE(p.tabela);
+    opcje = {};
+    const long long ile = Ile(p.tabela);
+    EXPECT_EQ((slowniki.*p.rozpoznaj)(u" "_s, 0), -1);
+    // By name: nothing is renamed. As the good's own entry: its spelling follows, except a category's.
+    EXPECT_EQ((slowniki.*p.rozpoznaj)(p.innaPisownia, 0), p.id);
+    EXPECT_EQ(NazwaW(p.tabela, p.id), p.istniejacy);
+    EXPECT_EQ((slowniki.*p.rozpoznaj)(p.innaPisownia, p.id), p.id);
+    EXPECT_EQ(NazwaW(p.tabela, p.id), p.przemianowany ? p.innaPisownia : p.istniejacy);
+    EXPECT_EQ(Problemy(), QStringList());
+
+    const int nowy = (slowniki.*p.rozpoznaj)(u"Nowość"_s, p.id);
+    EXPECT_EQ(NazwaW(p.tabela, nowy), u"Nowość"_s);
+    EXPECT_EQ((slowniki.*p.rozpoznaj)(u"NOWOŚĆ"_s, 0), nowy);
+
+    // A refused save leaves neither a row nor a memory of one, and no line.
+    Psuj("insert", RodzajBleduBazy::Ograniczenie);
+    EXPECT_EQ((slowniki.*p.rozpoznaj)(u"Inna"_s, 0), -1);
+    baza.baza.UstawPodsluch({});
+    ZakazNowych();
+    EXPECT_EQ(Problemy(), QStringList());
+    EXPECT_EQ((slowniki.*p.rozpoznaj)(u"Inna"_s, 0), -1);
+    EXPECT_EQ(Problemy(), QStringList{p.brak});
+    EXPECT_EQ(Ile(p.tabela), ile + 1);
+    EXPECT_EQ(liczniki[p.licznik], 1);
+  }
+  EXPECT_EQ(liczniki[Licznik::Pominiete], 3);
+  EXPECT_EQ(baza.Tekst("select group_concat(Precyzja) from JM order by JMId"), u"0,3"_s);
+}
+
+// Two entries that differ in case only: the good keeps its own as it is when the other bears the file's
+// spelling.
+TEST_F(SlownikiTest, ZajetaPisowniaZostajePrzyDrugimWpisie) {
+  baza.baza.ExecSQL("insert into Asort (Nazwa) values ('PIECZYWO')");
+  slowniki.Wczytaj();
+  EXPECT_EQ(slowniki.Asortyment(u"PIECZYWO"_s, 1), 1);
+  EXPECT_EQ(NazwaW("Asort", 1), u"Pieczywo"_s);
+  EXPECT_EQ(slowniki.Asortyment(u"pieczywo"_s, 0), 1);
+}
+
+TEST_F(SlownikiTest, BladKonczacyPrzebiegIdzieDalej) {
+  Psuj("insert into Asort", RodzajBleduBazy::PelnyDysk);
+  EXPECT_THROW(slowniki.Asortyment(u"Nowy"_s, 0), EBladBazy);
+}
+
+TEST_F(SlownikiTest, StawkiVat) {
+  EXPECT_TRUE(slowniki.Stawka(-1));
+  EXPECT_TRUE(slowniki.Stawka(2200));
+  EXPECT_TRUE(slowniki.Stawka(2200));
+  EXPECT_EQ(Ile("Vat"), 6);
+  // The dictionary is rewritten: an insert that fails leaves it as it was, in memory too.
+  Psuj("insert into Vat", RodzajBleduBazy::Ograniczenie);
+  EXPECT_FALSE(slowniki.Stawka(700));
+  baza.baza.UstawPodsluch({});
+  EXPECT_EQ(Ile("Vat"), 6);
+  ZakazNowych();
+  EXPECT_FALSE(slowniki.Stawka(700));
+  EXPECT_EQ(Problemy().count(u"Nie ma takiej jednostki"_s), 2);
+  EXPECT_EQ(liczniki[Licznik::Stawki], 1);
+  EXPECT_EQ(liczniki[Licznik::Pominiete], 1);  // both lines are of one record
+}
+
+TEST_F(SlownikiTest, FormatyKodowWazonych) {
+  struct {
+    QString maska;
+    bool nowe, wynik;
+    long long formatow;
+  } const przypadki[] = {
+      {u"2712345???????"_s, false, true, 1}, {u"27?????"_s, false, false, 1}, {u"27?????"_s, true, true, 2},
+      {u"2712?????"_s, true, true, 3},       {u"2712?????"_s, true, true, 3}, {u"AB???"_s, true, false, 3},
+      {u"2????"_s, true, false, 3},
+  };
+  for (const auto& p : przypadki) {
+    SCOPED_TRACE(p.maska.toStdString());
+    opcje.cb_nowekodywazone = p.nowe;
+    EXPECT_EQ(slowniki.FormatKodu(p.maska), p.wynik);
+    EXPECT_EQ(Problemy().size(), p.wynik ? 0 : 1);
+    EXPECT_EQ(Ile("KodWazony"), p.formatow);
+  }
+  EXPECT_EQ(baza.Tekst("select Nazwa || Prefix || '/' || CzescStala from KodWazony where KWId = 3"),
+            u"KW typ 327/2"_s);
+  EXPECT_TRUE(formaty.Zawiera({27, 0}));
+  EXPECT_EQ(liczniki[Licznik::FormatyKodowWazonych], 2);
+}
+
+TEST_F(SlownikiTest, ParametryKategorii) {
+  const int wina = 1;
+  const int piwa = slowniki.Kategoria(u"Piwa"_s, 0);
+  struct {
+    int kategoria;
+    ParametrZBloku parametr;
+    std::optional<std::pair<int, double>> wynik;
+    QString problem;
+  } const przypadki[] = {
+      {wina, Lista(u"Kolor"_s, 2, {u"białe"_s, u"czerwone"_s}), {{1, 1}}, {}},
+      {wina, Zakres(u"Rocznik"_s, 42), {{2, 42}}, {}},
+      // the text decides, then the position
+      {wina, Lista(u"KOLOR"_s, 1, {u"czerwone"_s}), {{1, 1}}, {}},
+      {wina, Lista(u"Kolor"_s, 1, {u"różowe"_s}), {{1, 0}}, {}},
+      {wina, Lista(u"Kolor"_s, 3, {u"a"_s, u"b"_s, u"c"_s}), {}, u"Nie ma takiego parametru"_s},
+      {wina, Zakres(u"Kolor"_s, 1), {}, u"Istniejący parametr ma inny typ"_s},
+      // known elsewhere: attached, not made again, its values kept
+      {piwa, Lista(u"kolor"_s, 1, {u"czerwone"_s, u"x"_s}), {{1, 1}}, {}},
+      {piwa, Lista(u"Rocznik"_s, 1, {u"a"_s}), {}, u"Istniejący parametr ma inny typ"_s},
+  };
+  for (const auto& p : przypadki) {
+    SCOPED_TRACE(p.parametr.nazwa.toStdString() + std::to_string(p.parametr.n));
+    EXPECT_EQ(slowniki.Parametr(p.kategoria, p.parametr), p.wynik);
+    EXPECT_EQ(Problemy(), p.problem.isEmpty() ? QStringList() : QStringList{p.problem});
+  }
+  EXPECT_EQ(slowniki.ParametryKategorii(wina), (std::vector<int>{1, 2}));
+  EXPECT_EQ(slowniki.ParametryKategorii(piwa), (std::vector<int>{1}));
+  EXPECT_EQ(Ile("ParWartosc"), 2);
+  EXPECT_EQ(liczniki[Licznik::Parametry], 2);
+
+  // Attaching fails: the new parameter goes with it.
+  Psuj("insert into KatParam", RodzajBleduBazy::Ograniczenie);
+  EXPECT_EQ(slowniki.Parametr(piwa, Zakres(u"Moc"_s, 5)), std::nullopt);
+  baza.baza.UstawPodsluch({});
+  EXPECT_EQ(Ile("Parametr"), 2);
+  EXPECT_EQ(slowniki.ParametryKategorii(piwa).size(), 1u);
+  opcje.cb_noweparametry = false;
+  EXPECT_EQ(slowniki.Parametr(piwa, Zakres(u"Rocznik"_s, 5)), std::nullopt);
+}
+
+TEST(NazwyJednostek, Normalizacja) {
+  const std::pair<QString, QString> przypadki[] = {
+      {u"SZT."_s, u"szt"_s}, {u"Sztuka"_s, u"Sztuka"_s}, {u"Komplety"_s, u"kpl."_s}, {u"kpl."_s, u"kpl."_s},
+      {u"MB"_s, u"m.b."_s},  {u"op"_s, u"opak"_s},       {u"Litr"_s, u"l"_s},        {u""_s, u""_s}};
+  for (const auto& [z, na] : przypadki) {
+    QString nazwa = z;
+    NormalizujJednostke(nazwa);
+    EXPECT_EQ(nazwa, na);
+  }
+}
+
+TEST(NumeracjaNazw, IdzieDalejOdNajwyzszej) {
+  SrodowiskoTowarow s;
+  NumeracjaNazw nazwy(s.baza.baza);
+  EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 0001"_s);
+  EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 0001"_s);
+  nazwy.Potwierdz();
+  EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 0002"_s);
+  for (const char* nazwa : {"Towar bez nazwy 10000", "Towar bez nazwy 0007", "Towar bez nazwy i kodu"})
+    s.baza.baza.ExecSQL("insert into Towar (Nazwa, Skrot, Kod) values (:Nazwa, '', '')",
+                        {{"Nazwa", QString::fromUtf8(nazwa)}});
+  nazwy.Zapomnij();
+  EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 10001"_s);
+}
+
+}  // namespace

@@ -1,0 +1,148 @@
+#include "tests/goods/import_testowy.h"
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using testing::ElementsAre;
+
+const QString kKoniec = u"Koniec: Aktualizację zakończono"_s;
+const QString kStany =
+    u"UWAGA: Wykonano import stanów magazynowych. Należy uruchomić program Veltrana i wywołać operację:\r"
+    u"Kontrola->Operacje serwisowe->Automatyczna inicjacja-> według stanów towarowych"_s;
+
+class SterownikTest : public testing::Test, protected ImportTestowy {};
+
+TEST_F(SterownikTest, FazyICalePodsumowanie) {
+  UstawPola({0, 1, 24});
+  Importuj("590001;Chleb;Pieczywo\n590002;;X\n");
+  EXPECT_THAT(
+      postep.linie,
+      ElementsAre(u"łączenie z bazą VLT Win"_s, u"przygotowanie bufora towarów"_s,
+                  u"Wstępne przeglądanie pliku"_s, u"Ilość rekordów do przetworzenia 2"_s,
+                  u"Numer aktualnego rekordu 2"_s, u"zamykanie pliku importu"_s, kKoniec,
+                  u"Ilość dodanych towarów 1"_s, u"Ilość poprawionych towarów 0"_s,
+                  u"Ilość pominiętych towarów 1"_s, u"Ilość dodanych asortymentów1"_s,
+                  u"Ilość dodanych jednostek1"_s, u"Ilość dodanych stawek1"_s, u"Ilość dodanych kategorii0"_s,
+                  u"Ilość dodanych parametrów0"_s, u"Ilość dodanych formatów kodów ważonych0"_s));
+  EXPECT_EQ(b.Tekst("select group_concat(Nazwa) from Magazyn"), u"Magazyn nr 1"_s);
+  // The buffer is kept; a header alone is no record.
+  struktura.CBNieAnalizujPierwszejLinii = true;
+  Importuj("590003;Bułka;Pieczywo\n");
+  EXPECT_FALSE(postep.linie.contains(u"przygotowanie bufora towarów"_s));
+  EXPECT_TRUE(postep.linie.contains(u"Ilość rekordów do przetworzenia 0"_s));
+}
+
+TEST_F(SterownikTest, BuforNipTylkoGdyPotrzebny) {
+  struct {
+    int pole;
+    bool oferowane, jest;
+  } const przypadki[] = {{24, true, false}, {29, true, true}, {30, true, true}, {29, false, false}};
+  for (const auto& p : przypadki) {
+    SCOPED_TRACE(p.pole);
+    UstawPola({0, 1, p.pole});
+    struktura.UstawOferowane(p.pole, p.oferowane);
+    Importuj("");
+    EXPECT_EQ(postep.linie.contains(u"przygotowanie bufora NIP-ów"_s), p.jest);
+  }
+}
+
+TEST_F(SterownikTest, OstrzezenieOStanach) {
+  UstawPola({0, 1, 28});
+  opcje.CBImportStanow = 1;
+  const auto gdzie = [&](const char* rekordy) {
+    Importuj(rekordy);
+    const qsizetype poKoncu = postep.linie.indexOf(kKoniec) + 1;
+    return postep.linie.contains(kStany) ? postep.linie.indexOf(kStany) - poKoncu : -1;
+  };
+  EXPECT_EQ(gdzie("59001;Chleb;2\n"), 0);
+  EXPECT_EQ(gdzie("59001;Chleb;2\n"), -1);
+  oper = &osoba;
+  osoba.liczbaPol = OdpowiedzLiczbaPol::Przerwij;
+  EXPECT_EQ(gdzie("59001;Chleb;3\n59002\n"), 0);
+}
+
+// Each statement of a run fails in turn, as a full disk and as refused values. Whatever happens, the counters
+// and the buffer say what the database holds, and the same import afterwards completes.
+TEST_F(SterownikTest, PamiecZgadzaSieZBaza) {
+  UstawPola({0, 1, 23, 24, 25, 26, 27, 28});
+  opcje.CBImportStanow = 1;
+  opcje.cb_KodyWazone = true;
+  const char* const rekordy =
+      "590001;Chleb;A;Pieczywo;szt.;(590002|Kromka|7);Smak: Ostry(1:tak|nie);0\n"
+      "590003;Ser;S;Nabiał;kg;;;4\n"
+      "590001;Chleb;A;PIECZYWO;szt.;(590002|Kromka|7);Smak: Moc(5:0..9);2\n"
+      "2712???????;Szynka;A;Wędliny;kg;;;0\n";
+  const char* const kTabele[] = {"Towar",    "KodDod",   "Asort",     "JM",         "Vat",    "Kategoria",
+                                 "Parametr", "KatParam", "KodWazony", "TowWartosc", "Magazyn"};
+  const auto ile = [&](std::string_view tabela) {
+    return b.Liczba("select count(*) from " + std::string(tabela));
+  };
+  b.baza.ExecSQL("pragma synchronous = off");  // hundreds of runs
+  const auto wyczysc = [&] {
+    for (const char* tabela : {"DziennikZmian", "TowWartosc", "KodDod", "Istw", "Towar", "Asort", "JM",
+                               "KatParam", "ParWartosc", "Parametr", "Kategoria", "KodWazony", "Magazyn"})
+      b.baza.ExecSQL("delete from " + std::string(tabela));
+    b.baza.ExecSQL("delete from Vat where Stawka = 700");
+    bufor.Uniewaznij();
+  };
+  const auto sprawdzPamiec = [&](const Liczniki& liczniki) {
+    EXPECT_FALSE(b.baza.GetCzyWTransakcji());
+    const std::pair<Licznik, const char*> zliczane[] = {{Licznik::Dodane, "Towar"},
+                                                        {Licznik::Asortymenty, "Asort"},
+                                                        {Licznik::Jednostki, "JM"},
+                                                        {Licznik::Kategorie, "Kategoria"},
+                                                        {Licznik::Parametry, "Parametr"},
+                                                        {Licznik::FormatyKodowWazonych, "KodWazony"},
+                                                        {Licznik::Stawki, "Vat where Stawka = 700"}};
+    for (const auto& [licznik, tabela] : zliczane) EXPECT_EQ(liczniki[licznik], ile(tabela)) << tabela;
+    EXPECT_EQ(Pominiete().size() == 0, liczniki[Licznik::Pominiete] == 0);
+    if (!bufor.Gotowy()) return;
+    TVLTBuforTowarow swiezy;
+    swiezy.Napelnij(b.baza);
+    EXPECT_EQ(bufor.Ilosc(), swiezy.Ilosc());
+    for (const QString& kod : {u"590001"_s, u"590002"_s, u"590003"_s, u"2712???????"_s})
+      EXPECT_EQ(bufor.TowaryZKodem(kod), swiezy.TowaryZKodem(kod));
+    for (const QString& nazwa : {u"Chleb"_s, u"Ser"_s, u"Szynka"_s, u"Kromka"_s}) {
+      EXPECT_EQ(bufor.TowaryZNazwa(nazwa), swiezy.TowaryZNazwa(nazwa));
+      EXPECT_EQ(bufor.TowaryZeSkrotem(nazwa), swiezy.TowaryZeSkrotem(nazwa));
+    }
+  };
+
+  int polecen = 0;
+  b.baza.UstawPodsluch([&](std::string_view) { ++polecen; });
+  const WynikPrzebiegu wzor = Importuj(rekordy);
+  b.baza.UstawPodsluch({});
+  ASSERT_EQ(wzor.liczniki[Licznik::Dodane], 3) << (Pominiete() + postep.linie).join(u" # "_s).toStdString();
+  ASSERT_EQ(wzor.liczniki[Licznik::Poprawione], 1);
+  sprawdzPamiec(wzor.liczniki);
+  std::vector<long long> oczekiwane;
+  for (const char* tabela : kTabele) oczekiwane.push_back(ile(tabela));
+
+  for (const RodzajBleduBazy rodzaj : {RodzajBleduBazy::PelnyDysk, RodzajBleduBazy::Ograniczenie}) {
+    for (int ktore = 1; ktore <= polecen; ++ktore) {
+      wyczysc();
+      int numer = 0;
+      std::string polecenie;
+      b.baza.UstawPodsluch([&](std::string_view sql) {
+        if (++numer != ktore) return;
+        polecenie = sql;
+        throw EBladBazy(rodzaj, u"Błąd"_s, {});
+      });
+      const WynikPrzebiegu wynik = Importuj(rekordy);
+      b.baza.UstawPodsluch({});
+      SCOPED_TRACE(std::to_string(ktore) + ": " + polecenie);
+      sprawdzPamiec(wynik.liczniki);
+      // A rollback is what is done after a failure, and the log may stay as it is.
+      const bool bezSkutku =
+          polecenie.starts_with("rollback") || polecenie.starts_with("pragma wal_checkpoint");
+      EXPECT_EQ(wynik.koniec == KoniecPrzebiegu::Blad || rodzaj == RodzajBleduBazy::Ograniczenie || bezSkutku,
+                true);
+      Importuj(rekordy);
+      for (std::size_t i = 0; i < oczekiwane.size(); ++i)
+        EXPECT_EQ(ile(kTabele[i]), oczekiwane[i]) << kTabele[i];
+      if (HasFailure()) return;
+    }
+  }
+}
+
+}  // namespace
