@@ -64,7 +64,7 @@ class Tabela {
  public:
   Tabela() {
     Wiersz({"pomiar", "import", "wzorzec", "stosunek", "granica", ""});
-    std::puts(std::string(98, '-').c_str());
+    std::puts(std::string(104, '-').c_str());
   }
   void Dodaj(const std::string& nazwa, const std::string& import, const std::string& wzorzec, double stosunek,
              double granica) {
@@ -83,7 +83,7 @@ class Tabela {
 
  private:
   static void Wiersz(const std::array<std::string, 6>& komorki) {
-    constexpr std::array<std::size_t, 6> kSzerokosci = {48, 13, 13, 10, 9, 4};
+    constexpr std::array<std::size_t, 6> kSzerokosci = {56, 12, 12, 10, 9, 5};
     std::string wiersz;
     for (std::size_t i = 0; i < komorki.size(); ++i) {
       const std::string& k = komorki[i];

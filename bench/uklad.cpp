@@ -18,12 +18,17 @@ std::string Wpis(const Kolumna& kolumna, TypPliku typ) {
 }  // namespace
 
 const std::vector<Kolumna>& Kolumny() {
-  static const std::vector<Kolumna> kolumny = {
-      {PoleTowaru::Kod, "KOD", 13},          {PoleTowaru::Nazwa, "NAZWA", 60},
-      {PoleTowaru::Indeks2, "PKWIU", 12},    {PoleTowaru::IleWZgrzewce, "ZGRZEWKA", 6},
-      {PoleTowaru::CenaEw, "CENA_ZAK", 10},  {PoleTowaru::CenaDet, "CENA_SPRZ", 10},
-      {PoleTowaru::StawkaVat, "VAT", 4},     {PoleTowaru::Asortyment, "ASORT", 40},
-      {PoleTowaru::JednostkaMiary, "JM", 6}, {PoleTowaru::KodyDodatkowe, "KOD_DOD", 13}};
+  // The last column is never empty: an empty one would not count as a field of its record.
+  static const std::vector<Kolumna> kolumny = {{PoleTowaru::Kod, "KOD", 13},
+                                               {PoleTowaru::KodyDodatkowe, "KOD_DOD", 13},
+                                               {PoleTowaru::Nazwa, "NAZWA", 60},
+                                               {PoleTowaru::Indeks2, "PKWIU", 12},
+                                               {PoleTowaru::IleWZgrzewce, "ZGRZEWKA", 6},
+                                               {PoleTowaru::CenaEw, "CENA_ZAK", 10},
+                                               {PoleTowaru::CenaDet, "CENA_SPRZ", 10},
+                                               {PoleTowaru::StawkaVat, "VAT", 4},
+                                               {PoleTowaru::Asortyment, "ASORT", 40},
+                                               {PoleTowaru::JednostkaMiary, "JM", 6}};
   return kolumny;
 }
 
