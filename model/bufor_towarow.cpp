@@ -14,8 +14,9 @@ std::uint64_t Odcisk(const QString& tekst) {
   return qHash(tekst, 0);
 }
 
+// An empty text is nobody's: it is never looked for.
 void Wstaw(std::unordered_multimap<std::uint64_t, int>& indeks, const QString& tekst, int towId) {
-  indeks.emplace(Odcisk(tekst), towId);
+  if (!tekst.isEmpty()) indeks.emplace(Odcisk(tekst), towId);
 }
 
 // One occurrence: a good may have the same text twice.
@@ -87,8 +88,8 @@ void TVLTBuforTowarow::Dodaj(int towId, const Teksty& teksty) {
 void TVLTBuforTowarow::Zmien(int towId, const Teksty& bylo, const Teksty& jest) {
   const auto jeden = [towId](Indeks& indeks, const QString& stary, const QString& nowy) {
     if (stary == nowy) return;
-    if (!stary.isNull()) Wyjmij(indeks, stary, towId);
-    if (!nowy.isNull()) Wstaw(indeks, nowy, towId);
+    Wyjmij(indeks, stary, towId);
+    Wstaw(indeks, nowy, towId);
   };
   const auto wiele = [towId](Indeks& indeks, const std::vector<QString>& stare,
                              const std::vector<QString>& nowe) {

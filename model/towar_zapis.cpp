@@ -13,15 +13,15 @@
 
 namespace {
 
-using enum KolumnaTowaru::Numer;
+using K = KolumnaTowaru;
 
 // The columns that an insert and an update write, in their order: those of table Towar without the key and
 // without Zmiana, which the server's clock fills.
 constexpr auto kZapisywane = [] {
-  std::array<KolumnaTowaru::Numer, OpakId - 2> pola{};
+  std::array<K::Numer, K::OpakId - 2> pola{};
   std::size_t ile = 0;
-  for (std::size_t i = AsId; i < OpakId; ++i)
-    if (i != Zmiana) pola[ile++] = static_cast<KolumnaTowaru::Numer>(i);
+  for (std::size_t i = K::AsId; i < K::OpakId; ++i)
+    if (i != K::Zmiana) pola[ile++] = static_cast<K::Numer>(i);
   return pola;
 }();
 
@@ -59,7 +59,7 @@ auto ZOdmowaZapisu(Praca praca) {
 
 // How the change log names a changed column and its two values.
 struct OpisZmiany {
-  KolumnaTowaru::Numer pole;
+  K::Numer pole;
   const char16_t* nazwa;
   QString (*opis)(const Wartosc& bylo, const Wartosc& jest);
 };
@@ -98,14 +98,14 @@ QString OpisTypu(const Wartosc& bylo, const Wartosc& jest) {
 }
 
 constexpr OpisZmiany kOpisyZmian[] = {
-    {AsId, u"asortyment", OpisLiczby},       {JMId, u"jednostka miary", OpisLiczby},
-    {KatId, u"kategoria", OpisLiczby},       {Kod, u"kod", OpisKodu},
-    {TypTowaru, u"typ", OpisTypu},           {Stawka, u"stawka VAT", OpisStawki},
-    {CenaEw, u"cena ewidencyjna", OpisCeny}, {CenaDet, u"cena detaliczna", OpisCeny},
-    {CenaHurt, u"cena hurtowa", OpisCeny},   {CenaNoc, u"cena nocna", OpisCeny},
-    {CenaDod, u"cena dodatkowa", OpisCeny}};
+    {K::AsId, u"asortyment", OpisLiczby},       {K::JMId, u"jednostka miary", OpisLiczby},
+    {K::KatId, u"kategoria", OpisLiczby},       {K::Kod, u"kod", OpisKodu},
+    {K::TypTowaru, u"typ", OpisTypu},           {K::Stawka, u"stawka VAT", OpisStawki},
+    {K::CenaEw, u"cena ewidencyjna", OpisCeny}, {K::CenaDet, u"cena detaliczna", OpisCeny},
+    {K::CenaHurt, u"cena hurtowa", OpisCeny},   {K::CenaNoc, u"cena nocna", OpisCeny},
+    {K::CenaDod, u"cena dodatkowa", OpisCeny}};
 
-constexpr KolumnaTowaru::Numer kCenySprzedazy[] = {CenaDet, CenaHurt, CenaNoc, CenaDod};
+constexpr K::Numer kCenySprzedazy[] = {K::CenaDet, K::CenaHurt, K::CenaNoc, K::CenaDod};
 
 bool CenaSprzedazy(std::size_t pole) {
   return std::find(std::begin(kCenySprzedazy), std::end(kCenySprzedazy), pole) != std::end(kCenySprzedazy);
@@ -136,7 +136,7 @@ void TDmVLTTowar::UpdateRecord(int id) {
     parametry.push_back({"TowId", id});
     if (Context.baza.ExecSQL(sql, parametry) == 0) throw EVLTWDError(2001);
     ZapiszNotatke(id);
-    if (Zmienione({KolumnaTowaru::OpakId, KolumnaTowaru::IleWOpak, KolumnaTowaru::Tandem})) {
+    if (Zmienione({K::OpakId, K::IleWOpak, K::Tandem})) {
       Context.baza.ExecSQL("delete from Powiazanie where TowId = :TowId", {{"TowId", id}});
       WstawPowiazanie(id);
     }
@@ -168,7 +168,7 @@ TDmVLTTowar::Plan TDmVLTTowar::Zaplanuj() const {
   Plan plan;
   if (const WynikWalidacji wynik = SprawdzDoPlanu(plan); !wynik.Dobry())
     throw EVLTWDError(wynik.kod, nullptr, wynik.szczegol);
-  for (std::size_t i = 0; i < KolumnaTowaru::kIlosc; ++i) {
+  for (std::size_t i = 0; i < K::kIlosc; ++i) {
     const TMField& pole = Query.Field(i);
     const bool wZakresie = pole.Value().Typ() == TypPola::Calkowite    ? LiczbaWZakresie(pole.AsInteger())
                            : pole.Value().Typ() == TypPola::Dziesietne ? KwotaWZakresie(pole.AsFloat())
@@ -181,7 +181,7 @@ TDmVLTTowar::Plan TDmVLTTowar::Zaplanuj() const {
 
 // Every parameter of the category has a value.
 void TDmVLTTowar::UzupelnijWartosci(Plan& plan) const {
-  if (KatId() < 0 || (!CzyNowy() && !Zmienione({KolumnaTowaru::KatId}))) return;
+  if (KatId() < 0 || (!CzyNowy() && !Zmienione({K::KatId}))) return;
   WartosciParametrow wartosci = m_wartosci;
   for (auto odczyt = Context.baza.Otworz("select ParId from KatParam where KatId = :KatId",
                                          {TypPola::Calkowite}, {{"KatId", KatId()}});
@@ -196,7 +196,7 @@ std::vector<Parametr> TDmVLTTowar::ParametryZapisu() const {
   parametry.reserve(kZapisywane.size() + 1);
   for (const auto pole : kZapisywane) {
     const TMField& field = Query.Field(pole);
-    if (pole == KolumnaTowaru::Kod)
+    if (pole == K::Kod)
       parametry.push_back({field.FieldName(), m_plan->kod});
     else
       parametry.push_back({field.FieldName(), field.Value()});
@@ -233,10 +233,7 @@ void TDmVLTTowar::ZapiszSzczegoly(int id) const {
 
 // A good that a register holds keeps what the register knows it by.
 void TDmVLTTowar::SprawdzKasy(int id) const {
-  if (!Zmienione(
-          {KolumnaTowaru::TypTowaru, KolumnaTowaru::Kod, KolumnaTowaru::Stawka, KolumnaTowaru::Skrot}) &&
-      m_kody.TakieSameJakWBazie())
-    return;
+  if (!Zmienione({K::TypTowaru, K::Kod, K::Stawka, K::Skrot}) && m_kody.TakieSameJakWBazie()) return;
   if (Context.baza
           .Otworz("select KasaId from KasTow where TowId = :TowId and Wyslany <> 0", {TypPola::Calkowite},
                   {{"TowId", id}})
@@ -247,7 +244,7 @@ void TDmVLTTowar::SprawdzKasy(int id) const {
 void TDmVLTTowar::ZaznaczNaKasach(int id) const {
   bool ceny = false;
   bool inne = m_kody.Zmienione();
-  for (std::size_t i = 0; i < KolumnaTowaru::kIlosc; ++i)
+  for (std::size_t i = 0; i < K::kIlosc; ++i)
     if (Query.Field(i).Zmienione()) (CenaSprzedazy(i) ? ceny : inne) = true;
   if (!ceny && !inne) return;
   Context.baza.ExecSQL(ceny && inne ? "update KasTow set ZmianyCen = 1, ZmianyInne = 1 where TowId = :TowId"
