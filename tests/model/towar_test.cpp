@@ -371,6 +371,23 @@ TEST_F(Towary, NieudanyZapisNieZostawiaSladu) {
   }
 }
 
+TEST_F(Towary, PozaImportemRzadzaParametrySystemu) {
+  b.baza.ExecSQL("insert into KodWazony (Nazwa, Prefix, CzescStala) values ('w', 28, 4)");
+  parametry.Ustaw(IdParametru::MaxKodKreskowy, u"7"_s);
+  const OtoczenieZParametrow otoczenie(kontekst);
+  TDmVLTTowar towar(kontekst, otoczenie.Widok());
+  towar.Nowy();
+  towar.UstawNazwa(u"Nazwa"_s);
+  towar.UstawAsId(1);
+  towar.UstawJMId(1);
+  towar.UstawStawka(0);
+  towar.UstawTypTowaru(TypTowaru::Usluga);
+  for (const auto& [kod, blad] : {std::pair{u"12345678"_s, 2894}, {u"281234"_s, 2821}, {u"271234"_s, 0}}) {
+    towar.UstawKod(kod);
+    EXPECT_EQ(towar.Sprawdz().kod, blad) << kod.toStdString();
+  }
+}
+
 TEST_F(Towary, LiczbyPozaZakresemKolumny) {
   using T = TDmVLTTowar;
   const std::function<void(T&)> przypadki[] = {
