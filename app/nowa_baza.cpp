@@ -44,8 +44,9 @@ void Zapelnij(TVLTBazaDanych& baza, bool demo) {
 }  // namespace
 
 StatusWyjscia WykonajNowaBaza(const Argumenty& argumenty) {
-  const auto parametry = ParametryPolaczenia::ZTekstu(*argumenty.plik);
+  auto parametry = ParametryPolaczenia::ZTekstu(*argumenty.plik);
   if (!parametry) throw BladUzycia{u"Nieobsługiwany rodzaj bazy: \"%1\""_s.arg(*argumenty.plik)};
+  parametry->tworz = true;
   const QString sciezka = parametry->cel;
   if (!ZajmijNazwe(sciezka)) return StatusWyjscia::Odmowa;
   TVLTBazaDanych baza(*parametry);

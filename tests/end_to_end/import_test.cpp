@@ -3,8 +3,6 @@
 
 namespace {
 
-namespace T = PoleTowaru;
-
 // Everything an import writes, without identifiers of goods and times.
 constexpr std::string_view kZrzut = R"(
     select t.Kod || '|' || t.Nazwa || '|' || t.Skrot || '|' || t.TypTowaru || '|' || t.Indeks1 || '|' || t.Opis1
@@ -23,43 +21,16 @@ constexpr std::string_view kZrzut = R"(
                           join Kontrahent k on k.KontrId = d.KontrId where d.TowId = t.TowId), '-')
     from Towar t order by t.Kod)";
 
-const std::vector<Rekord> kTowary = {
-    {{T::Kod, u"5901234567893"_s},
-     {T::Nazwa, u"Żurek śląski z kiełbasą"_s},
-     {T::TypTowaru, u"0"_s},
-     {T::Indeks1, u"10.85"_s},
-     {T::Opis1, u"Gęsty, źródlana woda"_s},
-     {T::IleWZgrzewce, u"12"_s},
-     {T::TermWazn, u"30"_s},
-     {T::Marza, u"12,5"_s},
-     {T::CenaEw, u"7,10"_s},
-     {T::CenaDet, u"9.99"_s},
-     {T::StawkaVat, u"8"_s},
-     {T::Asortyment, u"Zupy próbne"_s},
-     {T::JednostkaMiary, u"słoik"_s},
-     {T::KodyDodatkowe, u"(5901234567909|Żurek|7);(5901234567916||)"_s},
-     {T::KategoriaIParametry, u"Gotowe: ostrość(2:łagodna|ostra)"_s},
-     {T::Stan, u"12,5"_s},
-     {T::NipProducenta, u"9990000126"_s},
-     {T::NipyDostawcow, u"(9990000126)"_s},
-     {T::Status, u"1"_s}},
-    {{T::Kod, u"5901234567923"_s},
-     {T::Nazwa, u"Ćwiczenia z fizjoterapeutą"_s},
-     {T::TypTowaru, u"2"_s},
-     {T::CenaDet, u"150"_s},
-     {T::CenaOtwarta, u"1"_s},
-     {T::StawkaVat, u"ZW"_s},
-     {T::Asortyment, u"Usługi próbne"_s},
-     {T::Status, u"1"_s}},
-    {{T::Kod, u"5901234567930"_s}, {T::Nazwa, u"Dawny łosoś"_s}, {T::StawkaVat, u"5"_s}, {T::Status, u"0"_s}},
-    {{T::Kod, u"123"_s}, {T::Nazwa, u"Krótki, źle"_s}, {T::StawkaVat, u"23"_s}, {T::Status, u"1"_s}},
-    {{T::Kod, u"5901234567947"_s}, {T::StawkaVat, u"23"_s}, {T::Status, u"1"_s}},
-    {{T::Kod, u"5901234567954"_s},
-     {T::Nazwa, u"Zła cena"_s},
-     {T::CenaDet, u"tanio"_s},
-     {T::StawkaVat, u"23"_s},
-     {T::Status, u"1"_s}},
-};
+const std::vector<Rekord> kTowary = Rekordy(
+    u"0:5901234567893~1:Żurek śląski z kiełbasą~3:0~4:10.85~6:Gęsty, źródlana "
+    u"woda~10:12~12:30~14:12,5~17:7,10"
+    "~18:9.99~23:8~24:Zupy próbne~25:słoik~26:(5901234567909|Żurek|7);(5901234567916||)"
+    "~27:Gotowe: ostrość(2:łagodna|ostra)~28:12,5~29:9990000126~30:(9990000126)~31:1\n"
+    "0:5901234567923~1:Ćwiczenia z fizjoterapeutą~3:2~18:150~22:1~23:ZW~24:Usługi próbne~31:1\n"
+    "0:5901234567930~1:Dawny łosoś~23:5~31:0\n"
+    "0:123~1:Krótki, źle~23:23~31:1\n"
+    "0:5901234567947~23:23~31:1\n"
+    "0:5901234567954~1:Zła cena~18:tanio~23:23~31:1"_s);
 
 constexpr std::u16string_view kPominiete =
     u"123 | Krótki, źle | Kod krótki\r\n"
@@ -147,21 +118,6 @@ TEST(ImportCaly, ZlyPlikJestOdrzuconyZPowodem) {
   s.Zapisz(u"dobry"_s, zmieniony(4, "\xFF\xFF\xFF\xFF"));
   EXPECT_EQ(
       s.Import(u"dobry"_s, UstawieniaPliku(TypPliku::DBase, StronaKodowa::Windows)).Liczba(u"rekordow"_s), 6);
-}
-
-TEST(ImportCaly, PlikKodCenaNieRuszaInnychPol) {
-  const Stanowisko s;
-  s.Zapisz(u"towary"_s, PlikTowarow(kTowary, TypPliku::Zorvik, StronaKodowa::Windows));
-  EXPECT_EQ(s.Import(u"towary"_s).status, 0);
-  const QString przed = s.Zapytaj(kZrzut).filter(u"5901234567893"_s).value(0);
-  s.Zapisz(u"cennik"_s, "5901234567893;11,49\n");
-  const Wynik wynik =
-      s.Import(u"cennik"_s, {u"--ustaw"_s, u"ParTypPlikuTow=1"_s, u"--ustaw"_s, u"ParSeparatorTow=;"_s,
-                             u"--ustaw"_s, u"ParIloscPolTow=2"_s, u"--ustaw"_s, u"ParPoleTow0=00"_s,
-                             u"--ustaw"_s, u"ParPoleTow1=18"_s, u"--ustaw"_s, u"ParNieAnalPierwTow=0"_s});
-  EXPECT_EQ(wynik.Liczba(u"poprawionych"_s), 1) << wynik.bledy.toStdString();
-  EXPECT_EQ(s.Zapytaj(kZrzut).filter(u"5901234567893"_s).value(0),
-            QString(przed).replace(u"|9.99|"_s, u"|11.49|"_s));
 }
 
 }  // namespace

@@ -9,6 +9,17 @@
 // Field number to value; fields that are missing are empty. The rate is a percentage or "ZW".
 using Rekord = std::map<int, QString>;
 
+// From lines "number:value~number:value".
+inline std::vector<Rekord> Rekordy(const QString& tekst) {
+  std::vector<Rekord> rekordy;
+  for (const QString& linia : tekst.split(u'\n')) {
+    Rekord& rekord = rekordy.emplace_back();
+    for (const QString& pole : linia.split(u'~'))
+      rekord[pole.section(u':', 0, 0).toInt()] = pole.section(u':', 1);
+  }
+  return rekordy;
+}
+
 inline constexpr int kSzerokosc = 44;
 
 // The file in one of the layouts, in the code page given, and the settings by which it is read.
@@ -78,14 +89,13 @@ inline QStringList UstawieniaPliku(TypPliku typ, StronaKodowa strona) {
 
 // Many goods in the own layout: unique codes and names, one additional code each.
 inline std::string DuzyPlik(int ile) {
-  std::vector<Rekord> rekordy;
+  QStringList linie;
   for (int i = 0; i < ile; ++i)
-    rekordy.push_back({{PoleTowaru::Kod, QString::number(5900000000000 + i)},
-                       {PoleTowaru::Nazwa, u"Towar próbny nr %1"_s.arg(i)},
-                       {PoleTowaru::CenaDet, u"%1,99"_s.arg(i % 100)},
-                       {PoleTowaru::StawkaVat, u"23"_s},
-                       {PoleTowaru::Asortyment, u"Asortyment %1"_s.arg(i % 7)},
-                       {PoleTowaru::KodyDodatkowe, u"(%1||)"_s.arg(5910000000000 + i)},
-                       {PoleTowaru::Status, u"1"_s}});
-  return PlikTowarow(rekordy, TypPliku::Zorvik, StronaKodowa::Windows);
+    linie << u"0:%1~1:Towar próbny nr %2~18:%3,99~23:23~24:Asortyment %4~26:(%5||)~31:1"_s
+                 .arg(5900000000000 + i)
+                 .arg(i)
+                 .arg(i % 100)
+                 .arg(i % 7)
+                 .arg(5910000000000 + i);
+  return PlikTowarow(Rekordy(linie.join(u'\n')), TypPliku::Zorvik, StronaKodowa::Windows);
 }

@@ -137,6 +137,16 @@ TEST(WierszPolecen, KolejnoscUstawien) {
   EXPECT_EQ(s.Uruchom(Slowa("ustawienia --konfiguracja wydruk.cfg")).wyjscie, wynik.wyjscie);
 }
 
+TEST(WierszPolecen, DokumentacjaZnaKazdeUstawienie) {
+  QFile plik(QStringLiteral(ZORVIK_ZRODLA "/docs/ustawienia.md"));
+  ASSERT_TRUE(plik.open(QIODevice::ReadOnly));
+  const QString opis = QString::fromUtf8(plik.readAll());
+  const QString wydruk = Stanowisko().Uruchom(Slowa("ustawienia")).wyjscie;
+  EXPECT_GT(wydruk.count(u'\n'), 100);
+  for (const QString& linia : wydruk.split(u'\n', Qt::SkipEmptyParts))
+    EXPECT_TRUE(opis.contains(u'`' + linia.left(35).trimmed() + u'`')) << linia.toStdString();
+}
+
 TEST(WierszPolecen, NowaBazaNieNadpisuje) {
   const Stanowisko s;
   const QByteArray przed = s.Odczytaj(u"baza.db"_s);
@@ -145,6 +155,7 @@ TEST(WierszPolecen, NowaBazaNieNadpisuje) {
   EXPECT_TRUE(wynik.bledy.contains(u"UWAGA: Plik baza.db już istnieje"_s));
   EXPECT_EQ(s.Odczytaj(u"baza.db"_s), przed);
   EXPECT_EQ(s.Uruchom(Slowa("nowa-baza nie/ma/x.db")).status, 3);
+  EXPECT_EQ(s.Zapytaj("pragma journal_mode"), QStringList{u"wal"_s});
   EXPECT_EQ(s.Zapytaj("select cast(Stawka as text) from Vat order by Stawka"),
             (QStringList{u"-1"_s, u"0"_s, u"500"_s, u"800"_s, u"2300"_s}));
   EXPECT_EQ(s.Ile("select cast(count(*) as text) from Konfiguracja where Parametr = 'PrefixKoduWlasnego' and "
