@@ -227,6 +227,10 @@ void TVLTBazaDanych::Polacz() {
     ExecSQL("pragma synchronous = normal");
     ExecSQL("pragma foreign_keys = on");
     ExecSQL("pragma cache_size = -65536");
+    // Savepoints keep the old pages of each unit: in memory, or every save would write them to a file.
+    ExecSQL("pragma temp_store = memory");
+    // Fewer, longer checkpoints: each one waits for the disk.
+    Otworz("pragma wal_autocheckpoint = 16384", kLiczba, {}).Nastepny();
     // The first read of the file: tells a database from any other file.
     Otworz("select count(*) from sqlite_master", kLiczba, {}).Nastepny();
   } catch (...) {
