@@ -73,6 +73,11 @@ class Tabela {
     Wiersz(
         {nazwa, import, wzorzec, Liczba("%.2f", stosunek), Liczba("%.2f", granica), dobrze ? "tak" : "NIE"});
   }
+  // Shown beside the measurements that have a limit.
+  void Informacja(const std::string& nazwa, const std::string& import, const std::string& wzorzec,
+                  double stosunek) {
+    Wiersz({nazwa, import, wzorzec, Liczba("%.2f", stosunek), "", ""});
+  }
   bool Dobrze() const { return m_dobrze; }
 
   static std::string Liczba(const char* format, double liczba) {
@@ -126,7 +131,7 @@ class Pomiar {
   Przebieg Import(const std::string& plik, const std::string& baza, const char* licznik, int ile,
                   const std::vector<std::string>& srodowisko = {}) const;
   double Wzorzec(const std::string& baza, const std::string& wiersze, const char* tryb) const;
-  void Porownaj(const char* po) const;
+  void Porownaj(const char* po, const char* wzorzec) const;
   void Runda(Seria& seria, bool pierwsza);
   void RundaPoprawiania(const Seria& seria, bool pierwsza);
   long LiczFsync(const Seria& seria) const;
@@ -135,7 +140,7 @@ class Pomiar {
   fs::path m_programy, m_folder;
   int m_ile;
   long long m_dziennik = 0;  // log lines after adding
-  std::vector<double> m_identyczne;
+  std::vector<double> m_identyczne, m_poprawianieCen;
   Para m_poprawianie;
 };
 
@@ -168,8 +173,8 @@ double Pomiar::Wzorzec(const std::string& baza, const std::string& wiersze, cons
   return Uruchom({Program("wzorzec"), Sciezka(baza), Sciezka(wiersze), tryb}).sekund;
 }
 
-void Pomiar::Porownaj(const char* po) const {
-  const std::string roznica = PierwszaRoznica(Sciezka("import.db"), Sciezka("wzorzec.db"));
+void Pomiar::Porownaj(const char* po, const char* wzorzec) const {
+  const std::string roznica = PierwszaRoznica(Sciezka("import.db"), Sciezka(wzorzec));
   if (!roznica.empty())
     throw std::runtime_error(std::string(po) + ": import i wzorzec różnią się w tabeli " + roznica);
 }
@@ -183,7 +188,7 @@ void Pomiar::Runda(Seria& seria, bool pierwsza) {
   if (pierwsza) m_dziennik = WypiszWiersze(Sciezka("import.db"), Sciezka(wiersze), Wiersze::Dodane, 0);
   NowaBaza("wzorzec.db");
   seria.dodawanie.wzorzec.push_back(Wzorzec("wzorzec.db", wiersze, "dodaj"));
-  if (pierwsza) Porownaj("Dodawanie");
+  if (pierwsza) Porownaj("Dodawanie", "wzorzec.db");
 }
 
 void Pomiar::RundaPoprawiania(const Seria& seria, bool pierwsza) {
@@ -192,8 +197,13 @@ void Pomiar::RundaPoprawiania(const Seria& seria, bool pierwsza) {
   m_poprawianie.import.push_back(
       Import(seria.nazwa + "-ceny.txt", "import.db", "poprawionych", seria.ile).sekund);
   if (pierwsza) WypiszWiersze(Sciezka("import.db"), Sciezka(wiersze), Wiersze::Poprawione, m_dziennik);
+  fs::copy_file(Sciezka("wzorzec.db"), Sciezka("ceny.db"), fs::copy_options::overwrite_existing);
   m_poprawianie.wzorzec.push_back(Wzorzec("wzorzec.db", wiersze, "popraw"));
-  if (pierwsza) Porownaj("Poprawianie");
+  m_poprawianieCen.push_back(Wzorzec("ceny.db", wiersze, "popraw-ceny"));
+  if (pierwsza) {
+    Porownaj("Poprawianie", "wzorzec.db");
+    Porownaj("Poprawianie cen", "ceny.db");
+  }
 }
 
 long Pomiar::LiczFsync(const Seria& seria) const {
@@ -244,6 +254,9 @@ bool Pomiar::Wykonaj() {
                identyczne / dodawanie.Wzorzec(), kGranicaIdentycznych);
   tabela.Dodaj("poprawienie " + n, Sekundy(m_poprawianie.Import()), Sekundy(m_poprawianie.Wzorzec()),
                m_poprawianie.Stosunek(), kGranicaPoprawiania);
+  const double ceny = Mediana(m_poprawianieCen);
+  tabela.Informacja("  (wzorzec zapisuje tylko ceny)", Sekundy(m_poprawianie.Import()), Sekundy(ceny),
+                    m_poprawianie.Import() / ceny);
 
   const auto wzrost = [](double duzej, double malej) { return duzej / kWzrost / malej; };
   const double wzrostImportu = wzrost(duza.dodawanie.Import(), dodawanie.Import());

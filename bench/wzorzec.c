@@ -1,8 +1,9 @@
-/* wzorzec BAZA WIERSZE dodaj|popraw
+/* wzorzec BAZA WIERSZE dodaj|popraw|popraw-ceny
 
-   The plain program that the import is measured against: leaves in the database the rows that the import leaves,
-   with prepared statements, in one transaction and under the same settings. It decides nothing: the rows come ready
-   from a file. Adding inserts; updating finds each good by its code and writes its row anew, as the record's save does. */
+   The plain program that the import is measured against: leaves in the database the rows that the import
+   leaves, with prepared statements, in one transaction and under the same settings. It decides nothing: the
+   rows come ready from a file. Adding inserts; updating finds each good by its code and writes its whole row,
+   as the record's save does, or (popraw-ceny) the two prices alone, the least that leaves the same rows. */
 #include <sqlite3.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -21,7 +22,9 @@ static void sprawdz(int wynik) {
   exit(1);
 }
 
-static void wykonaj(const char* sql) { sprawdz(sqlite3_exec(baza, sql, NULL, NULL, NULL)); }
+static void wykonaj(const char* sql) {
+  sprawdz(sqlite3_exec(baza, sql, NULL, NULL, NULL));
+}
 
 static sqlite3_stmt* przygotuj(const char* sql) {
   sqlite3_stmt* polecenie = NULL;
@@ -30,7 +33,8 @@ static sqlite3_stmt* przygotuj(const char* sql) {
 }
 
 /* insert into TABELA (KOLUMNY, STALE) values (?1, ..., WARTOSCI_STALYCH) */
-static sqlite3_stmt* przygotuj_insert(const char* tabela, const char* kolumny, const char* stale, const char* wartosci) {
+static sqlite3_stmt* przygotuj_insert(const char* tabela, const char* kolumny, const char* stale,
+                                      const char* wartosci) {
   char sql[4096];
   int dl = snprintf(sql, sizeof sql, "insert into %s (%s%s) values (?1", tabela, kolumny, stale);
   int ile = 1;
@@ -40,17 +44,19 @@ static sqlite3_stmt* przygotuj_insert(const char* tabela, const char* kolumny, c
   return przygotuj(sql);
 }
 
-/* update Towar set kolumna = ?n, ..., Zmiana = ?99 where TowId = ?98; ?1 is the code */
-static sqlite3_stmt* przygotuj_update(void) {
-  char sql[4096];
+/* update Towar set kolumna = ?n, ..., Zmiana = ?99 where TowId = ?98; `tylko`: the columns to write, NULL for
+ * all */
+static sqlite3_stmt* przygotuj_update(const char* tylko) {
+  char sql[4096], kolumna[64];
   int dl = snprintf(sql, sizeof sql, "update Towar set Zmiana = ?99");
   int ile = 0;
-  const char* poczatek = KOLUMNY_TOWARU;
-  for (const char* p = poczatek;; ++p) {
-    if (*p != ',' && *p != '\0') continue;
-    dl += snprintf(sql + dl, sizeof sql - (size_t)dl, ",%.*s = ?%d", (int)(p - poczatek), poczatek, ++ile);
-    if (*p == '\0') break;
-    poczatek = p + 1;
+  for (const char* p = KOLUMNY_TOWARU; *p;) {
+    size_t znakow = strcspn(p, ",");
+    snprintf(kolumna, sizeof kolumna, ",%.*s", (int)znakow, p);
+    ++ile;
+    if (tylko == NULL || strstr(tylko, kolumna) != NULL)
+      dl += snprintf(sql + dl, sizeof sql - (size_t)dl, "%s = ?%d", kolumna, ile);
+    p += znakow + (p[znakow] == ',');
   }
   snprintf(sql + dl, sizeof sql - (size_t)dl, " where TowId = ?98");
   return przygotuj(sql);
@@ -58,10 +64,17 @@ static sqlite3_stmt* przygotuj_update(void) {
 
 static void zwiaz(sqlite3_stmt* polecenie, int nr, const char* wartosc) {
   switch (wartosc[0]) {
-    case 'i': sprawdz(sqlite3_bind_int64(polecenie, nr, strtoll(wartosc + 1, NULL, 10))); break;
-    case 'r': sprawdz(sqlite3_bind_double(polecenie, nr, strtod(wartosc + 1, NULL))); break;
-    case 't': sprawdz(sqlite3_bind_text(polecenie, nr, wartosc + 1, -1, SQLITE_STATIC)); break;
-    default: sprawdz(sqlite3_bind_null(polecenie, nr));
+    case 'i':
+      sprawdz(sqlite3_bind_int64(polecenie, nr, strtoll(wartosc + 1, NULL, 10)));
+      break;
+    case 'r':
+      sprawdz(sqlite3_bind_double(polecenie, nr, strtod(wartosc + 1, NULL)));
+      break;
+    case 't':
+      sprawdz(sqlite3_bind_text(polecenie, nr, wartosc + 1, -1, SQLITE_STATIC));
+      break;
+    default:
+      sprawdz(sqlite3_bind_null(polecenie, nr));
   }
 }
 
@@ -106,10 +119,11 @@ static sqlite3_int64 znajdz(sqlite3_stmt* szukanie, const char* kod) {
 
 int main(int argc, char** argv) {
   if (argc != 4) {
-    fputs("Użycie: wzorzec BAZA WIERSZE dodaj|popraw\n", stderr);
+    fputs("Użycie: wzorzec BAZA WIERSZE dodaj|popraw|popraw-ceny\n", stderr);
     return 2;
   }
-  int poprawianie = strcmp(argv[3], "popraw") == 0;
+  int poprawianie = strcmp(argv[3], "dodaj") != 0;
+  const char* tylko = strcmp(argv[3], "popraw-ceny") == 0 ? ",CenaEw,CenaDet" : NULL;
   FILE* plik = fopen(argv[2], "r");
   if (plik == NULL) {
     perror(argv[2]);
@@ -118,14 +132,16 @@ int main(int argc, char** argv) {
   sprawdz(sqlite3_open_v2(argv[1], &baza, SQLITE_OPEN_READWRITE, NULL));
   wykonaj("pragma synchronous = normal");
   wykonaj("pragma foreign_keys = on");
-  wykonaj("pragma cache_size = -65536");
+  wykonaj("pragma cache_size = -131072");
+  wykonaj("pragma temp_store = memory");
+  wykonaj("pragma wal_autocheckpoint = 16384");
   wykonaj("begin immediate");
 
   sqlite3_stmt* asort = przygotuj_insert("Asort", "Nazwa", "", "");
   sqlite3_stmt* jm = przygotuj_insert("JM", "Nazwa,Precyzja", "", "");
   sqlite3_stmt* magazyn = przygotuj_insert("Magazyn", "Nazwa", "", "");
   sqlite3_stmt* towar =
-      poprawianie ? przygotuj_update() : przygotuj_insert("Towar", KOLUMNY_TOWARU, ",Zmiana", ",?99");
+      poprawianie ? przygotuj_update(tylko) : przygotuj_insert("Towar", KOLUMNY_TOWARU, ",Zmiana", ",?99");
   sqlite3_stmt* kod = przygotuj_insert("KodDod", KOLUMNY_KODU, ",TowId", ",?98");
   sqlite3_stmt* dziennik = przygotuj_insert("DziennikZmian", KOLUMNY_DZIENNIKA, ",Czas", ",?99");
   sqlite3_stmt* szukanie = przygotuj("select TowId from Towar where Kod = ?1");
@@ -144,7 +160,8 @@ int main(int argc, char** argv) {
                                               : magazyn;
     for (int i = 0; i < ile; ++i) zwiaz(polecenie, i + 1, wartosci[i]);
     if (rodzaj == 'T' || rodzaj == 'L') sprawdz(sqlite3_bind_text(polecenie, 99, teraz(), -1, SQLITE_STATIC));
-    if (rodzaj == 'T' && poprawianie) sprawdz(sqlite3_bind_int64(polecenie, 98, znajdz(szukanie, wartosci[0])));
+    if (rodzaj == 'T' && poprawianie)
+      sprawdz(sqlite3_bind_int64(polecenie, 98, znajdz(szukanie, wartosci[0])));
     if (rodzaj == 'K') sprawdz(sqlite3_bind_int64(polecenie, 98, towId));
     uruchom(polecenie);
     if (rodzaj == 'T') towId = sqlite3_last_insert_rowid(baza);
