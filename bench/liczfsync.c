@@ -1,6 +1,5 @@
 /* Loaded before the other libraries (LD_PRELOAD): counts the calls that wait for the disk and leaves their number in
    the file named by LICZFSYNC_PLIK when the program ends. */
-#define _GNU_SOURCE
 #include <dlfcn.h>
 #include <stdatomic.h>
 #include <stdio.h>

@@ -20,6 +20,7 @@ namespace {
   ::dup2(wyjscie, STDOUT_FILENO);
   ::dup2(::open("/dev/null", O_WRONLY), STDERR_FILENO);
   std::vector<char*> argumenty;
+  argumenty.reserve(polecenie.size() + 1);
   for (const std::string& a : polecenie) argumenty.push_back(const_cast<char*>(a.c_str()));
   argumenty.push_back(nullptr);
   ::execv(argumenty[0], argumenty.data());
