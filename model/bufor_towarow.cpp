@@ -33,6 +33,15 @@ bool TVLTBuforTowarow::Napelnij(TVLTBazaDanych& baza, const Postep& postep) {
   // Asked first: what others write while we read counts as written afterwards.
   m_znacznik = baza.ZnacznikObcychZmian();
   m_obceZmiany = false;
+  for (auto odczyt = baza.Otworz("select (select count(*) from Towar), (select count(*) from KodDod)",
+                                 {TypPola::Calkowite, TypPola::Calkowite});
+       odczyt.Nastepny();) {
+    const auto towarow = static_cast<std::size_t>(odczyt[0].AsInteger());
+    const auto kodow = static_cast<std::size_t>(odczyt[1].AsInteger());
+    m_nazwy.reserve(towarow);
+    m_kody.reserve(towarow + kodow);
+    m_skroty.reserve(towarow + kodow);
+  }
   int ilosc = 0;
   for (auto odczyt = baza.Otworz("select TowId, Nazwa, Kod, Skrot from Towar",
                                  {TypPola::Calkowite, TypPola::Tekst, TypPola::Tekst, TypPola::Tekst});

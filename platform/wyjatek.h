@@ -1,17 +1,16 @@
 #pragma once
 
+#include <QString>
 #include <exception>
 #include <functional>
 #include <memory>
 #include <string>
 
-#include <QString>
-
 // How a message box shows an error.
 enum class KlasaBledu { Blad = 0, Ostrzezenie = 1, Informacja = 2 };
 
-// Base of every error that is meant for a person. Subclasses turn their code into texts; an error is copied across a
-// boundary (a worker and the main thread) with Clone() followed by Assign(source).
+// Base of every error that is meant for a person. Subclasses turn their code into texts; an error is copied
+// across a boundary (a worker and the main thread) with Clone() followed by Assign(source).
 class EMException : public std::exception {
  public:
   explicit EMException(int kod = 0) : m_kod(kod) {}
@@ -47,7 +46,8 @@ class EMException : public std::exception {
   mutable std::string m_what;
 };
 
-// Base of the errors of the database package and of the data model: an error may carry the one that caused it.
+// Base of the errors of the database package and of the data model: an error may carry the one that caused
+// it.
 class EVLTExceptionBase : public EMException {
  public:
   explicit EVLTExceptionBase(int kod, std::shared_ptr<const EMException> przyczyna = nullptr)

@@ -10,9 +10,9 @@ class Liczniki;
 class RaportProblemow;
 class TVLTBazaDanych;
 
-// Groups the saves of up to 200 records or one second into one transaction of the database. Inside, every
-// unit (a save, a stock write, a new dictionary entry) is a savepoint of its own, so a batch never holds half
-// a unit. Counters and report lines of the batch become final with its commit.
+// Groups the saves of up to kNajwiecejRekordow records or one second into one transaction of the database.
+// Inside, every unit (a save, a stock write, a new dictionary entry) is a savepoint of its own, so a batch
+// never holds half a unit. Counters and report lines of the batch become final with its commit.
 //
 // What memory may rely on:
 // 1. the unit of rollback is the savepoint; a refused record keeps the units it completed;
@@ -23,7 +23,8 @@ class TVLTBazaDanych;
 // 4. whether a transaction is open is asked of the database, not remembered.
 class PaczkaZapisow {
  public:
-  static constexpr int kNajwiecejRekordow = 200;
+  // Many records share the pages of the indexes: written once a batch instead of once for every few records.
+  static constexpr int kNajwiecejRekordow = 2000;
   static constexpr std::chrono::milliseconds kNajdluzej{1000};
   // A waiting session of SQLite looks for the lock every 100 ms and would hardly ever meet the moment between
   // two batches: so there is a longer one now and then, well within its time-out.

@@ -73,6 +73,17 @@ const char* NazwaPunktu(int poziom, std::string& bufor, const char* slowo) {
   return bufor.c_str();
 }
 
+// A session is used by one thread at a time, so SQLite need not lock its connections for every column it
+// hands over, nor count its memory under a lock.
+void UstawSqlite() {
+  static const bool raz = [] {
+    sqlite3_config(SQLITE_CONFIG_MULTITHREAD);
+    sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+    return true;
+  }();
+  (void)raz;
+}
+
 constexpr TypPola kLiczba[] = {TypPola::Calkowite};
 
 }  // namespace
@@ -203,6 +214,7 @@ const Dialekt& TVLTBazaDanych::Jezyk() const {
 }
 
 void TVLTBazaDanych::Polacz() {
+  UstawSqlite();
   Odlacz();
   const QString plik = m->polaczenie.cel;
   const auto odmow = [&](const QString& powod) {
@@ -226,11 +238,11 @@ void TVLTBazaDanych::Polacz() {
     // nothing that was committed; Utrwal closes the gap for a power cut.
     ExecSQL("pragma synchronous = normal");
     ExecSQL("pragma foreign_keys = on");
-    ExecSQL("pragma cache_size = -65536");
+    ExecSQL("pragma cache_size = -131072");
     // Savepoints keep the old pages of each unit: in memory, or every save would write them to a file.
     ExecSQL("pragma temp_store = memory");
     // Fewer, longer checkpoints: each one waits for the disk.
-    Otworz("pragma wal_autocheckpoint = 16384", kLiczba, {}).Nastepny();
+    Otworz("pragma wal_autocheckpoint = 32768", kLiczba, {}).Nastepny();
     // The first read of the file: tells a database from any other file.
     Otworz("select count(*) from sqlite_master", kLiczba, {}).Nastepny();
   } catch (...) {

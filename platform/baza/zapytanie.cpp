@@ -6,28 +6,33 @@
 
 #include "platform/baza/sesja.h"
 
-void TMField::ZapamietajStara() {
-  if (!m_stara) m_stara = std::make_unique<Wartosc>(m_wartosc);
+// A value that stays the same costs no copy of the old one: most fields of an import do.
+void TMField::Przyjmij(Wartosc nowa) {
+  if (nowa == m_wartosc) return;
+  if (!m_stara) m_stara = std::make_unique<Wartosc>(std::move(m_wartosc));
+  m_wartosc = std::move(nowa);
 }
 
 void TMField::SetInteger(long long wartosc) {
-  ZapamietajStara();
-  m_wartosc.SetInteger(wartosc);
+  Wartosc nowa(m_opis->typ);
+  nowa.SetInteger(wartosc);
+  Przyjmij(std::move(nowa));
 }
 
 void TMField::SetFloat(double wartosc) {
-  ZapamietajStara();
-  m_wartosc.SetFloat(wartosc);
+  Wartosc nowa(m_opis->typ);
+  nowa.SetFloat(wartosc);
+  Przyjmij(std::move(nowa));
 }
 
 void TMField::SetString(const QString& wartosc) {
-  ZapamietajStara();
-  m_wartosc.SetString(wartosc);
+  Wartosc nowa(m_opis->typ);
+  nowa.SetString(wartosc);
+  Przyjmij(std::move(nowa));
 }
 
 void TMField::Clear() {
-  ZapamietajStara();
-  m_wartosc.Clear();
+  Przyjmij(Wartosc(m_opis->typ));
 }
 
 bool TMField::Zmienione() const {

@@ -40,7 +40,7 @@ class TMField {
 
  private:
   friend class TKMQuery;
-  void ZapamietajStara();
+  void Przyjmij(Wartosc nowa);
   void Wczytaj(const Wartosc& wartosc);
 
   const OpisPola* m_opis;

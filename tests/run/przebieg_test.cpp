@@ -97,7 +97,7 @@ TEST_F(PrzebiegTest, CalyPlik) {
   EXPECT_EQ(Zapisanych(), 2);
   EXPECT_EQ(Pominiete(), "2 | z\xB3y | \xAFle\r\n2 | z\xB3y | Bardzo \x9Fle\r\n2 | z\xB3y | Najgorzej\r\n");
   EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 1);
-  Uruchom(Rekordy(401));  // at most 200 in a batch
+  Uruchom(Rekordy(2 * PaczkaZapisow::kNajwiecejRekordow + 1));
   EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 1 + 3);
 }
 
@@ -184,20 +184,21 @@ TEST_F(PrzebiegTest, PrzedPytaniemPaczkaJestZatwierdzona) {
 
 // A commit that fails takes its batch with its counters and lines; the batches before it stay.
 TEST_F(PrzebiegTest, BladZatwierdzeniaKonczyPrzebieg) {
+  constexpr int kPaczka = PaczkaZapisow::kNajwiecejRekordow;
   int zatwierdzen = 0;
   baza.baza.UstawPodsluch([&](std::string_view sql) {
     if (sql == "commit" && ++zatwierdzen == 2)
       throw EBladBazy(RodzajBleduBazy::PelnyDysk, u"Brak miejsca"_s, {});
   });
-  const WynikPrzebiegu wynik = Uruchom("0;z\xB3y\n" + Rekordy(250) + "0;z\xB3y\n");
+  const WynikPrzebiegu wynik = Uruchom("0;z\xB3y\n" + Rekordy(kPaczka + 50) + "0;z\xB3y\n");
   EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Blad);
-  EXPECT_EQ(Zapisanych(), 199);
-  EXPECT_EQ(wynik.liczniki[Licznik::Dodane], 199);
+  EXPECT_EQ(Zapisanych(), kPaczka - 1);
+  EXPECT_EQ(wynik.liczniki[Licznik::Dodane], kPaczka - 1);
   EXPECT_EQ(wynik.liczniki[Licznik::Pominiete], 1);
   EXPECT_EQ(Pominiete().count('\n'), 3);
   ASSERT_EQ(wynik.komunikaty.size(), 1u);
   EXPECT_TRUE(wynik.komunikaty[0].tekst.startsWith(u"Brak miejsca"_s));
-  EXPECT_TRUE(wynik.komunikaty[0].tekst.contains(u"do rekordu 200 włącznie"_s));
+  EXPECT_TRUE(wynik.komunikaty[0].tekst.contains(u"do rekordu %1 włącznie"_s.arg(kPaczka)));
 }
 
 TEST_F(PrzebiegTest, CudzeZmianyOdswiezajaPamiec) {
