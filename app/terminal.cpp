@@ -62,7 +62,5 @@ QString JednaLinia(const Komunikat& komunikat) {
 }  // namespace terminal
 
 Komunikat KomunikatBledu(const EMException& blad) {
-  QStringList czesci{blad.MacMessage(), blad.MacDescription()};
-  czesci.removeAll(QString());
-  return {blad.Naglowek(), czesci.join(u'\n')};
+  return {blad.Naglowek(), blad.Tresc()};
 }

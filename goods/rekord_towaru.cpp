@@ -72,8 +72,11 @@ RekordTowaru::Krok RekordTowaru::Przeprowadz(const PolaRekordu& pola) {
     m_towar.UstawKod(m_kod.kod);
     m_towar.UstawAktywny(m_aktywny ? 1 : 0);
   }
-  if (const auto odmowa = TransferPol(m_import, pola, m_towar, !m_kod.znaleziony).Przenies(m_nazwa))
-    return odmowa->tekst.isEmpty() ? Krok::Koniec : Pomin(odmowa->tekst);
+  if (const auto odmowa = TransferPol(m_import, pola, m_towar, !m_kod.znaleziony).Przenies(m_nazwa)) {
+    if (!odmowa->tekst.isEmpty()) return Pomin(odmowa->tekst);
+    // A dictionary entry that the database refused has no words of its own.
+    return m_import.raport.RekordPoliczony() ? Krok::Koniec : Pomin(u"Nie można zapisać towaru"_s);
+  }
   return m_kod.znaleziony ? PoprawTowar() : DodajTowar();
 }
 
@@ -192,14 +195,7 @@ RekordTowaru::Krok RekordTowaru::DodajJakoKodDodatkowy(int towId) {
   m_towar.Kody().Dodaj(std::move(kod));
   if (!m_towar.UtworzSkrot(m_towar.Kody().Ilosc() - 1))
     return Pomin(u"Błąd nadania unikalnej nazwy skróconej"_s);
-  switch (m_zapis.Zapisz(u"Błąd podczas dodania kodu dodatkowego"_s)) {
-    case ZapisTowaru::Wynik::Zapisany:
-      break;
-    case ZapisTowaru::Wynik::Pominiety:
-      return Krok::Koniec;
-    case ZapisTowaru::Wynik::Stop:
-      return Krok::Stop;
-  }
+  if (const Krok krok = Zapisz(u"Błąd podczas dodania kodu dodatkowego"_s); krok != Krok::Dalej) return krok;
   m_import.kodyWlasne.Potwierdz(m_kod.kod);
   m_import.liczniki.Zwieksz(Licznik::Poprawione);
   return Krok::Koniec;
@@ -230,14 +226,8 @@ RekordTowaru::Krok RekordTowaru::DodajTowar() {
     if (const auto kod = m_import.oper.PodajTekst({u"Uwaga"_s, u"Podaj kod towaru "_s + m_nazwa}))
       m_towar.UstawKod(kod->trimmed());
 
-  switch (m_zapis.Zapisz(u"Błąd dodania do bazy (użytkownik zrezygnował)"_s)) {
-    case ZapisTowaru::Wynik::Zapisany:
-      break;
-    case ZapisTowaru::Wynik::Pominiety:
-      return Krok::Koniec;
-    case ZapisTowaru::Wynik::Stop:
-      return Krok::Stop;
-  }
+  if (const Krok krok = Zapisz(u"Błąd dodania do bazy (użytkownik zrezygnował)"_s); krok != Krok::Dalej)
+    return krok;
   PotwierdzNadane();
   m_import.liczniki.Zwieksz(Licznik::Dodane);
   ZapiszStan(m_towar.Id());
@@ -263,14 +253,7 @@ RekordTowaru::Krok RekordTowaru::PoprawTowar() {
     return Pomin(u"Nie można poprawić sumy kontrolnej EAN towaru wysłanego na kasę"_s);
   if (!m_import.opcje.cb_akttow) return Krok::Koniec;
 
-  switch (m_zapis.Zapisz(u"Błąd zapisu (użytkownik zrezygnował)"_s)) {
-    case ZapisTowaru::Wynik::Zapisany:
-      break;
-    case ZapisTowaru::Wynik::Pominiety:
-      return Krok::Koniec;
-    case ZapisTowaru::Wynik::Stop:
-      return Krok::Stop;
-  }
+  if (const Krok krok = Zapisz(u"Błąd zapisu (użytkownik zrezygnował)"_s); krok != Krok::Dalej) return krok;
   if (!stan && !status) m_import.liczniki.Zwieksz(Licznik::Poprawione);
   return Krok::Koniec;
 }
@@ -296,6 +279,18 @@ bool RekordTowaru::ZmienStatus() {
       throw;
     return false;
   }
+}
+
+RekordTowaru::Krok RekordTowaru::Zapisz(const QString& rezygnacja) {
+  switch (m_zapis.Zapisz(rezygnacja)) {
+    case ZapisTowaru::Wynik::Zapisany:
+      return Krok::Dalej;
+    case ZapisTowaru::Wynik::Pominiety:
+      return Krok::Koniec;
+    case ZapisTowaru::Wynik::Stop:
+      break;
+  }
+  return Krok::Stop;
 }
 
 RekordTowaru::Krok RekordTowaru::Pomin(const QString& komunikat) {

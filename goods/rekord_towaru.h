@@ -48,6 +48,8 @@ class RekordTowaru {
   bool SlownikiDoUzupelnienia() const;
   void PotwierdzNadane();
 
+  // Dalej when the good was saved; otherwise the record is done with, `rezygnacja` in the report.
+  Krok Zapisz(const QString& rezygnacja);
   Krok Pomin(const QString& komunikat);
 
   KontekstImportu& m_import;

@@ -15,6 +15,12 @@ void EMException::Assign(const EMException& zrodlo) {
   m_opis = zrodlo.MacDescription();
 }
 
+QString EMException::Tresc() const {
+  const QString tytul = MacMessage();
+  const QString opis = MacDescription();
+  return tytul.isEmpty() || opis.isEmpty() ? tytul + opis : tytul + u'\n' + opis;
+}
+
 void EMException::UstawTeksty(QString tytul, QString opis) {
   m_tytul = std::move(tytul);
   m_opis = std::move(opis);
@@ -22,7 +28,7 @@ void EMException::UstawTeksty(QString tytul, QString opis) {
 
 const char* EMException::what() const noexcept {
   try {
-    m_what = (MacMessage() + QStringLiteral(": ") + MacDescription()).toStdString();
+    m_what = Tresc().toStdString();
     return m_what.c_str();
   } catch (...) {
     return "EMException";

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QString>
 #include <exception>
 #include <functional>
 #include <memory>
 #include <string>
+
+#include <QString>
 
 // How a message box shows an error.
 enum class KlasaBledu { Blad = 0, Ostrzezenie = 1, Informacja = 2 };
@@ -19,6 +20,8 @@ class EMException : public std::exception {
   // Short title and longer description shown to the user; either may be empty.
   virtual QString MacMessage() const { return m_tytul; }
   virtual QString MacDescription() const { return m_opis; }
+  // Both, one under the other, as a message box shows them.
+  QString Tresc() const;
 
   virtual KlasaBledu Klasa() const { return KlasaBledu::Blad; }
   // Names the family of codes: "WD", "Win", "Baza".

@@ -14,13 +14,6 @@ QString Tekst(std::u16string_view tekst) {
   return QString::fromUtf16(tekst.data(), static_cast<qsizetype>(tekst.size()));
 }
 
-QString Tresc(const EMException& blad) {
-  const QString tytul = blad.MacMessage();
-  const QString opis = blad.MacDescription();
-  if (tytul.isEmpty() || opis.isEmpty()) return tytul + opis;
-  return tytul + u"\n"_s + opis;
-}
-
 }  // namespace
 
 class Przebieg::PostepZapamietujacy final : public IPostep {
@@ -64,7 +57,7 @@ WynikPrzebiegu Przebieg::Wykonaj() {
     else
       koniec = Prowadz();
   } catch (const EMException& blad) {
-    koniec = PoWyjatku(blad.Naglowek(), Tresc(blad));
+    koniec = PoWyjatku(blad.Naglowek(), blad.Tresc());
   } catch (const std::exception& blad) {
     koniec = PoWyjatku(u"Wystąpił błąd"_s, QString::fromLocal8Bit(blad.what()));
   }
