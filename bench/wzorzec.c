@@ -134,7 +134,7 @@ int main(int argc, char** argv) {
   wykonaj("pragma foreign_keys = on");
   wykonaj("pragma cache_size = -131072");
   wykonaj("pragma temp_store = memory");
-  wykonaj("pragma wal_autocheckpoint = 16384");
+  wykonaj("pragma wal_autocheckpoint = 32768");
   wykonaj("begin immediate");
 
   sqlite3_stmt* asort = przygotuj_insert("Asort", "Nazwa", "", "");

@@ -57,6 +57,7 @@ struct Zasoby {
   KodyWlasne kodyWlasne;
   TDmVLTNazwySkrocone skroty;
   NumeracjaNazw nazwy;
+  PotwierdzoneSlowniki potwierdzone;
 };
 
 class PrzebiegImportuTowarow final : public PrzebiegImportu {
@@ -72,10 +73,11 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
     m_zasoby.emplace(Parametry(), m_opcje, m_bufor, m_raport, m_liczniki);
     m_zasoby->stany.WczytajMagazyny();
     m_paczka.PoOtwarciu = [this](bool obceZmiany) { PoOtwarciuPaczki(obceZmiany); };
-    m_kontekst.emplace(KontekstImportu{
-        Parametry().sesja, m_opcje, Parametry().struktura, Plik(), Parametry().separatorDziesietny, m_bufor,
-        m_nipy ? &*m_nipy : nullptr, m_zasoby->slowniki, m_zasoby->stany, m_zasoby->reguly,
-        m_zasoby->kodyWlasne, m_zasoby->skroty, m_zasoby->nazwy, m_raport, m_liczniki, Operator()});
+    m_kontekst.emplace(KontekstImportu{Parametry().sesja, m_opcje, Parametry().struktura, Plik(),
+                                       Parametry().separatorDziesietny, m_bufor, m_nipy ? &*m_nipy : nullptr,
+                                       m_zasoby->slowniki, m_zasoby->stany, m_zasoby->reguly,
+                                       m_zasoby->kodyWlasne, m_zasoby->skroty, m_zasoby->nazwy,
+                                       m_zasoby->potwierdzone, m_raport, m_liczniki, Operator()});
     m_rekord.emplace(*m_kontekst);
   }
 
@@ -124,6 +126,7 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
     if (!obceZmiany) return;
     m_zasoby->slowniki.Wczytaj();
     m_zasoby->nazwy.Zapomnij();
+    m_zasoby->potwierdzone.Zapomnij();
   }
 
   const OpcjeImportuTowarow& m_opcje;

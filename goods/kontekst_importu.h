@@ -16,6 +16,7 @@ class TVLTBuforNip;
 class TVLTBuforTowarow;
 struct KontekstSesji;
 struct OpcjeImportuTowarow;
+struct PotwierdzoneSlowniki;
 struct RegulyKodow;
 
 // What the records of one goods import share. The run owns everything that is referred to here; nothing of it
@@ -39,6 +40,7 @@ struct KontekstImportu {
   KodyWlasne& kodyWlasne;
   TDmVLTNazwySkrocone& skroty;
   NumeracjaNazw& nazwy;
+  PotwierdzoneSlowniki& potwierdzone;
 
   RaportProblemow& raport;
   Liczniki& liczniki;

@@ -28,7 +28,7 @@ bool ZlaSumaEan(const RegulyKodow& reguly, const QString& kod) {
 
 RekordTowaru::RekordTowaru(KontekstImportu& import)
     : m_import(import),
-      m_towar(import.sesja, {import.reguly, import.skroty, &import.bufor}),
+      m_towar(import.sesja, {import.reguly, import.skroty, &import.bufor, &import.potwierdzone}),
       m_zapis(import, m_towar) {}
 
 PoRekordzie RekordTowaru::Przetworz(const LiniaRekordu& linia) {

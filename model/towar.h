@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include <QString>
@@ -17,6 +18,15 @@ class TDmVLTNazwySkrocone;
 class TVLTBazaDanych;
 struct RegulyKodow;
 
+// Dictionary entries that were seen in the database. Whoever opens the transactions forgets them when another
+// connection has written.
+struct PotwierdzoneSlowniki {
+  std::unordered_set<int> asortymenty;
+  std::unordered_set<int> jednostki;
+
+  void Zapomnij() { *this = {}; }
+};
+
 // What the goods records of one run share beside the session. Everything is held by reference: a rule changed
 // during the run (a new weighted-code format) holds from the next save on.
 struct OtoczenieTowarow {
@@ -25,6 +35,8 @@ struct OtoczenieTowarow {
   // Spares the statements that would look for a code which nobody has. Whoever opens the transaction has it
   // look for other connections' changes first. None: the database is always asked.
   const TVLTBuforTowarow* bufor = nullptr;
+  // Spares looking for the same assortment and unit at every save. None: the database is always asked.
+  PotwierdzoneSlowniki* potwierdzone = nullptr;
   // Whether central codes must be unique.
   bool unikalneCKU = false;
 };

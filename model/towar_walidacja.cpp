@@ -52,8 +52,10 @@ class TDmVLTTowar::Walidacja {
   }
 
   WynikWalidacji Slowniki() {
-    if (!Jest("select AsId from Asort where AsId = :AsId", "AsId", m_t.AsId())) return {2813};
-    if (!Jest("select JMId from JM where JMId = :JMId", "JMId", m_t.JMId())) return {2814};
+    using P = PotwierdzoneSlowniki;
+    if (!Jest(&P::asortymenty, "select AsId from Asort where AsId = :AsId", "AsId", m_t.AsId()))
+      return {2813};
+    if (!Jest(&P::jednostki, "select JMId from JM where JMId = :JMId", "JMId", m_t.JMId())) return {2814};
     return {};
   }
 
@@ -120,8 +122,12 @@ class TDmVLTTowar::Walidacja {
     return m_baza.Otworz(sql, kKolumny, parametry);
   }
 
-  bool Jest(std::string_view sql, const char* nazwa, int id) {
-    return m_baza.Otworz(sql, {TypPola::Calkowite}, {{nazwa, id}}).Nastepny();
+  bool Jest(std::unordered_set<int> PotwierdzoneSlowniki::*slownik, std::string_view sql, const char* nazwa,
+            int id) {
+    if (m_o.potwierdzone && (m_o.potwierdzone->*slownik).contains(id)) return true;
+    if (!m_baza.Otworz(sql, {TypPola::Calkowite}, {{nazwa, id}}).Nastepny()) return false;
+    if (m_o.potwierdzone) (m_o.potwierdzone->*slownik).insert(id);
+    return true;
   }
 
   static WynikWalidacji Wynik(WynikKodu wynik) { return {wynik.kod, std::move(wynik.szczegol)}; }

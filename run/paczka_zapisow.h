@@ -24,7 +24,7 @@ class TVLTBazaDanych;
 class PaczkaZapisow {
  public:
   // Many records share the pages of the indexes: written once a batch instead of once for every few records.
-  static constexpr int kNajwiecejRekordow = 2000;
+  static constexpr int kNajwiecejRekordow = 4000;
   static constexpr std::chrono::milliseconds kNajdluzej{1000};
   // A waiting session of SQLite looks for the lock every 100 ms and would hardly ever meet the moment between
   // two batches: so there is a longer one now and then, well within its time-out.

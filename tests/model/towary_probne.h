@@ -32,7 +32,7 @@ class TowaryProbne : public testing::Test {
     reguly.formaty.Dodaj({27, 5});
   }
 
-  OtoczenieTowarow Otoczenie() { return {reguly, *skroty, &bufor, unikalneCKU}; }
+  OtoczenieTowarow Otoczenie() { return {reguly, *skroty, &bufor, nullptr, unikalneCKU}; }
 
   // A good that can be saved as it stands.
   std::unique_ptr<TDmVLTTowar> Nowy(const QString& kod, const QString& nazwa) {
