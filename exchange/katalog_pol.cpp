@@ -90,6 +90,6 @@ std::span<const PoleKatalogu> KatalogPol(RodzajRekordu rodzaj) {
 
 QString NazwaPozycjiOferowanej(RodzajRekordu rodzaj, int pozycja) {
   if (pozycja < 0 || pozycja >= LiczbaPolOferowanych(rodzaj)) return {};
-  const size_t pole = static_cast<size_t>(pozycja + PierwszePoleOferowane(rodzaj));
+  const size_t pole = static_cast<size_t>(pozycja) + static_cast<size_t>(PierwszePoleOferowane(rodzaj));
   return QStringView(KatalogPol(rodzaj)[pole].oferowanaNazwa).toString();
 }

@@ -301,7 +301,7 @@ QString OpisZlozony(int kodBledu, const QString& szczegol) {
 }
 
 QString Opis(const PozycjaKatalogu& pozycja, const QString& szczegol) {
-  const QString staly = QStringView(pozycja.opis).toString();
+  QString staly = QStringView(pozycja.opis).toString();
   switch (pozycja.forma) {
     case Forma::Staly:
       return staly;

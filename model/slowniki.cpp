@@ -40,7 +40,7 @@ constexpr int kNajwiekszaPrecyzja = 3;
 
 TDmVLTWpisSlownika::TDmVLTWpisSlownika(KontekstSesji& context, const OpisSlownika& opis)
     : TDmVLTElement(context, opis.pola), m_opis(opis) {
-  Query.SetSql(Select(opis) + " where " + IdFieldName() + " = :Id");
+  Query.SetSql(Select(opis) + " where " + opis.pola[kKolumnaId].nazwa + " = :Id");
 }
 
 QString TDmVLTWpisSlownika::Nazwa() const {

@@ -35,9 +35,9 @@ constexpr OpisPola kPola[] = {ZORVIK_POLA_TOWARU(ZORVIK_POLE)};
 #undef ZORVIK_POLE
 
 // Columns that a new good leaves null: nothing chosen yet, or the server's to fill.
-constexpr KolumnaTowaru::Numer kPusteWNowym[] = {KolumnaTowaru::TowId,  KolumnaTowaru::AsId,      KolumnaTowaru::JMId,
-                                              KolumnaTowaru::KatId,  KolumnaTowaru::Producent, KolumnaTowaru::Stawka,
-                                              KolumnaTowaru::Zmiana, KolumnaTowaru::OpakId};
+constexpr KolumnaTowaru::Numer kPusteWNowym[] = {
+    KolumnaTowaru::TowId,     KolumnaTowaru::AsId,   KolumnaTowaru::JMId,   KolumnaTowaru::KatId,
+    KolumnaTowaru::Producent, KolumnaTowaru::Stawka, KolumnaTowaru::Zmiana, KolumnaTowaru::OpakId};
 
 std::vector<Wartosc> NowyWiersz(const ParametrySystemu& parametry) {
   std::vector<Wartosc> wiersz;
@@ -73,7 +73,9 @@ TypTowaru TypZLiczby(long long liczba) {
 
 TVLTBuforTowarow::Teksty ZbierzTeksty(const TKMQuery& query, const std::vector<KodDodatkowy>& kody,
                                       const Wartosc& (TMField::*wartosc)() const) {
-  const auto tekst = [&](KolumnaTowaru::Numer pole) { return Tekst((query.Field(pole).*wartosc)().AsUtf8()); };
+  const auto tekst = [&](KolumnaTowaru::Numer pole) {
+    return Tekst((query.Field(pole).*wartosc)().AsUtf8());
+  };
   TVLTBuforTowarow::Teksty teksty{
       tekst(KolumnaTowaru::Nazwa), tekst(KolumnaTowaru::Kod), tekst(KolumnaTowaru::Skrot), {}, {}};
   for (const KodDodatkowy& kod : kody) {

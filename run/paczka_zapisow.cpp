@@ -70,7 +70,7 @@ auto OperatorPaczki::PozaPaczka(Pytanie pytanie) {
   // Nobody answers: nobody has to be waited for.
   const bool odloz = m_oper.JestOsoba() && m_paczka.Otwarta();
   if (odloz) m_paczka.Zatwierdz();
-  const auto odpowiedz = pytanie();
+  auto odpowiedz = pytanie();
   if (odloz) m_paczka.Otworz();
   return odpowiedz;
 }

@@ -24,7 +24,7 @@ QString TytulBledu(RodzajBleduBazy rodzaj) {
 }
 }  // namespace
 
-EBladBazy::EBladBazy(RodzajBleduBazy rodzaj, QString tresc, QString operacja)
+EBladBazy::EBladBazy(RodzajBleduBazy rodzaj, QString tresc, const QString& operacja)
     : EVLTExceptionBase(static_cast<int>(rodzaj)), m_rodzaj(rodzaj) {
   if (!operacja.isEmpty()) tresc += QStringLiteral("\r\nOperacja: ") + operacja;
   UstawTeksty(TytulBledu(rodzaj), std::move(tresc));

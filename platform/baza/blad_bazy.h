@@ -19,7 +19,7 @@ enum class RodzajBleduBazy {
 // value.
 class EBladBazy final : public EVLTExceptionBase {
  public:
-  EBladBazy(RodzajBleduBazy rodzaj, QString tresc, QString operacja);
+  EBladBazy(RodzajBleduBazy rodzaj, QString tresc, const QString& operacja);
 
   RodzajBleduBazy Rodzaj() const { return m_rodzaj; }
   // True for faults that every further record would meet as well: they end a run.
