@@ -1,6 +1,8 @@
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <memory>
 #include <regex>
 #include <set>
 
@@ -78,6 +80,15 @@ TEST(Granice, WykroczeniaSaRozpoznawane) {
   EXPECT_EQ(Wykroczenie("shell/okno.cpp", "#include \"ustawienia/ustawienia.h\""), "");
   EXPECT_EQ(Wykroczenie("platform/baza/a.cpp", "#include <soci/soci.h>"), "");
   EXPECT_EQ(Wykroczenie("goods/a.cpp", "// #include \"contractors/b.h\""), "");
+}
+
+TEST(Granice, ProgramWierszaPolecenObchodziSieBezOkien) {
+  const std::unique_ptr<FILE, int (*)(FILE*)> potok(popen("readelf -d '" ZORVIK_CLI "'", "r"), pclose);
+  ASSERT_NE(potok, nullptr);
+  std::string biblioteki;
+  for (char linia[1024]; std::fgets(linia, sizeof linia, potok.get()) != nullptr;) biblioteki += linia;
+  EXPECT_THAT(biblioteki, testing::HasSubstr("libQt6Core.so"));
+  EXPECT_THAT(biblioteki, testing::Not(testing::ContainsRegex("libQt6(Gui|Widgets)")));
 }
 
 }  // namespace
