@@ -32,11 +32,6 @@ bool WyborStatusuDozwolony(const StrukturaPliku& struktura) {
   return (struktura.CBTypPliku == TypPliku::Zorvik && OferujeStatus(struktura)) || ZawieraStatus(struktura);
 }
 
-// The structure of a file type that fixes code texts or the header flag holds those, whatever was loaded.
-void UzgodnijTypPliku(StrukturaPliku& struktura) {
-  struktura.PrzyjmijTypPliku(struktura.CBTypPliku);
-}
-
 Komunikat BrakStatusuTowarow() {
   return {QStringLiteral("BŁĄD"),
           QStringLiteral(
@@ -118,8 +113,6 @@ const PoleWyboru* ZnajdzPole(QStringView nazwa) {
 
 std::vector<Komunikat> ZastosujWspolzaleznosci(Ustawienia& ustawienia) {
   std::vector<Komunikat> komunikaty;
-  UzgodnijTypPliku(ustawienia.strukturaTow);
-  UzgodnijTypPliku(ustawienia.strukturaKontr);
   CBImportStanowChange(ustawienia);
   RBPominTowarBezNazwyClick(ustawienia);
   for (const auto& komunikat :
@@ -134,13 +127,13 @@ std::vector<Komunikat> ZastosujWspolzaleznosci(Ustawienia& ustawienia) {
 }
 
 void PoZmianieStrukturyTow(Ustawienia& ustawienia) {
-  UzgodnijTypPliku(ustawienia.strukturaTow);
+  ustawienia.strukturaTow.PrzyjmijTypPliku(ustawienia.strukturaTow.CBTypPliku);
   RBPominTowarBezNazwyClick(ustawienia);
   DopasujTowary(ustawienia, StrukturaMaStatus(ustawienia.strukturaTow));
 }
 
 void PoZmianieStrukturyKontr(Ustawienia& ustawienia) {
-  UzgodnijTypPliku(ustawienia.strukturaKontr);
+  ustawienia.strukturaKontr.PrzyjmijTypPliku(ustawienia.strukturaKontr.CBTypPliku);
   DopasujKontrahentow(ustawienia, StrukturaMaStatus(ustawienia.strukturaKontr));
 }
 

@@ -19,10 +19,13 @@ struct Ustawienia;
 // settings calls ZastosujWspolzaleznosci afterwards.
 namespace wspolzaleznosci {
 
-// After every load of settings. The messages say which chosen options the structures did not allow.
+// After every load of settings. The messages say which chosen options the structures did not allow. Code
+// texts and header flags stay as loaded even when the file type fixes them: readers ask the structure for the
+// flag in force and know the own layout's texts, and another file type finds its own again.
 std::vector<Komunikat> ZastosujWspolzaleznosci(Ustawienia& ustawienia);
 
-// After the goods structure has been edited, and after the contractor structure has been.
+// After the goods structure has been edited, and after the contractor structure has been: what the accepted
+// file type fixes, then the rules above.
 void PoZmianieStrukturyTow(Ustawienia& ustawienia);
 void PoZmianieStrukturyKontr(Ustawienia& ustawienia);
 

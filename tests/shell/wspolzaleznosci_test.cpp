@@ -162,7 +162,7 @@ TEST(Wspolzaleznosci, DlugoscKodu) {
   EXPECT_EQ(OpisDlugosciKodu(12), QStringLiteral("12 znaków"));
 }
 
-TEST(Wspolzaleznosci, StanyIUkladWlasnyPoWczytaniu) {
+TEST(Wspolzaleznosci, StanyITypPlikuPoWczytaniuIPoEdycji) {
   Ustawienia u;
   u.strukturaTow.EdPoleAktywny = QStringLiteral("A");
   u.strukturaTow.CBNieAnalizujPierwszejLinii = false;
@@ -172,6 +172,12 @@ TEST(Wspolzaleznosci, StanyIUkladWlasnyPoWczytaniu) {
   EXPECT_TRUE(ZastosujWspolzaleznosci(u).empty());
   EXPECT_FALSE(u.strukturaTow.CzyOferowane(PoleTowaru::Stan));
   EXPECT_FALSE(StanyUjemneDostepne(u.importTow));
+  // Loaded settings come back as they were saved; an edit accepts what the file type fixes.
+  EXPECT_EQ(u.strukturaTow.EdPoleAktywny, QStringLiteral("A"));
+  EXPECT_FALSE(u.strukturaTow.CBNieAnalizujPierwszejLinii);
+  EXPECT_TRUE(u.strukturaKontr.CBNieAnalizujPierwszejLinii);
+  PoZmianieStrukturyTow(u);
+  PoZmianieStrukturyKontr(u);
   EXPECT_EQ(u.strukturaTow.EdPoleAktywny, QStringLiteral("1"));
   EXPECT_TRUE(u.strukturaTow.CBNieAnalizujPierwszejLinii);
   EXPECT_EQ(u.strukturaKontr.EdPoleAktywny, QStringLiteral("A"));
