@@ -1,7 +1,5 @@
 #include "app/operacje.h"
 
-#include <QLocale>
-
 #include "app/argumenty.h"
 #include "app/postep_terminala.h"
 #include "app/przerwanie.h"
@@ -10,6 +8,7 @@
 #include "goods/import_towarow.h"
 #include "model/bufor_towarow.h"
 #include "model/kontekst.h"
+#include "platform/liczby.h"
 #include "run/operator.h"
 #include "run/przebieg.h"
 #include "ustawienia/kontrola_struktury.h"
@@ -44,10 +43,6 @@ const Operacja kOperacje[] = {
      UruchomImportTowarow},
 };
 
-char SeparatorSystemowy() {
-  return QLocale::system().decimalPoint() == u","_s ? ',' : '.';
-}
-
 // The run, from the settings to its result; refused when it could not begin.
 WynikPrzebiegu Przeprowadz(const Operacja& operacja, const Argumenty& argumenty, PostepTerminala& postep) {
   const PokazKomunikat pokaz = [&](const Komunikat& k) { postep.Pokaz(k.naglowek, k.tekst); };
@@ -70,7 +65,7 @@ WynikPrzebiegu Przeprowadz(const Operacja& operacja, const Argumenty& argumenty,
        .postep = postep,
        .oper = oper,
        .stop = przerwanie::Zazadane(),
-       .separatorDziesietny = argumenty.separatorDziesietny.value_or(SeparatorSystemowy()),
+       .separatorDziesietny = argumenty.separatorDziesietny.value_or(liczby::SeparatorSystemu()),
        .katalogPominietych = argumenty.pominiete.value_or(QString())},
       ustawienia);
 }

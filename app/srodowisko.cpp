@@ -65,9 +65,13 @@ StatusWyjscia WykonajUstawienia(const Argumenty& argumenty) {
   const auto pokaz = [](const Komunikat& k) { terminal::WypiszBlad(terminal::JednaLinia(k) + u'\n'); };
   if (!Przygotuj(argumenty, PotrzebaBazy::Opcjonalna, pokaz, srodowisko)) return StatusWyjscia::Odmowa;
   QString wydruk = WydrukUstawien(srodowisko.ustawienia);
-  if (terminal::WyjscieJestTerminalem())
+  if (terminal::WyjscieJestTerminalem()) {
     terminal::Wypisz(wydruk.remove(u'\r'));
-  else
-    terminal::WypiszBajty(windows1250::ZUnicode(wydruk));
+    return StatusWyjscia::Zakonczono;
+  }
+  std::string bajty;
+  if (windows1250::Dopisz(wydruk, bajty) > 0)
+    pokaz({u"UWAGA"_s, u"Znaki spoza strony kodowej Windows-1250 wypisano jako \"?\""_s});
+  terminal::WypiszBajty(bajty);
   return StatusWyjscia::Zakonczono;
 }

@@ -1,9 +1,5 @@
 #include "exchange/linia_rekordu.h"
 
-#include <algorithm>
-#include <array>
-#include <string>
-
 #include "exchange/bajty.h"
 #include "exchange/strony_kodowe.h"
 #include "platform/liczby.h"

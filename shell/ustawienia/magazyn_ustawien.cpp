@@ -1,5 +1,7 @@
 #include "ustawienia/magazyn_ustawien.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -96,7 +98,11 @@ WynikWczytania WczytajUstawienia(const Zrodla& zrodla, Ustawienia& ustawienia) {
     wynik.brakPliku = !zPliku.wczytano;
     Dopisz(wynik.komunikaty, std::move(zPliku.komunikaty));
   }
-  for (const auto& [klucz, wartosc] : zrodla.pojedyncze) {
+  // The length of a list makes its entries known, so it may be given behind them.
+  auto pojedyncze = zrodla.pojedyncze;
+  std::stable_partition(pojedyncze.begin(), pojedyncze.end(),
+                        [](const auto& para) { return JestDlugosciaListy(para.first); });
+  for (const auto& [klucz, wartosc] : pojedyncze) {
     switch (UstawKlucz(ustawienia, klucz, wartosc)) {
       case WynikUstawienia::Ustawiono:
         break;

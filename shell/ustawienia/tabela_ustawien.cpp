@@ -364,6 +364,12 @@ std::vector<QString> ZastosujUstawienia(const TMConfig& config, Ustawienia& usta
   return odrzucone;
 }
 
+bool JestDlugosciaListy(const QString& klucz) {
+  return std::any_of(std::begin(kTabela), std::end(kTabela), [&](const Ustawienie& ustawienie) {
+    return ustawienie.rodzaj == RodzajUstawienia::Lista && klucz == QStringView(ustawienie.klucz);
+  });
+}
+
 WynikUstawienia UstawKlucz(Ustawienia& ustawienia, const QString& klucz, const QString& wartosc) {
   for (const Ustawienie& ustawienie : kTabela) {
     if (klucz == QStringView(ustawienie.klucz))

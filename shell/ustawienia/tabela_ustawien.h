@@ -50,6 +50,9 @@ void ZapiszUstawienia(const Ustawienia& ustawienia, TMConfig& config);
 // ignored. Returns the keys whose text is no value of the setting: those keep their values too.
 std::vector<QString> ZastosujUstawienia(const TMConfig& config, Ustawienia& ustawienia);
 
+// Whether the key holds the length of a list.
+bool JestDlugosciaListy(const QString& klucz);
+
 enum class WynikUstawienia { Ustawiono, NieznanyKlucz, ZlaWartosc };
 
 // Sets one setting by its whole key. A list entry is known while its number is below the length of the list.
