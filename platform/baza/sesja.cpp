@@ -94,6 +94,7 @@ struct TVLTBazaDanych::Wnetrze {
   std::unordered_map<std::string, std::shared_ptr<Polecenie>> polecenia;
   std::string klucz;
   long long zatwierdzen = 0;
+  long long polaczen = 0;
   Podsluch podsluch;
 
   soci::session& Sesja() const {
@@ -178,9 +179,6 @@ bool Odczyt::Nastepny() {
 const Wartosc& Odczyt::operator[](std::size_t kolumna) const {
   return m_polecenie->Wiersz()[kolumna];
 }
-std::size_t Odczyt::Kolumn() const {
-  return m_polecenie->Wiersz().size();
-}
 
 TVLTBazaDanych::TVLTBazaDanych() : m(std::make_unique<Wnetrze>()) {}
 TVLTBazaDanych::TVLTBazaDanych(ParametryPolaczenia parametry) : TVLTBazaDanych() {
@@ -245,6 +243,7 @@ void TVLTBazaDanych::Polacz() {
     Otworz("pragma wal_autocheckpoint = 32768", kLiczba, {}).Nastepny();
     // The first read of the file: tells a database from any other file.
     Otworz("select count(*) from sqlite_master", kLiczba, {}).Nastepny();
+    ++m->polaczen;
   } catch (...) {
     Odlacz();
     throw;
@@ -326,12 +325,16 @@ void TVLTBazaDanych::WycofDoPunktu(int poziom) noexcept {
     ExecSQL(NazwaPunktu(poziom, bufor, "rollback to"));
     ExecSQL(NazwaPunktu(poziom, bufor, "release"));
   } catch (...) {
+    // Half a unit must not be committed with what surrounds it.
+    WycofTransakcji();
   }
 }
 
 long long TVLTBazaDanych::ZnacznikObcychZmian() {
+  // Each connection counts from the start: without its own number a new one could repeat an old answer.
+  constexpr long long kNaPolaczenie = 1LL << 32;
   auto odczyt = Otworz("pragma data_version", kLiczba, {});
-  return odczyt.Nastepny() ? odczyt[0].AsInteger() : 0;
+  return m->polaczen * kNaPolaczenie + (odczyt.Nastepny() ? odczyt[0].AsInteger() : 0);
 }
 
 long long TVLTBazaDanych::LiczbaZatwierdzen() const {

@@ -32,7 +32,6 @@ class Odczyt {
   bool Nastepny();
   // Value of a column of the current row, in the order of the column kinds given to Otworz.
   const Wartosc& operator[](std::size_t kolumna) const;
-  std::size_t Kolumn() const;
 
  private:
   friend class TVLTBazaDanych;
@@ -84,10 +83,11 @@ class TVLTBazaDanych {
   // Savepoints inside an open transaction; see JednostkaZapisu for the usual way.
   void UstawPunkt(int poziom);
   void ZwolnijPunkt(int poziom);
+  // Never throws; when the database cannot undo the unit alone, the whole transaction is rolled back.
   void WycofDoPunktu(int poziom) noexcept;
 
-  // A number that changes whenever another connection has committed a change since it was last asked.
-  // Constant between StartTransakcji and KoniecTransakcji.
+  // A number that changes whenever another connection has committed a change since it was last asked, and
+  // with every new connection of this session. Constant between StartTransakcji and KoniecTransakcji.
   long long ZnacznikObcychZmian();
   // Number of transactions committed by this session; a counter for the benchmark and the tests.
   long long LiczbaZatwierdzen() const;

@@ -59,12 +59,6 @@ void TMCustomDataSet::Append() {
   m_zmianyWierszy = true;
 }
 
-void TMCustomDataSet::Delete() {
-  m_wiersze.erase(m_wiersze.begin() + m_biezacy);
-  m_biezacy = std::min(m_biezacy, RecordCount() - 1);
-  m_zmianyWierszy = true;
-}
-
 std::size_t TMCustomDataSet::IndexOf(std::string_view nazwa) const {
   for (std::size_t i = 0; i < m_opisy.size(); ++i)
     if (m_opisy[i].nazwa == nazwa) return i;
@@ -87,21 +81,30 @@ void TKMQuery::Open() {
   if (!m_otwierajPusty) {
     if (m_typy.empty())
       for (const OpisPola& opis : m_opisy) m_typy.push_back(opis.typ);
-    Odczyt odczyt = m_baza->Otworz(m_sql, m_typy, m_parametry);
-    while (odczyt.Nastepny()) {
-      if (m_wolny.empty()) {
-        Append();
-      } else {
-        m_wiersze.push_back(std::move(m_wolny));
-        m_wolny.clear();
-      }
-      std::vector<TMField>& wiersz = m_wiersze.back();
-      for (std::size_t i = 0; i < wiersz.size(); ++i) wiersz[i].Wczytaj(odczyt[i]);
+    try {
+      CzytajWiersze();
+    } catch (...) {
+      Close();  // half a result is none
+      throw;
     }
-    m_biezacy = m_wiersze.empty() ? -1 : 0;
   }
   m_aktywny = true;
   m_zmianyWierszy = false;
+}
+
+void TKMQuery::CzytajWiersze() {
+  Odczyt odczyt = m_baza->Otworz(m_sql, m_typy, m_parametry);
+  while (odczyt.Nastepny()) {
+    if (m_wolny.empty()) {
+      Append();
+    } else {
+      m_wiersze.push_back(std::move(m_wolny));
+      m_wolny.clear();
+    }
+    std::vector<TMField>& wiersz = m_wiersze.back();
+    for (std::size_t i = 0; i < wiersz.size(); ++i) wiersz[i].Wczytaj(odczyt[i]);
+  }
+  m_biezacy = m_wiersze.empty() ? -1 : 0;
 }
 
 void TKMQuery::Close() {

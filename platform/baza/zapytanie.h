@@ -68,8 +68,6 @@ class TMCustomDataSet {
   void MoveTo(int indeks);
   // Adds an empty row at the end and makes it current.
   void Append();
-  // Removes the current row; the next one becomes current.
-  void Delete();
 
   std::size_t FieldCount() const { return m_opisy.size(); }
   // Columns are known by the position in their table or by name; an unknown name throws std::out_of_range.
@@ -99,18 +97,20 @@ class TKMQuery final : public TMCustomDataSet {
   void SetParam(const char* nazwa, Wartosc wartosc);
   // With open-empty on, Open gives an empty dataset without asking the database.
   void SetOpenEmpty(bool pusty) { m_otwierajPusty = pusty; }
-  // Throws EBladBazy of kind Polaczenie when the dataset is not bound.
+  // Throws EBladBazy of kind Polaczenie when the dataset is not bound; after any failure it is closed.
   void Open();
   void Close();
 
   // Gives the current row these values as if they had been read: how a new record starts.
   void UstawWiersz(std::span<const Wartosc> wartosci);
-  // True when a field was changed, or a row added or removed, since Open or the last ZatwierdzZmiany.
+  // True when a field was changed, or a row added, since Open or the last ZatwierdzZmiany.
   bool GetUpdatesPending() const;
   // The rows as they are now become the rows as read: called after they were written.
   void ZatwierdzZmiany();
 
  private:
+  void CzytajWiersze();
+
   TVLTBazaDanych* m_baza = nullptr;
   std::string m_sql;
   std::vector<Parametr> m_parametry;

@@ -1,3 +1,5 @@
+#include <stdexcept>
+
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -52,6 +54,14 @@ TEST_F(Baza, WartosciWracajaTakieSame) {
   EXPECT_TRUE(query.FieldByName("Nazwa").IsNull());
   EXPECT_TRUE(query.FieldByName("Cena").IsNull());
   EXPECT_THROW(query.FieldByName("Brak"), std::out_of_range);
+
+  // A reading that fails behind its first row.
+  b.baza.ExecSQL("update T set Duza = -9223372036854775807 - 1 where Id = 2");
+  query.Close();
+  query.SetSql("select Id, Nazwa, Cena, abs(Duza) from T order by Id");
+  EXPECT_THROW(query.Open(), EBladBazy);
+  EXPECT_FALSE(query.Active());
+  EXPECT_EQ(std::pair(query.RecordCount(), query.RecNo()), std::pair(0, -1));
 }
 
 TEST_F(Baza, ZmianyPolPamietajaStaraWartosc) {
@@ -98,6 +108,19 @@ TEST_F(Baza, JednostkaCofaTylkoSiebie) {
     JednostkaZapisu wlasna(b.baza);
     Dodaj(QStringLiteral("bez zatwierdzenia"));
   }
+  EXPECT_FALSE(b.baza.GetCzyWTransakcji());
+  EXPECT_EQ(Ile(), 1);
+
+  // A unit that cannot be undone alone takes the transaction with it.
+  b.baza.StartTransakcji();
+  b.baza.UstawPodsluch([](std::string_view sql) {
+    if (sql.starts_with("rollback to")) throw std::runtime_error("broken");
+  });
+  {
+    JednostkaZapisu niecofnieta(b.baza);
+    Dodaj(QStringLiteral("pół"));
+  }
+  b.baza.UstawPodsluch({});
   EXPECT_FALSE(b.baza.GetCzyWTransakcji());
   EXPECT_EQ(Ile(), 1);
 }
