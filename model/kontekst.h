@@ -5,7 +5,6 @@
 
 class TDmVLTElement;
 class TVLTBazaDanych;
-class TVLTBuforTowarow;
 class ParametrySystemu;
 
 // An edit form of one record, as the model sees it. Forms live above; the model only asks for the answer.

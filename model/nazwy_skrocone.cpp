@@ -1,6 +1,7 @@
 #include "model/nazwy_skrocone.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "model/bufor_towarow.h"
 #include "platform/baza/sesja.h"

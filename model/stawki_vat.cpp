@@ -4,13 +4,12 @@
 #include <cmath>
 
 #include "model/bledy.h"
+#include "model/tabele_dziennika.h"
 #include "platform/baza/sesja.h"
 #include "platform/baza/transakcja.h"
 #include "platform/liczby.h"
 
 namespace {
-
-constexpr int kTabelaVat = 101;
 
 int Ogranicz(int stawka) {
   return std::clamp(stawka, kStawkaZwolniona, kStawkaNajwyzsza);
@@ -80,7 +79,7 @@ void TVLTStawkiVat::Zapisz(TVLTBazaDanych& baza) const {
     if (i > 0) zmiana += QStringLiteral(", ");
     zmiana += QString::number(Stawka(i));
   }
-  baza.RejestrujZmiane(kTabelaVat, zmiana, -1, -1);
+  baza.RejestrujZmiane(kDziennikStawkiVat, zmiana, -1, -1);
   jednostka.Zatwierdz();
 }
 

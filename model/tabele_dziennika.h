@@ -7,5 +7,6 @@ enum TabelaDziennika : int {
   kDziennikJednostka = 3,
   kDziennikKategoria = 4,
   kDziennikParametr = 5,
-  kDziennikMagazyn = 6
+  kDziennikMagazyn = 6,
+  kDziennikStawkiVat = 101
 };
