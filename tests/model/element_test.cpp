@@ -103,6 +103,11 @@ TEST_F(Element, ZyjeOdNowegoDoZapisanego) {
   EXPECT_TRUE(rzecz.Query.Active());
   EXPECT_EQ(Kod([&] { rzecz.Zapisz(); }), 2001);
   EXPECT_FALSE(rzecz.Edytuj());
+  struct Formularz final : TFmVLTFormularzElementu {
+    bool PokazModalnie() override { return true; }
+  };
+  kontekst.fabrykaFormularzy = [](TDmVLTElement&) { return std::make_unique<Formularz>(); };
+  EXPECT_TRUE(rzecz.Edytuj());
 }
 
 TEST_F(Element, NieudanyZapisZostawiaNowyNowymIDajeSiePowtorzyc) {
