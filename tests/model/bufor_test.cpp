@@ -64,6 +64,9 @@ TEST_F(Bufor, CudzyZapisOdbieraPewnosc) {
   ASSERT_TRUE(bufor.Napelnij(b.baza));
   EXPECT_TRUE(bufor.BrakJestPewny());
   b.baza.KoniecTransakcji();
+  b.Polacz(b.baza);
+  bufor.SprawdzObceZmiany(b.baza);
+  EXPECT_FALSE(bufor.BrakJestPewny()) << "nobody knows what was written while we were away";
 }
 
 TEST_F(Bufor, PrzerwaneCzytanieZostawiaPustyBufor) {
