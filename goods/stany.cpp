@@ -2,6 +2,7 @@
 
 #include "model/kontekst.h"
 #include "model/magazyny.h"
+#include "model/zakresy.h"
 #include "platform/baza/sesja.h"
 #include "platform/baza/transakcja.h"
 #include "platform/liczby.h"
@@ -51,7 +52,7 @@ void Stany::WczytajMagazyny() {
 bool Stany::Ustaw(int towId, int n, double ilosc) {
   if (n < 1 || n > static_cast<int>(m_magazyny.size())) return false;
   const int magId = m_magazyny[static_cast<std::size_t>(n - 1)];
-  const double nowa = JakZapisana(ilosc);
+  const double nowa = JakZapisana(WymagajZakresu(ilosc));
   if (nowa == ObecnyStan(m_sesja.baza, towId, magId)) return false;
   JednostkaZapisu jednostka(m_sesja.baza);
   m_sesja.baza.ExecSQL("update ISTW set StanMag = :StanMag where TowId = :TowId and MagId = :MagId",

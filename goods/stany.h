@@ -16,7 +16,8 @@ class Stany {
 
   // Writes the quantity of a good into the N-th warehouse of the list (from 1), as one unit, and counts it
   // (Licznik::Stany). False when nothing changed: no such warehouse, or the quantity is there already. A good
-  // without a stock row keeps none, though the answer is true.
+  // without a stock row keeps none, though the answer is true. 2006 for a quantity that the column cannot
+  // hold.
   bool Ustaw(int towId, int n, double ilosc);
 
  private:

@@ -1,5 +1,6 @@
 #include "goods/stany.h"
 
+#include "model/bledy.h"
 #include "run/liczniki.h"
 #include "tests/goods/import_testowy.h"
 
@@ -40,6 +41,7 @@ TEST(Stany, ZapisujeDoMagazynuZListy) {
     EXPECT_EQ(stany.Ustaw(1, p.n, p.ilosc), p.zmiana);
     EXPECT_EQ(i.b.Tekst("select group_concat(StanMag) from Istw order by MagId"), p.stany);
   }
+  EXPECT_THROW(stany.Ustaw(1, 2, 1e300), EVLTWDError);
   i.b.baza.ExecSQL("delete from Istw where MagId = 1");
   EXPECT_TRUE(stany.Ustaw(1, 2, 5));
   EXPECT_EQ(i.b.Liczba("select count(*) from Istw"), 1);  // no row is made
