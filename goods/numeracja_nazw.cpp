@@ -16,7 +16,8 @@ long long NajwyzszyNumer(TVLTBazaDanych& baza) {
                             {{"Wzor", kPoczatek + u'%'}});
   while (odczyt.Nastepny()) {
     bool liczba = false;
-    const long long numer = odczyt[0].AsString().mid(kPoczatek.size()).toLongLong(&liczba);
+    // What does not fit an int was not numbered here; there is always room for one more behind the others.
+    const long long numer = odczyt[0].AsString().mid(kPoczatek.size()).toInt(&liczba);
     if (liczba) najwyzszy = std::max(najwyzszy, numer);
   }
   return najwyzszy;

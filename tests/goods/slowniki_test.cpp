@@ -208,7 +208,8 @@ TEST(NumeracjaNazw, IdzieDalejOdNajwyzszej) {
   EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 0001"_s);
   nazwy.Potwierdz();
   EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 0002"_s);
-  for (const char* nazwa : {"Towar bez nazwy 10000", "Towar bez nazwy 0007", "Towar bez nazwy i kodu"})
+  for (const char* nazwa : {"Towar bez nazwy 10000", "Towar bez nazwy 0007", "Towar bez nazwy i kodu",
+                            "Towar bez nazwy 9223372036854775807"})
     i.b.baza.ExecSQL("insert into Towar (Nazwa, Skrot, Kod) values ('" + std::string(nazwa) + "', '', '')");
   nazwy.Zapomnij();
   EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 10001"_s);
