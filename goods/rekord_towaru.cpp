@@ -220,8 +220,10 @@ RekordTowaru::Krok RekordTowaru::DodajTowar() {
   if (!m_import.opcje.cb_nowetowary) return Krok::Koniec;
   if (m_nazwa.isEmpty())
     if (const auto nazwa =
-            m_import.oper.PodajTekst({u"Uwaga"_s, u"Podaj nazwę towaru o kodzie "_s + m_kod.kod}))
+            m_import.oper.PodajTekst({u"Uwaga"_s, u"Podaj nazwę towaru o kodzie "_s + m_kod.kod})) {
       m_towar.UstawNazwa(nazwa->trimmed());
+      m_towar.UtworzBrakujaceSkroty();
+    }
   if (m_kod.kod.isEmpty())
     if (const auto kod = m_import.oper.PodajTekst({u"Uwaga"_s, u"Podaj kod towaru "_s + m_nazwa}))
       m_towar.UstawKod(kod->trimmed());

@@ -203,8 +203,10 @@ TransferPol::Wynik TransferPol::Kody() {
 
   std::vector<KodDodatkowy> kody;
   for (KodZBloku& zPliku : blok.wartosc) {
-    if (const WynikKodu wynik = m_import.reguly.SprawdzDodatkowy(zPliku.kod); !wynik.Dobry())
-      return Odmowa{u"Błąd w kodzie dodatkowym: "_s + wynik.szczegol};
+    const bool powtorzony =
+        std::any_of(kody.begin(), kody.end(), [&](const KodDodatkowy& k) { return k.kod == zPliku.kod; });
+    if (powtorzony || !m_import.reguly.SprawdzDodatkowy(zPliku.kod).Dobry())
+      return Odmowa{u"Błąd w kodzie dodatkowym: "_s + zPliku.kod};
     const int indeks = m_towar.Kody().Indeks(zPliku.kod);
     KodDodatkowy kod = indeks < 0 ? KodDodatkowy{} : m_towar.Kody()[indeks];
     kod.kod = std::move(zPliku.kod);
@@ -213,8 +215,8 @@ TransferPol::Wynik TransferPol::Kody() {
     kody.push_back(std::move(kod));
   }
   m_towar.Kody().Ustaw(std::move(kody));
-  for (int i = 0; i < m_towar.Kody().Ilosc(); ++i)
-    if (m_towar.Kody()[i].skrot.trimmed().isEmpty() && !m_towar.UtworzSkrot(i)) return kBrakSkrotu;
+  // A good whose name is still to be asked for gets its short names together with the name.
+  if (!m_towar.Nazwa().isEmpty() && !m_towar.UtworzBrakujaceSkroty()) return kBrakSkrotu;
   return std::nullopt;
 }
 

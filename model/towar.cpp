@@ -224,6 +224,13 @@ bool TDmVLTTowar::UtworzSkrot(int indeks) {
   return true;
 }
 
+bool TDmVLTTowar::UtworzBrakujaceSkroty() {
+  if (Pusty(Skrot()) && !UtworzSkrot()) return false;
+  for (int i = 0; i < m_kody.Ilosc(); ++i)
+    if (Pusty(m_kody[i].skrot) && !UtworzSkrot(i)) return false;
+  return true;
+}
+
 bool TDmVLTTowar::Centralny() const {
   return !Pusty(CKU());
 }

@@ -232,6 +232,8 @@ class TDmVLTTowar final : public TDmVLTElement {
   // Makes a unique short name from the good's name for the main code (-1) or the additional code with that
   // index and stores it; false when none is free or the name has no words.
   bool UtworzSkrot(int indeks = -1);
+  // The same for every code, main or additional, whose short name (trimmed) is empty.
+  bool UtworzBrakujaceSkroty();
 
   // Managed by the chain's centre: it has a central code.
   bool Centralny() const;

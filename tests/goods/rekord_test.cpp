@@ -136,10 +136,12 @@ TEST_F(Rekord, KazdaOdmowaMaSwojKomunikat) {
        "5900000000015;x;S\n",
        {u"Nie ma takiej jednostki"_s, u"Błąd w polu 'stawka'"_s}},
       {"kody dodatkowe",
-       pola({0, 1, 26}),
-       "5900000000015;x;(1|2\n5900000000022;y;(59A||)\n5900000000039;z;(5900000000046||q)\n",
-       {u"Błąd w polu kodów dodatkowych"_s, u"Błąd w kodzie dodatkowym: 59A"_s, u"q nie jest liczbą"_s},
-       3},
+       pola({0, 1, 26, 26}),
+       "5900000000015;x;(1|2;(8||)\n5900000000022;y;(59A||);(8||)\n5900000000039;z;(590||q);(8||)\n"
+       "5900000000053;v;(777|a|);(777|b|)\n",
+       {u"Błąd w polu kodów dodatkowych"_s, u"Błąd w kodzie dodatkowym: 59A"_s, u"q nie jest liczbą"_s,
+        u"Błąd w kodzie dodatkowym: 777"_s},
+       4},
       {"kategoria",
        [&](ImportTestowy& im) {
          slowniki(false)(im), pola({0, 1, 24, 25, 23, 27})(im);
@@ -333,11 +335,14 @@ TEST_F(Rekord, OperatorPoprawiaRezygnujeAlboZatrzymuje) {
   i.opcje.towarBezKodu = TowarBezKodu::RBPytajOKodTowaru;
   i.osoba.tekst = u"5900000000015"_s;  // answers both questions: a name and, for the second good, a code
   i.osoba.przyPytaniu = [&] { EXPECT_FALSE(i.b.baza.GetCzyWTransakcji()); };
-  WynikPrzebiegu wynik = i.Importuj("5900000000022;;\n;Nazwany\n");
+  i.UstawPola({0, 1, 26});
+  WynikPrzebiegu wynik = i.Importuj("5900000000022;;(777||)\n;Nazwany;(778||)\n");
   EXPECT_EQ(wynik.liczniki[Licznik::Dodane], 2);
+  EXPECT_EQ(i.b.Tekst("select Skrot from KodDod where Kod = '777'"), u"5900000000015 1"_s);
   EXPECT_EQ(Kolumna("Nazwa", "5900000000022"), u"5900000000015"_s);
   EXPECT_EQ(Kolumna("Nazwa", "5900000000015"), u"Nazwany"_s);
 
+  i.UstawPola({0, 1});
   i.osoba.tekst.reset();
   i.osoba.pytania.clear();
   wynik = i.Importuj("5900000000039;;\n");
