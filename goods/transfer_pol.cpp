@@ -89,7 +89,7 @@ const TransferPol::Odmowa kZgloszona{};
 
 std::optional<TransferPol::Odmowa> TransferPol::Przenies(const QString& nazwa) {
   if (auto odmowa = Nazwy(nazwa)) return odmowa;
-  Typ();
+  if (auto odmowa = Typ()) return odmowa;
   if (auto odmowa = ProstePola()) return odmowa;
   if (auto odmowa = Stawka()) return odmowa;
   PoziomyCen();
@@ -117,10 +117,13 @@ TransferPol::Wynik TransferPol::Nazwy(const QString& nazwa) {
   return std::nullopt;
 }
 
-void TransferPol::Typ() {
-  if (!Bierze(PoleTowaru::TypTowaru) || m_towar.Centralny()) return;
-  const int typ = m_pola.Calkowita(PoleTowaru::TypTowaru).wartosc;
-  m_towar.UstawTypTowaru(typ == 1 || typ == 2 ? static_cast<TypTowaru>(typ) : TypTowaru::Towar);
+TransferPol::Wynik TransferPol::Typ() {
+  if (!Bierze(PoleTowaru::TypTowaru) || m_towar.Centralny()) return std::nullopt;
+  const auto typ = m_pola.Calkowita(PoleTowaru::TypTowaru);
+  if (!typ.poprawny) return NieJestLiczba(typ.bledny);
+  const bool znany = typ.wartosc == 1 || typ.wartosc == 2;
+  m_towar.UstawTypTowaru(znany ? static_cast<TypTowaru>(typ.wartosc) : TypTowaru::Towar);
+  return std::nullopt;
 }
 
 TransferPol::Wynik TransferPol::ProstePola() {
@@ -147,7 +150,8 @@ TransferPol::Wynik TransferPol::Stawka() {
   const Odmowa odmowa{u"Błąd w polu 'stawka'"_s};
   auto stawka = m_pola.Calkowita(PoleTowaru::StawkaVat, kStawkaDomyslna);
   if (!stawka.poprawny) {
-    if (m_import.struktura.CBTypPliku != TypPliku::Zorvik) return odmowa;
+    // A number too long to be read is out of range, not unreadable.
+    if (m_import.struktura.CBTypPliku != TypPliku::Zorvik || SameCyfry(stawka.bledny)) return odmowa;
     stawka.wartosc = kStawkaDomyslna;
   }
   if (stawka.wartosc < kStawkaZwolniona || stawka.wartosc > kStawkaNajwyzsza) return odmowa;

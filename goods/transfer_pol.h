@@ -28,7 +28,7 @@ class TransferPol {
 
   bool Bierze(int pole) const;
   Wynik Nazwy(const QString& nazwa);
-  void Typ();
+  Wynik Typ();
   Wynik ProstePola();
   Wynik Stawka();
   void PoziomyCen();

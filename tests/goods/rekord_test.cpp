@@ -308,6 +308,24 @@ TEST_F(Rekord, StatusIStanZmieniajaSieTakzeBezAktualizacji) {
   EXPECT_TRUE(i.postep.linie.join(u'\n').contains(u"Wykonano import stanów magazynowych"_s));
 }
 
+TEST_F(Rekord, WlasnyUkladCzytaTypIStawkeJakoLiczby) {
+  i.struktura.CBTypPliku = TypPliku::Zorvik;
+  const auto rekord = [](const char* kod, const char* typ, const char* stawka) {
+    QStringList pola(32);
+    pola[PoleTowaru::Kod] = pola[PoleTowaru::Nazwa] = QString::fromUtf8(kod);
+    pola[PoleTowaru::TypTowaru] = QString::fromUtf8(typ);
+    pola[PoleTowaru::StawkaVat] = QString::fromUtf8(stawka);
+    return pola.join(u'\t') + u'\n';
+  };
+  i.Importuj(u"Kod\n"_s + rekord("590001", "1", "-1") + rekord("590002", "7", "22.00") +
+             rekord("590003", "O", "") + rekord("590004", "", "10001") + rekord("590005", "", "99999999999"));
+  EXPECT_EQ(Kolumna("TypTowaru || ' ' || Stawka", "590001"), u"1 -1"_s);
+  EXPECT_EQ(Kolumna("TypTowaru || ' ' || Stawka", "590002"), u"0 2200"_s);
+  EXPECT_THAT(i.Pominiete(), ElementsAre(u"590003 | 590003 | O nie jest liczbą"_s,
+                                         u"590004 | 590004 | Błąd w polu 'stawka'"_s,
+                                         u"590005 | 590005 | Błąd w polu 'stawka'"_s));
+}
+
 TEST_F(Rekord, NadaneKodyINazwySaKolejne) {
   i.opcje.towarBezKodu = TowarBezKodu::RBDodajKodWlasny;
   i.opcje.towarBezNazwy = TowarBezNazwy::RBDodajTowarZNazwaAuto;
