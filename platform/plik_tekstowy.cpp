@@ -19,6 +19,36 @@ bool Sterujacy(char znak) {
   return bajt < 0x20 && !odstep;
 }
 
+// Lower and upper Polish letters in UTF-8.
+constexpr std::string_view kPolskieUtf8 = "ĄĆĘŁŃÓŚŹŻąćęłńóśźż";
+
+// Bytes of the UTF-8 sequence that begins with this one; 0 when none does.
+std::size_t DlugoscSekwencji(unsigned char bajt) {
+  if (bajt < 0x80) return 1;
+  if (bajt >= 0xC2 && bajt <= 0xDF) return 2;
+  if (bajt >= 0xE0 && bajt <= 0xEF) return 3;
+  return bajt >= 0xF0 && bajt <= 0xF4 ? 4 : 0;
+}
+
+// UTF-8 without a mark: every byte beyond ASCII is part of a sequence and Polish letters are among them. A
+// text of an 8-bit page would have to consist of very odd pairs; read as one, every letter would reach the
+// database as two.
+bool JestUtf8(std::string_view tekst) {
+  constexpr int kWystarczy = 2;
+  int polskich = 0;
+  for (std::size_t i = 0; i < tekst.size();) {
+    const std::size_t ile = DlugoscSekwencji(static_cast<unsigned char>(tekst[i]));
+    if (ile == 0) return false;
+    const std::string_view sekwencja = tekst.substr(i, ile);
+    const bool cala = std::all_of(sekwencja.begin() + 1, sekwencja.end(),
+                                  [](char z) { return (static_cast<unsigned char>(z) & 0xC0) == 0x80; });
+    if (!cala) return false;
+    if (sekwencja.size() == 2 && kPolskieUtf8.find(sekwencja) != std::string_view::npos) ++polskich;
+    i += ile;
+  }
+  return polskich >= kWystarczy;
+}
+
 }  // namespace
 
 TMFile::~TMFile() {
@@ -184,6 +214,7 @@ RodzajTresci RozpoznajTresc(std::string_view poczatek) {
   if (poczatek.starts_with("\xEF\xBB\xBF")) return RodzajTresci::Utf8;
   if (poczatek.starts_with("\xFF\xFE") || poczatek.starts_with("\xFE\xFF")) return RodzajTresci::Utf16;
   if (poczatek.find('\0') != std::string_view::npos) return RodzajTresci::BajtyZerowe;
+  if (JestUtf8(poczatek)) return RodzajTresci::Utf8;
   // A stray control character is a blemish; a share of them is another kind of file.
   const auto sterujacych = static_cast<size_t>(std::count_if(poczatek.begin(), poczatek.end(), Sterujacy));
   return sterujacych * 20 > poczatek.size() ? RodzajTresci::Binarny : RodzajTresci::Tekst;

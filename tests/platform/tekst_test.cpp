@@ -150,6 +150,8 @@ TEST_F(PlikTekstowy, RozpoznanieTresci) {
       {"Kod kreskowy\tNazwa\r\nza\xBF\xF3\xB3\xE6\x1A", R::Tekst},
       {"", R::Tekst},
       {"\xEF\xBB\xBFKod", R::Utf8},
+      {"1;Żurek – 5 €;śliwka \xC5", R::Utf8},  // the last letter cut in the middle
+      {"1;\xC5\xBBurek;\x9Cliwka;\xC4\x85", R::Tekst},
       {std::string("\xFF\xFEK\0o\0", 6), R::Utf16},
       {std::string("\xFE\xFF\0K", 4), R::Utf16},
       {std::string("K\0o\0d\0", 6), R::BajtyZerowe},
