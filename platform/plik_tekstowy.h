@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QFile>
-#include <QString>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include <QFile>
+#include <QString>
 
 // A text file of 8-bit characters, read and written line by line through a buffer of its own. A read line is
 // a view into that buffer: no line is copied. One object reads or writes; the position is always counted in
@@ -72,7 +73,8 @@ class TMFile {
   QString m_opisBledu;
 };
 
-// What the beginning of a file says about its text.
+// What the beginning of a file says about its text. Utf8: with a mark, or without one when Polish letters
+// show it.
 enum class RodzajTresci { Tekst, Utf8, Utf16, BajtyZerowe, Binarny };
 
 RodzajTresci RozpoznajTresc(std::string_view poczatek);

@@ -6,6 +6,7 @@
 #include "model/kontekst.h"
 #include "model/lista_elementow.h"
 #include "model/parametry_systemu.h"
+#include "model/slowniki.h"
 #include "tests/wspolne/baza_testowa.h"
 
 namespace {
@@ -136,10 +137,14 @@ TEST_F(Element, NieudanyZapisZostawiaNowyNowymIDajeSiePowtorzyc) {
 TEST_F(Element, KopieZeSklepu) {
   EXPECT_EQ(Kod([&] { rzecz.WczytajKopie(-1, 2, true); }), 2034);
   EXPECT_EQ(Kod([&] { rzecz.WczytajKopie(0, 99, true); }), 2031);
+  TDmVLTAsortyment bezKopii(kontekst);
+  EXPECT_EQ(Kod([&] { bezKopii.WczytajKopie(0, 2, true); }), 2032);
   rzecz.WczytajKopie(0, 2, false);
   EXPECT_TRUE(rzecz.CzyKopia());
   EXPECT_EQ(Kod([&] { rzecz.Zapisz(); }), 2033);
+  rzecz.slady.clear();
   rzecz.WczytajKopie(0, 2, true);
+  EXPECT_EQ(rzecz.slady, QStringLiteral("cN"));
   EXPECT_FALSE(rzecz.CzyKopia());
   EXPECT_EQ(rzecz.Zapisz(), 4);
   EXPECT_EQ(b.Tekst("select Nazwa from T where Id = 4"), QStringLiteral("a"));
