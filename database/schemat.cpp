@@ -114,6 +114,7 @@ constexpr std::string_view kSchemat[] = {
         OstEksport {czas},
         PotwEksport {czas},
         MagId {calk} references Magazyn (MagId)))",
+    "create index SklepNumer on Sklep (NrSklepu)",
     R"(create table Osoba (
         KontrId {calk} not null references Kontrahent (KontrId),
         Nazwisko {tekst} not null))",

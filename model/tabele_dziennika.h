@@ -8,5 +8,6 @@ enum TabelaDziennika : int {
   kDziennikKategoria = 4,
   kDziennikParametr = 5,
   kDziennikMagazyn = 6,
+  kDziennikKontrahent = 7,
   kDziennikStawkiVat = 101
 };

@@ -1,7 +1,5 @@
 #include "model/towar.h"
 
-#include <QAnyStringView>
-
 #include "model/bledy.h"
 #include "model/kody_wazone.h"
 #include "model/kontekst.h"
@@ -19,20 +17,13 @@
 namespace {
 
 namespace rodzaje {
-constexpr TypPola Klucz = TypPola::Calkowite;
-constexpr TypPola Id = TypPola::Calkowite;
-constexpr TypPola Liczba = TypPola::Calkowite;
+using namespace ::rodzaje;
 constexpr TypPola Typ = TypPola::Calkowite;
 constexpr TypPola Stawka = TypPola::Calkowite;
-constexpr TypPola Kwota = TypPola::Dziesietne;
-constexpr TypPola Tekst = TypPola::Tekst;
 constexpr TypPola Nazwa = TypPola::Tekst;
-constexpr TypPola Czas = TypPola::Czas;
 }  // namespace rodzaje
 
-#define ZORVIK_POLE(nazwa, rodzaj) {#nazwa, rodzaje::rodzaj},
-constexpr OpisPola kPola[] = {ZORVIK_POLA_TOWARU(ZORVIK_POLE)};
-#undef ZORVIK_POLE
+constexpr OpisPola kPola[] = {ZORVIK_POLA_TOWARU(ZORVIK_OPIS)};
 
 // Columns that a new good leaves null: nothing chosen yet, or the server's to fill.
 constexpr KolumnaTowaru::Numer kPusteWNowym[] = {
@@ -51,12 +42,6 @@ std::vector<Wartosc> NowyWiersz(const ParametrySystemu& parametry) {
       {KolumnaTowaru::OpcjaNarzutu, IdParametru::RachunekNarzutuNocnego}};
   for (const auto& [pole, parametr] : kZParametrow) wiersz[pole].SetInteger(parametry[parametr].AsInteger());
   return wiersz;
-}
-
-bool RownyTekst(const Wartosc& wartosc, const QString& tekst) {
-  const std::string_view utf8 = wartosc.AsUtf8();
-  return QAnyStringView(QUtf8StringView(utf8.data(), static_cast<qsizetype>(utf8.size()))) ==
-         QAnyStringView(tekst);
 }
 
 QString Tekst(std::string_view utf8) {
@@ -131,33 +116,6 @@ void TDmVLTTowar::AfterLoad(bool isNew, int id) {
   m_kody.Wczytaj(Context.baza, id);
   m_wartosci.Wczytaj(Context.baza, id);
   m_dostawcy.Wczytaj(Context.baza, id);
-}
-
-// Setters leave a value that already reads the same as it is: nothing then counts as changed.
-
-int TDmVLTTowar::CzytajId(std::size_t pole) const {
-  const TMField& field = Query.Field(pole);
-  return field.IsNull() ? -1 : static_cast<int>(field.AsInteger());
-}
-
-void TDmVLTTowar::PiszId(std::size_t pole, int id) {
-  if (CzytajId(pole) == id || (id < 0 && CzytajId(pole) < 0)) return;
-  if (id < 0)
-    Query.Field(pole).Clear();
-  else
-    Query.Field(pole).SetInteger(id);
-}
-
-void TDmVLTTowar::PiszLiczbe(std::size_t pole, long long liczba) {
-  if (Query.Field(pole).AsInteger() != liczba) Query.Field(pole).SetInteger(liczba);
-}
-
-void TDmVLTTowar::PiszKwote(std::size_t pole, double kwota) {
-  if (Query.Field(pole).AsFloat() != kwota) Query.Field(pole).SetFloat(kwota);
-}
-
-void TDmVLTTowar::PiszTekst(std::size_t pole, const QString& tekst) {
-  if (!RownyTekst(Query.Field(pole).Value(), tekst)) Query.Field(pole).SetString(tekst);
 }
 
 void TDmVLTTowar::UstawNazwa(const QString& tekst) {

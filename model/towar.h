@@ -12,6 +12,7 @@
 #include "model/bufor_towarow.h"
 #include "model/element.h"
 #include "model/kody_dodatkowe.h"
+#include "model/kolumny.h"
 #include "model/szczegoly_towaru.h"
 
 class TDmVLTNazwySkrocone;
@@ -57,8 +58,7 @@ class OtoczenieZParametrow {
 enum class TypTowaru { Towar = 0, Opakowanie = 1, Usluga = 2 };
 
 // Columns of the main row in the order in which the select returns them: those of table Towar, then those of
-// the packaging link Powiazanie. POLE(column, kind): Klucz the key; Id an identifier, -1 when null; Liczba an
-// integer; Kwota a decimal number; Tekst; Czas (read only); other kinds have accessors of their own.
+// the packaging link Powiazanie. Kinds: model/kolumny.h; Nazwa, Typ and Stawka have accessors of their own.
 #define ZORVIK_POLA_TOWARU(POLE) \
   POLE(TowId, Klucz)             \
   POLE(AsId, Id)                 \
@@ -95,7 +95,7 @@ enum class TypTowaru { Towar = 0, Opakowanie = 1, Usluga = 2 };
   POLE(IleWCalosci, Kwota)       \
   POLE(KodZgrzewki, Tekst)       \
   POLE(Aktywny, Liczba)          \
-  POLE(Zmiana, Czas)             \
+  POLE(Zmiana, Zegar)            \
   POLE(Waga, Liczba)             \
   POLE(Szerokosc, Liczba)        \
   POLE(Wysokosc, Liczba)         \
@@ -113,9 +113,7 @@ enum class TypTowaru { Towar = 0, Opakowanie = 1, Usluga = 2 };
 
 // Positions of the columns: Query.Field(KolumnaTowaru::Kod).
 struct KolumnaTowaru {
-#define ZORVIK_POLE(nazwa, rodzaj) nazwa,
-  enum Numer : std::size_t { ZORVIK_POLA_TOWARU(ZORVIK_POLE) kIlosc };
-#undef ZORVIK_POLE
+  enum Numer : std::size_t { ZORVIK_POLA_TOWARU(ZORVIK_NUMER) kIlosc };
 };
 
 // Why a good cannot be saved: a code of EVLTWDError and its detail. 0: it can.
@@ -144,41 +142,8 @@ class TDmVLTTowar final : public TDmVLTElement {
   TDmVLTTowar(KontekstSesji& context, const OtoczenieTowarow& otoczenie);
   ~TDmVLTTowar() override;
 
-  // Getters and setters by the columns' names: towar.CenaDet(), towar.UstawCenaDet(12.5). Identifiers read -1
-  // when null and a negative one is stored as null.
-#define ZORVIK_DOSTEP_Klucz(nazwa)
-#define ZORVIK_DOSTEP_Id(nazwa)            \
-  int nazwa() const {                      \
-    return CzytajId(KolumnaTowaru::nazwa); \
-  }                                        \
-  void Ustaw##nazwa(int id) {              \
-    PiszId(KolumnaTowaru::nazwa, id);      \
-  }
-#define ZORVIK_DOSTEP_Liczba(nazwa)                                         \
-  int nazwa() const {                                                       \
-    return static_cast<int>(Query.Field(KolumnaTowaru::nazwa).AsInteger()); \
-  }                                                                         \
-  void Ustaw##nazwa(long long liczba) {                                     \
-    PiszLiczbe(KolumnaTowaru::nazwa, liczba);                               \
-  }
-#define ZORVIK_DOSTEP_Kwota(nazwa)                      \
-  double nazwa() const {                                \
-    return Query.Field(KolumnaTowaru::nazwa).AsFloat(); \
-  }                                                     \
-  void Ustaw##nazwa(double kwota) {                     \
-    PiszKwote(KolumnaTowaru::nazwa, kwota);             \
-  }
-#define ZORVIK_DOSTEP_Tekst(nazwa)                       \
-  QString nazwa() const {                                \
-    return Query.Field(KolumnaTowaru::nazwa).AsString(); \
-  }                                                      \
-  void Ustaw##nazwa(const QString& tekst) {              \
-    PiszTekst(KolumnaTowaru::nazwa, tekst);              \
-  }
-#define ZORVIK_DOSTEP_Czas(nazwa)                        \
-  QString nazwa() const {                                \
-    return Query.Field(KolumnaTowaru::nazwa).AsString(); \
-  }
+  // Getters and setters by the columns' names: towar.CenaDet(), towar.UstawCenaDet(12.5).
+  using Kolumna = KolumnaTowaru;
 #define ZORVIK_DOSTEP_Nazwa(nazwa)                       \
   QString nazwa() const {                                \
     return Query.Field(KolumnaTowaru::nazwa).AsString(); \
@@ -190,15 +155,7 @@ class TDmVLTTowar final : public TDmVLTElement {
 #define ZORVIK_DOSTEP_Stawka(nazwa) \
   std::optional<int> nazwa() const; \
   void Ustaw##nazwa(std::optional<int> stawka);
-#define ZORVIK_DOSTEP(nazwa, rodzaj) ZORVIK_DOSTEP_##rodzaj(nazwa)
   ZORVIK_POLA_TOWARU(ZORVIK_DOSTEP)
-#undef ZORVIK_DOSTEP
-#undef ZORVIK_DOSTEP_Klucz
-#undef ZORVIK_DOSTEP_Id
-#undef ZORVIK_DOSTEP_Liczba
-#undef ZORVIK_DOSTEP_Kwota
-#undef ZORVIK_DOSTEP_Tekst
-#undef ZORVIK_DOSTEP_Czas
 #undef ZORVIK_DOSTEP_Nazwa
 #undef ZORVIK_DOSTEP_Typ
 #undef ZORVIK_DOSTEP_Stawka
@@ -271,11 +228,6 @@ class TDmVLTTowar final : public TDmVLTElement {
   struct Plan;
   class Walidacja;
 
-  int CzytajId(std::size_t pole) const;
-  void PiszId(std::size_t pole, int id);
-  void PiszLiczbe(std::size_t pole, long long liczba);
-  void PiszKwote(std::size_t pole, double kwota);
-  void PiszTekst(std::size_t pole, const QString& tekst);
   void UstawStatus(bool aktywny);
 
   WynikWalidacji SprawdzDoPlanu(Plan& plan) const;

@@ -8,7 +8,6 @@
 #include "model/tabele_dziennika.h"
 #include "model/towar.h"
 #include "model/towar_plan.h"
-#include "model/zakresy.h"
 #include "platform/baza/sesja.h"
 
 namespace {
@@ -168,13 +167,7 @@ TDmVLTTowar::Plan TDmVLTTowar::Zaplanuj() const {
   Plan plan;
   if (const WynikWalidacji wynik = SprawdzDoPlanu(plan); !wynik.Dobry())
     throw EVLTWDError(wynik.kod, nullptr, wynik.szczegol);
-  for (std::size_t i = 0; i < K::kIlosc; ++i) {
-    const TMField& pole = Query.Field(i);
-    const bool wZakresie = pole.Value().Typ() == TypPola::Calkowite    ? LiczbaWZakresie(pole.AsInteger())
-                           : pole.Value().Typ() == TypPola::Dziesietne ? KwotaWZakresie(pole.AsFloat())
-                                                                       : true;
-    if (!wZakresie) throw EVLTWDError(2006);
-  }
+  WymagajZakresow(Query);
   UzupelnijWartosci(plan);
   return plan;
 }

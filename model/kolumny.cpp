@@ -1,0 +1,82 @@
+#include "model/kolumny.h"
+
+#include <QAnyStringView>
+
+#include "model/bledy.h"
+#include "model/zakresy.h"
+
+namespace {
+constexpr char16_t kFormatCzasu[] = u"yyyy-MM-dd HH:mm:ss";
+constexpr qsizetype kDlugoscDaty = 10;
+}  // namespace
+
+bool RownyTekst(const Wartosc& wartosc, const QString& tekst) {
+  const std::string_view utf8 = wartosc.AsUtf8();
+  return QAnyStringView(QUtf8StringView(utf8.data(), static_cast<qsizetype>(utf8.size()))) ==
+         QAnyStringView(tekst);
+}
+
+int CzytajId(const TMField& pole) {
+  return pole.IsNull() ? -1 : static_cast<int>(pole.AsInteger());
+}
+
+QDate CzytajDate(const TMField& pole) {
+  return pole.IsNull() ? QDate() : QDate::fromString(pole.AsString().left(kDlugoscDaty), Qt::ISODate);
+}
+
+// Stored times carry no zone: the universal one keeps every hour of the year.
+QDateTime CzytajCzas(const TMField& pole) {
+  if (pole.IsNull()) return {};
+  QDateTime czas = QDateTime::fromString(pole.AsString(), Qt::ISODate);
+  czas.setTimeSpec(Qt::UTC);
+  return czas;
+}
+
+void PiszId(TMField& pole, int id) {
+  if (CzytajId(pole) == id || (id < 0 && CzytajId(pole) < 0)) return;
+  if (id < 0)
+    pole.Clear();
+  else
+    pole.SetInteger(id);
+}
+
+void PiszLiczbe(TMField& pole, long long liczba) {
+  if (pole.AsInteger() != liczba) pole.SetInteger(liczba);
+}
+
+void PiszFlage(TMField& pole, bool flaga) {
+  if ((pole.AsInteger() != 0) != flaga) pole.SetInteger(flaga ? 1 : 0);
+}
+
+void PiszKwote(TMField& pole, double kwota) {
+  if (pole.AsFloat() != kwota) pole.SetFloat(kwota);
+}
+
+void PiszTekst(TMField& pole, const QString& tekst) {
+  if (!RownyTekst(pole.Value(), tekst)) pole.SetString(tekst);
+}
+
+void PiszDate(TMField& pole, const QDate& data) {
+  if (CzytajDate(pole) == data) return;
+  if (data.isValid())
+    pole.SetString(data.toString(Qt::ISODate) + QStringLiteral(" 00:00:00"));
+  else
+    pole.Clear();
+}
+
+void PiszCzas(TMField& pole, const QDateTime& czas) {
+  if (!czas.isValid())
+    pole.Clear();
+  else if (const QString tekst = czas.toString(kFormatCzasu); pole.AsString() != tekst)
+    pole.SetString(tekst);
+}
+
+void WymagajZakresow(const TMCustomDataSet& wiersz) {
+  for (std::size_t i = 0; i < wiersz.FieldCount(); ++i) {
+    const TMField& pole = wiersz.Field(i);
+    const TypPola typ = pole.Value().Typ();
+    if ((typ == TypPola::Calkowite && !LiczbaWZakresie(pole.AsInteger())) ||
+        (typ == TypPola::Dziesietne && !KwotaWZakresie(pole.AsFloat())))
+      throw EVLTWDError(2006);
+  }
+}

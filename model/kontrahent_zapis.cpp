@@ -1,0 +1,238 @@
+#include <array>
+
+#include "model/bledy.h"
+#include "model/kontekst.h"
+#include "model/kontrahent.h"
+#include "model/tabele_dziennika.h"
+#include "model/zakresy.h"
+#include "platform/baza/sesja.h"
+
+namespace {
+
+using K = KolumnaKontrahenta;
+
+// Every column of table Kontrahent without the key and without Zmiana, which the server's clock fills.
+constexpr auto kZapisywane = [] {
+  std::array<K::Numer, K::Zmiana - K::AkwId> pola{};
+  for (std::size_t i = 0; i < pola.size(); ++i) pola[i] = static_cast<K::Numer>(K::AkwId + i);
+  return pola;
+}();
+
+// The values follow in the order of the columns.
+constexpr char kInsertKolumny[] =
+    "insert into Kontrahent ("
+    "\r\n AkwId, Nazwa, NaPrzelewie1, NaPrzelewie2, Skrot,"
+    "\r\n Ulica, Kod, Miasto, Telefon, Fax, EMail, Bank, Konto,"
+    "\r\n NIP, Staly, Dostawca, RabatDost, FormaPlatDost, TermPlatDost, CzasRealZam, Producent,"
+    "\r\n Odbiorca, RabatOdb, FormaPlatOdb, TermPlatOdb, MaxKredyt, MaxPoTermPlat,"
+    "\r\n KodKarty, KartaAktywna, TermWaznKarty, PoziomRabatu,"
+    "\r\n NrAnalityki, KodKontr, ZakPracChron, Aktywny, Rezerwa1, Rezerwa2, Zmiana)"
+    "\r\nselect\r\n";
+
+std::string Insert(const TKMQuery& query) {
+  std::string sql = kInsertKolumny;
+  for (const auto pole : kZapisywane) sql += ':' + std::string(query.Field(pole).FieldName()) + ",\r\n";
+  return sql + "getdate()";
+}
+
+std::string Update(const TKMQuery& query) {
+  std::string sql = "update Kontrahent\r\nset ";
+  for (const auto pole : kZapisywane) {
+    const std::string nazwa = query.Field(pole).FieldName();
+    if (pole != kZapisywane.front()) sql += "    ";
+    sql += nazwa + " = :" + nazwa + ",\r\n";
+  }
+  return sql + "    Zmiana = getdate()\r\nwhere KontrId = :KontrId";
+}
+
+constexpr char kInnySklepZNumerem[] =
+    "select S.SklepId, K.Nazwa from Sklep S, Kontrahent K"
+    "\r\nwhere S.SklepId = K.KontrId and S.NrSklepu = :NrSklepu"
+    "\r\nand   S.SklepId <> :SklepId"
+    "\r\norder by S.SklepId";
+
+constexpr char kInsertSklep[] =
+    "insert into Sklep (SklepId, NrSklepu, NrSeryjny, WymImport, PelnyImport)"
+    "\r\nvalues (:SklepId, :NrSklepu, :NrSeryjny, null, 1)";
+
+#define ZORVIK_RESZTA_SKLEPU        \
+  "\r\n NrSklepu = :NrSklepu,"      \
+  "\r\n NrSeryjny = :NrSeryjny,"    \
+  "\r\n WymImport = :WymImport,"    \
+  "\r\n PelnyImport = :PelnyImport" \
+  "\r\nwhere SklepId = :SklepId"
+constexpr char kUpdateSklep[] = "update Sklep set" ZORVIK_RESZTA_SKLEPU;
+constexpr char kUpdateSklepZMagazynem[] = "update Sklep set\r\n MagId = :MagId," ZORVIK_RESZTA_SKLEPU;
+#undef ZORVIK_RESZTA_SKLEPU
+
+struct TypKontrahenta {
+  K::Numer pole;
+  const char16_t* nazwa;
+};
+constexpr TypKontrahenta kTypy[] = {{K::Dostawca, u"dostawca"},
+                                    {K::Producent, u"producent"},
+                                    {K::Odbiorca, u"odbiorca"},
+                                    {K::SklepId, u"sklep"}};
+
+// The shop's identifier stands for its flag: zero or more, or null; a new one's is not known yet.
+bool JestTypem(K::Numer pole, const Wartosc& wartosc) {
+  return pole == K::SklepId ? !wartosc.IsNull() : wartosc.AsInteger() != 0;
+}
+
+// Changed columns that the change log tells of, with their old and new values.
+struct OpisZmiany {
+  K::Numer pole;
+  const char16_t* nazwa;
+};
+constexpr OpisZmiany kOpisyZmian[] = {
+    {K::Nazwa, u"nazwa"},      {K::AkwId, u"grupa kont"},           {K::NIP, u"NIP"},
+    {K::Konto, u"konto"},      {K::RabatDost, u"rabat u dostawcy"}, {K::RabatOdb, u"rabat dla odbiorcy"},
+    {K::MaxKredyt, u"kredyt"}, {K::KodKarty, u"kod karty"},         {K::PoziomRabatu, u"poziom rabatu"},
+    {K::Aktywny, u"aktywny"},  {K::NrSklepu, u"numer sklepu"}};
+
+}  // namespace
+
+int TDmVLTKontrahent::InsertRecord() {
+  Sprawdz();
+  static const std::string sql = Insert(Query);
+  Context.baza.ExecSQL(sql, ParametryZapisu());
+  const int id = Context.baza.PobierzAutoId();
+  ZapiszOsoby(id);
+  if (Sklep()) WstawSklep(id);
+  Context.baza.RejestrujZmiane(kDziennikKontrahent, OpisNowego(), id, -1);
+  return id;
+}
+
+void TDmVLTKontrahent::UpdateRecord(int id) {
+  Sprawdz();
+  static const std::string sql = Update(Query);
+  auto parametry = ParametryZapisu();
+  parametry.push_back({"KontrId", id});
+  if (Context.baza.ExecSQL(sql, parametry) == 0) throw EVLTWDError(2001);
+  Context.baza.ExecSQL("delete from Osoba where KontrId = :KontrId", {{"KontrId", id}});
+  ZapiszOsoby(id);
+  ZapiszSklep(id);
+  Context.baza.RejestrujZmiane(kDziennikKontrahent, OpisZmian(), id, -1);
+}
+
+// The shop's columns become what its row holds now; without a row there is nothing to hold.
+void TDmVLTKontrahent::AfterSave() {
+  m_osobyZBazy = m_osoby;
+  if (!Sklep()) {
+    for (std::size_t i = K::NrSklepu; i < K::kIlosc; ++i)
+      if (TMField& pole = Query.Field(i); !pole.IsNull()) pole.Clear();
+  } else {
+    Query.Field(K::SklepId).SetInteger(Id());
+    Query.Field(K::NrSklepu).SetInteger(m_nrSklepu);
+    if (m_nowySklep) {
+      Query.Field(K::WymImport).Clear();
+      Query.Field(K::PelnyImport).SetInteger(1);
+    }
+  }
+  Query.ZatwierdzZmiany();
+}
+
+// Everything that can refuse the record without writing.
+void TDmVLTKontrahent::Sprawdz() {
+  if (Nazwa().trimmed().isEmpty()) throw EVLTWDError(2839);
+  WymagajZakresow(Query);
+  m_nowySklep = false;
+  if (!Sklep()) return;
+  if (!Query.Field(K::NrSklepu).IsNull()) {
+    m_nrSklepu = NrSklepu();
+    auto inny = Context.baza.Otworz(kInnySklepZNumerem, {TypPola::Calkowite, TypPola::Tekst},
+                                    {{"NrSklepu", m_nrSklepu}, {"SklepId", Id()}});
+    if (inny.Nastepny())
+      throw EVLTWDError(
+          2860, nullptr,
+          QStringLiteral("[") + inny[0].AsString() + QStringLiteral("]: ") + inny[1].AsString());
+    return;
+  }
+  auto najwyzszy = Context.baza.Otworz("select max(NrSklepu) from Sklep", {TypPola::Calkowite});
+  m_nrSklepu = (najwyzszy.Nastepny() ? najwyzszy[0].AsInteger() : 0) + 1;
+  if (!LiczbaWZakresie(m_nrSklepu)) throw EVLTWDError(2006);
+}
+
+std::vector<Parametr> TDmVLTKontrahent::ParametryZapisu() const {
+  std::vector<Parametr> parametry;
+  parametry.reserve(kZapisywane.size() + 1);
+  for (const auto pole : kZapisywane) {
+    const TMField& field = Query.Field(pole);
+    parametry.push_back({field.FieldName(), field.Value()});
+  }
+  return parametry;
+}
+
+void TDmVLTKontrahent::ZapiszOsoby(int id) const {
+  for (const QString& osoba : m_osoby)
+    Context.baza.ExecSQL("insert into Osoba (KontrId, Nazwisko) values (:KontrId, :Nazwisko)",
+                         {{"KontrId", id}, {"Nazwisko", osoba}});
+}
+
+void TDmVLTKontrahent::ZapiszSklep(int id) {
+  if (!Sklep()) {
+    if (!BylSklepem()) return;
+    // Marks of goods that were to be sent to the shop hold its row.
+    Context.baza.ExecSQL("delete from SklepFlagi where SklepId = :SklepId", {{"SklepId", id}});
+    Context.baza.ExecSQL("delete from Sklep where SklepId = :SklepId", {{"SklepId", id}});
+    return;
+  }
+  if (!Context.baza
+           .Otworz("select SklepId from Sklep where SklepId = :SklepId", {TypPola::Calkowite},
+                   {{"SklepId", id}})
+           .Nastepny()) {
+    WstawSklep(id);
+    return;
+  }
+  std::vector<Parametr> parametry;
+  if (MagId() >= 0) parametry.push_back({"MagId", MagId()});
+  parametry.push_back({"NrSklepu", m_nrSklepu});
+  for (const auto pole : {K::NrSeryjny, K::WymImport, K::PelnyImport})
+    parametry.push_back({Query.Field(pole).FieldName(), Query.Field(pole).Value()});
+  parametry.push_back({"SklepId", id});
+  Context.baza.ExecSQL(MagId() >= 0 ? kUpdateSklepZMagazynem : kUpdateSklep, parametry);
+}
+
+void TDmVLTKontrahent::WstawSklep(int id) {
+  m_nowySklep = true;
+  Context.baza.ExecSQL(kInsertSklep, {{"SklepId", id}, {"NrSklepu", m_nrSklepu}, {"NrSeryjny", NrSeryjny()}});
+  if (MagId() >= 0)
+    Context.baza.ExecSQL("update Sklep set MagId = :MagId where SklepId = :SklepId",
+                         {{"MagId", MagId()}, {"SklepId", id}});
+}
+
+// Nowy kontrahent: dostawca, sklep, karta '123'
+QString TDmVLTKontrahent::OpisNowego() const {
+  QString opis = QStringLiteral("Nowy kontrahent");
+  QString lacznik = QStringLiteral(": ");
+  const auto dopisz = [&](const QString& tekst) {
+    opis += lacznik + tekst;
+    lacznik = QStringLiteral(", ");
+  };
+  for (const TypKontrahenta& typ : kTypy)
+    if (JestTypem(typ.pole, Query.Field(typ.pole).Value())) dopisz(QString::fromUtf16(typ.nazwa));
+  if (const QString karta = KodKarty(); !karta.isEmpty()) dopisz(QStringLiteral("karta '") + karta + u'\'');
+  return opis;
+}
+
+// Zmiana kontrahenta: nazwa z 'A' na 'B', dostawca: nie
+QString TDmVLTKontrahent::OpisZmian() const {
+  QString opis = QStringLiteral("Zmiana kontrahenta");
+  QString lacznik = QStringLiteral(": ");
+  const auto dopisz = [&](const QString& tekst) {
+    opis += lacznik + tekst;
+    lacznik = QStringLiteral(", ");
+  };
+  for (const OpisZmiany& zmiana : kOpisyZmian)
+    if (const TMField& pole = Query.Field(zmiana.pole); pole.Zmienione())
+      dopisz(QString::fromUtf16(zmiana.nazwa) + QStringLiteral(" z '") + pole.OldValue().AsString() +
+             QStringLiteral("' na '") + pole.AsString() + u'\'');
+  for (const TypKontrahenta& typ : kTypy) {
+    const TMField& pole = Query.Field(typ.pole);
+    const bool jest = JestTypem(typ.pole, pole.Value());
+    if (jest != JestTypem(typ.pole, pole.OldValue()))
+      dopisz(QString::fromUtf16(typ.nazwa) + (jest ? QStringLiteral(": tak") : QStringLiteral(": nie")));
+  }
+  if (m_osoby != m_osobyZBazy) dopisz(QStringLiteral("osoby uprawnione"));
+  return opis;
+}

@@ -1,0 +1,290 @@
+#include "model/kontrahent.h"
+
+#include <gtest/gtest.h>
+
+#include "database/schemat.h"
+#include "model/bledy.h"
+#include "model/kontekst.h"
+#include "model/lista_kontrahentow.h"
+#include "model/parametry_systemu.h"
+#include "tests/wspolne/baza_testowa.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using K = KolumnaKontrahenta;
+using T = TDmVLTKontrahent;
+
+class Kontrahenci : public testing::Test {
+ protected:
+  void SetUp() override {
+    UtworzBaze(b.baza, {});
+    b.baza.ExecSQL("insert into Magazyn (Nazwa) values ('Główny')");
+  }
+  std::unique_ptr<T> Nowy(const QString& nazwa, bool sklep = false) {
+    auto kontrahent = std::make_unique<T>(kontekst);
+    kontrahent->Nowy();
+    kontrahent->UstawNazwa(nazwa);
+    kontrahent->UstawSklep(sklep);
+    return kontrahent;
+  }
+  std::unique_ptr<T> Wczytany(int id) {
+    auto kontrahent = std::make_unique<T>(kontekst);
+    kontrahent->Wczytaj(id);
+    return kontrahent;
+  }
+  QString Osoby(int id) {
+    return b.Tekst("select group_concat(Nazwisko) from Osoba where KontrId = " + std::to_string(id));
+  }
+  QString OstatniWpis() { return b.Tekst("select Opis from DziennikZmian order by rowid desc"); }
+
+  BazaTestowa b;
+  ParametrySystemu parametry;
+  KontekstSesji kontekst{b.baza, parametry};
+};
+
+template <typename Praca>
+int KodBledu(Praca praca) {
+  try {
+    praca();
+  } catch (const EVLTWDError& blad) {
+    return blad.MacCode();
+  }
+  return 0;
+}
+
+// Every column gets a value of its own, so that a column read or written in another's place shows.
+TEST_F(Kontrahenci, KazdaKolumnaWracaZBazyPoDodaniuIPoPoprawce) {
+  auto kontrahent = Nowy(u"x"_s, true);
+  int id = -1;
+  for (const int zapis : {1, 2}) {
+    for (std::size_t i = K::AkwId; i <= K::Rezerwa2; ++i) {
+      const int liczba = 100 * zapis + static_cast<int>(i);
+      TMField& pole = kontrahent->Query.Field(i);
+      const TypPola typ = pole.Value().Typ();
+      pole.SetString(typ == TypPola::Czas    ? u"2026-02-0%1 13:14:15"_s.arg(zapis)
+                     : typ == TypPola::Tekst ? u"zażółć 'x' %1"_s.arg(liczba)
+                                             : QString::number(liczba));
+    }
+    kontrahent->UstawNrSklepu(zapis);
+    kontrahent->UstawNrSeryjny(u"SN"_s + QString::number(zapis));
+    kontrahent->UstawMagId(1);
+    const QString wymImport = zapis == 2 ? u"2026-03-04 05:06:07"_s : QString();
+    if (zapis == 2) kontrahent->UstawWymImport(QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC));
+    kontrahent->UstawPelnyImport(zapis == 1);
+    EXPECT_FALSE(kontrahent->TakiSamJakWBazie());
+    id = kontrahent->Zapisz();
+    EXPECT_TRUE(kontrahent->TakiSamJakWBazie());
+
+    const auto jest = Wczytany(id);
+    for (std::size_t i = 0; i < K::kIlosc; ++i)
+      if (i != K::Zmiana && i != K::KolejnyWDniuBO) {  // filled by the database
+        EXPECT_EQ(jest->Query.Field(i).AsString(), kontrahent->Query.Field(i).AsString())
+            << jest->Query.Field(i).FieldName();
+      }
+    EXPECT_EQ(b.Tekst("select WymImport from Sklep"), wymImport);
+    EXPECT_EQ(jest->PelnyImport(), zapis == 1);
+    EXPECT_EQ(jest->TermWaznKarty(), QDate(2026, 2, zapis));
+    EXPECT_FALSE(jest->Zmiana().isEmpty());
+    EXPECT_TRUE(jest->Sklep() && jest->ZakPracChron());
+  }
+  EXPECT_EQ(b.Liczba("select count(*) from Kontrahent"), 1);
+
+  b.baza.ExecSQL(
+      "update Sklep set OstImport = '2026-01-01 01:00:00', DataBO = '2026-01-02 02:00:00', KolejnyWDniuBO = "
+      "3,"
+      " OstEksport = '2026-01-04 04:00:00', PotwEksport = '2026-01-05 05:00:00'");
+  const auto sklep = Wczytany(id);
+  const auto chwila = [](int n) { return QDateTime(QDate(2026, 1, n), QTime(n, 0), Qt::UTC); };
+  EXPECT_EQ(sklep->OstImport(), chwila(1));
+  EXPECT_EQ(sklep->DataBO(), chwila(2));
+  EXPECT_EQ(sklep->KolejnyWDniuBO(), 3);
+  EXPECT_EQ(sklep->OstEksport(), chwila(4));
+  EXPECT_EQ(sklep->PotwEksport(), chwila(5));
+  EXPECT_EQ(sklep->WymImport(), QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC));
+}
+
+TEST_F(Kontrahenci, WartosciKtoreCzytajaSieTakSamoNieSaZmiana) {
+  b.baza.ExecSQL(
+      "insert into Kontrahent (Nazwa, Ulica, Staly, Dostawca, RabatDost, TermWaznKarty) values"
+      " ('A', null, null, 7, 0.1, '2026-01-31 10:00:00')");
+  const auto jest = Wczytany(1);
+  EXPECT_FALSE(jest->Sklep());
+  EXPECT_TRUE(jest->Query.Field(K::NrSklepu).IsNull());
+  jest->UstawUlica({});
+  jest->UstawStaly(false);
+  jest->UstawDostawca(true);
+  jest->UstawRabatDost(0.1 + 1e-9);
+  jest->UstawTermWaznKarty(QDate(2026, 1, 31));
+  jest->UstawSklep(true);
+  EXPECT_FALSE(jest->TakiSamJakWBazie());
+  jest->UstawSklep(false);
+  EXPECT_TRUE(jest->TakiSamJakWBazie());
+  const QString osoby[] = {u"A"_s};
+  jest->UstawOsoby(osoby);
+  EXPECT_FALSE(jest->TakiSamJakWBazie());
+  jest->UstawTermWaznKarty({});
+  jest->Zapisz();
+  EXPECT_FALSE(Wczytany(1)->TermWaznKarty().isValid());
+}
+
+TEST_F(Kontrahenci, OsobyWKolejnosciIBezPowtorzen) {
+  auto kontrahent = Nowy(u"A"_s);
+  const QString osoby[] = {u"Żak"_s, {}, u"Adamek"_s, u" "_s, u"Żak"_s, u"O'Neil"_s};
+  kontrahent->UstawOsoby(osoby);
+  const int id = kontrahent->Zapisz();
+  EXPECT_EQ(Osoby(id), u"Żak,Adamek,O'Neil");
+  b.baza.ExecSQL("insert into Osoba (KontrId, Nazwisko) values (1, 'Adamek')");
+  kontrahent->Wczytaj(id);
+  ASSERT_EQ(kontrahent->IloscOsob(), 3);
+  EXPECT_EQ(kontrahent->Osoba(1), u"Adamek");
+  EXPECT_EQ(KodBledu([&] { kontrahent->Osoba(3); }), 2003);
+  kontrahent->UstawOsoby(std::vector<QString>(kontrahent->Osoby().rbegin(), kontrahent->Osoby().rend()));
+  kontrahent->Zapisz();
+  EXPECT_EQ(Osoby(id), u"O'Neil,Adamek,Żak");
+  kontrahent->UstawOsoby({});
+  kontrahent->Zapisz();
+  EXPECT_EQ(b.Liczba("select count(*) from Osoba"), 0);
+  EXPECT_EQ(Nowy(u"B"_s)->IloscOsob(), 0);
+}
+
+TEST_F(Kontrahenci, WierszSklepuPowstajeZmieniaSieIZnika) {
+  auto a = Nowy(u"A"_s, true);
+  a->UstawNrSklepu(7);
+  const int id = a->Zapisz();
+  auto drugi = Nowy(u"B"_s, true);
+  const int drugiId = drugi->Zapisz();
+  EXPECT_EQ(drugi->NrSklepu(), 8);
+  EXPECT_TRUE(drugi->PelnyImport()) << "memory holds what the new row holds";
+  EXPECT_TRUE(Wczytany(drugiId)->PelnyImport() && Wczytany(drugiId)->NrSklepu() == 8);
+
+  auto trzeci = Nowy(u"C"_s, true);
+  trzeci->UstawNrSklepu(8);
+  EXPECT_EQ(KodBledu([&] { trzeci->Zapisz(); }), 2860);
+  EXPECT_EQ(b.Liczba("select count(*) from Kontrahent"), 2);
+  drugi->UstawNrSklepu(7);
+  try {
+    drugi->Zapisz();
+    ADD_FAILURE() << "taken";
+  } catch (const EVLTWDError& blad) {
+    EXPECT_EQ(blad.MacMessage(), u"Numer sklepu nie jest unikalny");
+    EXPECT_EQ(blad.Detail(), u"[1]: A");
+  }
+
+  b.baza.ExecSQL("insert into Asort (Nazwa) values ('x')");
+  b.baza.ExecSQL("insert into JM (Nazwa) values ('x')");
+  b.baza.ExecSQL("insert into Towar (Nazwa, Skrot, Kod, AsId, JMId) values ('x', 'x', 'x', 1, 1)");
+  b.baza.ExecSQL("insert into SklepFlagi (SklepId, TowId) values (1, 1)");
+  a->UstawSklep(false);
+  a->Zapisz();
+  EXPECT_EQ(b.Liczba("select group_concat(SklepId) from Sklep"), drugiId);
+  a->UstawSklep(true);
+  a->Zapisz();
+  EXPECT_EQ(Wczytany(id)->NrSklepu(), 9) << "a new shop again";
+  b.baza.ExecSQL("delete from SklepFlagi");
+  b.baza.ExecSQL("delete from Sklep where SklepId = 1");
+  a->Zapisz();
+  EXPECT_EQ(Wczytany(id)->NrSklepu(), 9) << "a shop whose row was lost";
+}
+
+TEST_F(Kontrahenci, OdmowyZapisu) {
+  struct Przypadek {
+    int kod;
+    std::function<void(T&)> zmien;
+  };
+  const Przypadek przypadki[] = {{2839, [](T& t) { t.UstawNazwa(u" "_s); }},
+                                 {2006, [](T& t) { t.UstawCzasRealZam(1LL << 31); }},
+                                 {2006, [](T& t) { t.UstawMaxKredyt(1e15); }},
+                                 {2006, [](T& t) { t.UstawNrSklepu(1LL << 31), t.UstawSklep(true); }}};
+  for (const Przypadek& p : przypadki) {
+    auto kontrahent = Nowy(u"A"_s);
+    p.zmien(*kontrahent);
+    EXPECT_EQ(KodBledu([&] { kontrahent->Zapisz(); }), p.kod);
+  }
+  EXPECT_EQ(b.Liczba("select count(*) from Kontrahent"), 0);
+  auto znikniety = Nowy(u"A"_s);
+  znikniety->Zapisz();
+  b.baza.ExecSQL("delete from Kontrahent");
+  EXPECT_EQ(KodBledu([&] { znikniety->Zapisz(); }), 2001);
+  EXPECT_EQ(KodBledu([&] { Wczytany(1); }), 2001);
+}
+
+// Each statement of a save fails in turn: the error passes as it is, nothing stays, the record can be saved.
+TEST_F(Kontrahenci, NieudanyZapisNieZostawiaSladu) {
+  auto kontrahent = Nowy(u"A"_s, true);
+  for (const bool nowy : {true, false}) {
+    const QString osoby[] = {u"A"_s, nowy ? u"B"_s : u"C"_s};
+    kontrahent->UstawOsoby(osoby);
+    kontrahent->UstawMagId(1);
+    kontrahent->UstawNIP(nowy ? u"1"_s : u"2"_s);
+    const QString przed = Osoby(1) + b.Tekst("select NIP from Kontrahent");
+    int ktora = 0;
+    for (bool udany = false; !udany; ++ktora) {
+      int numer = -1;
+      b.baza.StartTransakcji();
+      b.baza.UstawPodsluch([&](std::string_view sql) {
+        if (sql.starts_with("rollback") || numer++ != ktora || sql.starts_with("release")) return;
+        throw EBladBazy(RodzajBleduBazy::Ograniczenie, u"próba"_s, {});
+      });
+      try {
+        kontrahent->Zapisz();
+        udany = true;
+      } catch (const EBladBazy&) {
+      }
+      b.baza.UstawPodsluch({});
+      b.baza.KoniecTransakcji();
+      if (udany) break;
+      EXPECT_EQ(Osoby(1) + b.Tekst("select NIP from Kontrahent"), przed) << ktora;
+      EXPECT_EQ(kontrahent->CzyNowy(), nowy);
+      EXPECT_EQ(b.Liczba("select count(*) from Sklep"), nowy ? 0 : 1);
+    }
+    EXPECT_GE(ktora, 7);
+    EXPECT_EQ(Osoby(1), nowy ? u"A,B" : u"A,C");
+    EXPECT_TRUE(Wczytany(1)->Sklep());
+  }
+}
+
+TEST_F(Kontrahenci, DziennikMowiCoSieZmienilo) {
+  auto kontrahent = Nowy(u"A"_s, true);
+  kontrahent->UstawDostawca(true);
+  kontrahent->UstawKodKarty(u"123"_s);
+  const int id = kontrahent->Zapisz();
+  EXPECT_EQ(OstatniWpis(), u"Nowy kontrahent: dostawca, sklep, karta '123'");
+  kontrahent->UstawNazwa(u"B"_s);
+  kontrahent->UstawAkwId(5);
+  kontrahent->UstawDostawca(false);
+  kontrahent->UstawUlica(u"Długa"_s);
+  kontrahent->Zapisz();
+  EXPECT_EQ(OstatniWpis(), u"Zmiana kontrahenta: nazwa z 'A' na 'B', grupa kont z '0' na '5', dostawca: nie");
+  EXPECT_EQ(b.Liczba("select count(*) from DziennikZmian where Tabela = 7 and Id1 = 1"), 2);
+
+  kontrahent->UstawMiasto(u"czeka"_s);
+  kontrahent->Usun();
+  EXPECT_EQ(b.Tekst("select Aktywny || Miasto from Kontrahent"), u"0");
+  EXPECT_EQ(KodBledu([&] { kontrahent->Usun(); }), 2802);
+  kontrahent->Wczytaj(id);
+  kontrahent->Przywroc();
+  EXPECT_TRUE(kontrahent->TakiSamJakWBazie() && Wczytany(id)->Aktywny());
+  EXPECT_EQ(KodBledu([&] { kontrahent->Przywroc(); }), 2803);
+}
+
+TEST_F(Kontrahenci, ListaPoIdentyfikatorzeZUsunietymi) {
+  for (const QString& nip : {u"9"_s, u"1-2"_s}) {
+    auto kontrahent = Nowy(u"K"_s + nip);
+    kontrahent->UstawNIP(nip);
+    kontrahent->UstawAktywny(nip != u"9");
+    kontrahent->Zapisz();
+  }
+  TDmVLTListaKontrahentow lista(kontekst);
+  lista.Otworz();
+  ASSERT_EQ(lista.Ilosc(), 2);
+  EXPECT_EQ(lista.NIP(), u"9");
+  auto trzeci = Nowy(u"K"_s);
+  trzeci->UstawNIP(u"3"_s);
+  lista.DodajElement(trzeci->Zapisz());
+  EXPECT_EQ(lista.IdBiezacego(), 3);
+  EXPECT_EQ(lista.NIP(), u"3");
+}
+
+}  // namespace
