@@ -5,6 +5,7 @@
 #include "app/przerwanie.h"
 #include "app/srodowisko.h"
 #include "app/terminal.h"
+#include "goods/eksport_towarow.h"
 #include "goods/import_towarow.h"
 #include "model/bufor_towarow.h"
 #include "model/kontekst.h"
@@ -21,6 +22,12 @@ WynikPrzebiegu UruchomImportTowarow(const ParametryPrzebiegu& parametry, Ustawie
   TVLTBuforTowarow bufor;
   return ImportujTowary(parametry, ustawienia.importTow, bufor);
 }
+
+WynikPrzebiegu UruchomEksportTowarow(const ParametryPrzebiegu& parametry, Ustawienia& ustawienia) {
+  return EksportujTowary(parametry, ustawienia.eksportTow);
+}
+
+constexpr PozycjaJson kLicznikiEksportu[] = {{u"rekordow", Licznik::Rekordy}};
 
 constexpr PozycjaJson kLicznikiTowarow[] = {
     {u"rekordow", Licznik::Rekordy},
@@ -41,6 +48,11 @@ const Operacja kOperacje[] = {
      u"Bez nazwy pliku importuje plik z ustawienia ParNazwaPlikuImportuTow.", u"Import towarów",
      Kierunek::Import, &Ustawienia::plikImportuTow, &Ustawienia::strukturaTow, kLicznikiTowarow,
      UruchomImportTowarow},
+    {u"eksport-towarow", u"eksportuje wszystkie towary z bazy do pliku",
+     u"Bez nazwy pliku eksportuje do pliku z ustawienia ParNazwaPlikuEksportuTow.\n"
+     u"Istniejący plik nadpisuje.",
+     u"Eksport towarów", Kierunek::Eksport, &Ustawienia::plikEksportuTow, &Ustawienia::strukturaTow,
+     kLicznikiEksportu, UruchomEksportTowarow},
 };
 
 // The run, from the settings to its result; refused when it could not begin.
@@ -88,14 +100,14 @@ QString Podsumowanie(const Operacja& operacja, const OpisKonca& koniec, const Wy
   QString tekst = u"%1: %2"_s.arg(Napis(operacja.tytul), Napis(koniec.dlaLudzi));
   if (wynik.koniec == KoniecPrzebiegu::Odmowa) return tekst + u'\n';
   const auto ile = [&](Licznik licznik) { return wynik.liczniki[licznik]; };
-  tekst +=
-      u" po %1 s. Rekordów: %2, dodanych: %3, poprawionych: %4, pominiętych: %5 (w tym bez zmian: %6).\n"_s
-          .arg(QString::number(wynik.sekund, 'f', 1).replace(u'.', u','))
-          .arg(ile(Licznik::Rekordy))
-          .arg(ile(Licznik::Dodane))
-          .arg(ile(Licznik::Poprawione))
-          .arg(ile(Licznik::Pominiete))
-          .arg(ile(Licznik::BezZmian));
+  tekst += u" po %1 s. Rekordów: %2"_s.arg(QString::number(wynik.sekund, 'f', 1).replace(u'.', u','))
+               .arg(ile(Licznik::Rekordy));
+  if (operacja.kierunek == Kierunek::Eksport) return tekst + u".\n"_s;
+  tekst += u", dodanych: %1, poprawionych: %2, pominiętych: %3 (w tym bez zmian: %4).\n"_s
+               .arg(ile(Licznik::Dodane))
+               .arg(ile(Licznik::Poprawione))
+               .arg(ile(Licznik::Pominiete))
+               .arg(ile(Licznik::BezZmian));
   if (!wynik.plikPominietych.isEmpty()) tekst += u"Pominięte rekordy: %1\n"_s.arg(wynik.plikPominietych);
   return tekst;
 }

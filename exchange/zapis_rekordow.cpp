@@ -35,7 +35,8 @@ void ZapisRekordow::Pole(QStringView tekst) {
   NastepnePole();
   const size_t od = m_linia.size();
   m_brakujacychTeraz += windows1250::Dopisz(tekst, m_linia);
-  if (m_linia.find_first_of("\r\n", od) != std::string::npos) UsunZlamania(m_linia, od);
+  if (m_linia.find('\n', od) != std::string::npos || m_linia.find('\r', od) != std::string::npos)
+    UsunZlamania(m_linia, od);
 }
 
 void ZapisRekordow::PoleAscii(std::string_view tekst) {

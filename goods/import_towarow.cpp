@@ -34,7 +34,7 @@ constexpr PozycjaPodsumowania kPodsumowanie[] = {
     {Licznik::FormatyKodowWazonych, u"Ilość dodanych formatów kodów ważonych"},
 };
 
-constexpr OpisPrzebiegu kOpis{u"POMINIETE.TXT", u"zamykanie pliku importu", u"Aktualizację zakończono",
+constexpr OpisPrzebiegu kOpis{kPominieteTowary, u"zamykanie pliku importu", u"Aktualizację zakończono",
                               kPodsumowanie};
 
 // What the records of one run share. Made when the database is connected and the file accepted.

@@ -23,14 +23,14 @@ double Ulamek(int stawka) {
   return stawka * 0.0001;
 }
 
-// Half a unit goes away from zero; the tiny excess covers decimal halves that binary numbers hold a hair too
+}  // namespace
+
+// The tiny excess covers decimal halves that binary numbers hold a hair too
 // low.
 double Zaokraglij(double kwota, int miejsc) {
   const double skala = std::pow(10.0, miejsc);
   return std::round(kwota * skala * (1 + 1e-12)) / skala;
 }
-
-}  // namespace
 
 int TVLTStawkiVat::Stawka(int index) const {
   if (index < 0 || index >= Ilosc()) throw EVLTWDError(2003, nullptr, QString::number(index));

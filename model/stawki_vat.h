@@ -45,6 +45,9 @@ QString StawkaNaTekst(int stawka, bool zProcentem);
 // with "ZW" in any letter case is the exempt rate. 2401 for anything unreadable or out of range.
 int TekstNaStawke(QStringView tekst);
 
+// Half a unit goes away from zero.
+double Zaokraglij(double kwota, int miejsc);
+
 double BruttoZNetto(double netto, int stawka);
 double NettoZBrutto(double brutto, int stawka);
 double VatZNetto(double netto, int stawka);

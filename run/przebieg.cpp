@@ -100,6 +100,10 @@ KoniecPrzebiegu Przebieg::PrzerwanoPrzezOperatora() {
 }
 
 void Przebieg::OglosBlad(const QString& naglowek, const QString& tekst) {
+  if (!m_opis.poBledzie.empty()) {
+    m_postep.Pokaz(naglowek, tekst + u'\n' + Tekst(m_opis.poBledzie));
+    return;
+  }
   const long long rekordow = m_liczniki[Licznik::Rekordy];
   m_postep.Pokaz(naglowek, tekst + (rekordow == 0 ? u"\nNie zapisano w bazie wyniku żadnego rekordu."_s
                                                   : u"\nZapisano w bazie wynik pracy do rekordu "_s +

@@ -52,6 +52,8 @@ struct OpisPrzebiegu {
   std::u16string_view zamykaniePliku;   // phase line
   std::u16string_view zakonczono;       // text of the last message box
   std::span<const PozycjaPodsumowania> podsumowanie;
+  // What a fault leaves behind, said below the fault; empty: the records whose result the database holds.
+  std::u16string_view poBledzie = {};
 };
 
 enum class PoRekordzie { Dalej, Stop };

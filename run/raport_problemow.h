@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include <QString>
 
@@ -10,6 +11,11 @@
 
 class IPostep;
 class Liczniki;
+
+// Names of the skipped-records files of all run kinds; nothing else may be written over them.
+inline constexpr std::u16string_view kPominieteTowary = u"POMINIETE.TXT";
+inline constexpr std::u16string_view kPominieciKontrahenci = u"POMINIECI.TXT";
+inline constexpr std::u16string_view kPlikiPominietych[] = {kPominieteTowary, kPominieciKontrahenci};
 
 // The skipped-records file of a run: one line "code | name | message" per problem, in Windows-1250. Lines
 // belong to the open batch: they are written when it commits and forgotten when it is lost. Order of calls:

@@ -1,0 +1,201 @@
+#include "goods/wiersz_towaru.h"
+
+#include <cstdint>
+
+#include "exchange/format_liczb.h"
+#include "exchange/zapis_rekordow.h"
+#include "goods/odczyt_towarow.h"
+#include "goods/opcje_towarow.h"
+#include "goods/slowniki_eksportu.h"
+#include "model/stawki_vat.h"
+#include "model/towar.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using P = PoleEksportu;
+using Opcje = OpcjeEksportuTowarow;
+
+const Wartosc& Pole(const WierszTowaru& w, P::Numer pole) {
+  return (*w.towar.wiersz)[pole];
+}
+
+void WpiszTekst(WierszTowaru& w, const QString& tekst) {
+  w.zapis.Pole(tekst);
+  if (tekst.isEmpty()) return;
+  for (const QChar znak : tekst) {
+    if (znak == u'\t') w.powod = u"tabulator";
+    if (znak == u'\n' || znak == u'\r') w.powod = u"koniec wiersza";
+  }
+}
+
+// A text that an import takes without the blanks around it.
+void WpiszNazwe(WierszTowaru& w, const QString& nazwa) {
+  WpiszTekst(w, nazwa);
+  if (!nazwa.isEmpty() && (nazwa.front().isSpace() || nazwa.back().isSpace())) w.powod = u"odstęp na brzegu";
+}
+
+void WpiszLiczbe(WierszTowaru& w, double liczba) {
+  w.zapis.PoleAscii(FormatLiczby(liczba, w.separatorDziesietny));
+}
+
+void WpiszCalkowita(WierszTowaru& w, long long liczba) {
+  w.zapis.PoleAscii(std::to_string(liczba));
+}
+
+template <P::Numer Numer>
+void Tekst(WierszTowaru& w) {
+  WpiszTekst(w, Pole(w, Numer).AsString());
+}
+
+template <P::Numer Numer>
+void Nazwa(WierszTowaru& w) {
+  WpiszNazwe(w, Pole(w, Numer).AsString());
+}
+
+template <P::Numer Numer>
+void Liczba(WierszTowaru& w) {
+  WpiszLiczbe(w, Pole(w, Numer).AsFloat());
+}
+
+template <P::Numer Numer>
+void Calkowita(WierszTowaru& w) {
+  WpiszCalkowita(w, Pole(w, Numer).AsInteger());
+}
+
+// A fraction in the database, a percentage in the file.
+template <P::Numer Numer>
+void Procent(WierszTowaru& w) {
+  if (w.opcje.cb_eksportBezMarz)
+    w.zapis.PoleAscii(kLiczbaNiewysylana);
+  else
+    WpiszLiczbe(w, Pole(w, Numer).AsFloat() * 100);
+}
+
+// Prices are stored net. The rate is looked at as 16 bits without a sign, so that the exempt one is 65535 and
+// adds nothing.
+template <P::Numer Numer, PoziomCeny Opcje::*Poziom>
+void Cena(WierszTowaru& w) {
+  if (w.opcje.cb_eksportBezCen) {
+    w.zapis.PoleAscii(kLiczbaNiewysylana);
+    return;
+  }
+  const double netto = Pole(w, Numer).AsFloat();
+  const auto stawka = static_cast<std::uint16_t>(Pole(w, P::Stawka).AsInteger());
+  const bool brutto = w.opcje.*Poziom != PoziomCeny::Netto && stawka > 0 && stawka < 65535;
+  WpiszLiczbe(w, brutto ? Zaokraglij(netto * (1 + stawka * 0.0001), 2) : netto);
+}
+constexpr auto kZakup = &Opcje::cb_poziomCenyZakupuEksp;
+constexpr auto kSprzedaz = &Opcje::cb_poziomCenSprzedazyEksp;
+
+void Kod(WierszTowaru& w) {
+  const QString kod = w.opcje.cb_eksportBezKodow ? QString() : Pole(w, P::Kod).AsString();
+  WpiszNazwe(w, kod);
+  if (kod.startsWith(u'#') || kod.startsWith(u"//"_s)) w.powod = u"kod czytany jako komentarz";
+}
+
+void Typ(WierszTowaru& w) {
+  const long long typ = Pole(w, P::TypTowaru).AsInteger();
+  const bool znany = typ >= static_cast<int>(TypTowaru::Towar) && typ <= static_cast<int>(TypTowaru::Usluga);
+  WpiszCalkowita(w, znany ? typ : 0);
+}
+
+void Asortyment(WierszTowaru& w) {
+  WpiszNazwe(w, w.slowniki.Asortyment(Pole(w, P::AsId).AsInteger()));
+}
+
+void Jednostka(WierszTowaru& w) {
+  WpiszNazwe(w, w.slowniki.Jednostka(Pole(w, P::JMId).AsInteger()));
+}
+
+void WpiszBlok(WierszTowaru& w, const QString& blok, bool znakiBloku) {
+  WpiszTekst(w, blok);
+  if (znakiBloku) w.powod = u"znaki bloku w nazwie";
+}
+
+void KodyDodatkoweTowaru(WierszTowaru& w) {
+  QString blok;
+  bool znakiBloku = false;
+  if (!w.opcje.cb_eksportBezKodow)
+    for (const KodDodatkowy& kod : w.towar.kody) {
+      if (!blok.isEmpty()) blok += u';';
+      blok += u'(' + kod.kod + u'|' + kod.skrot + u'|' + QString::number(kod.prefPLU) + u')';
+      znakiBloku |= GinieWBloku(kod.kod, u"(|)") || GinieWBloku(kod.skrot, u"(|)");
+    }
+  WpiszBlok(w, blok, znakiBloku);
+}
+
+void Kategoria(WierszTowaru& w) {
+  const KategoriaEksportu* kategoria =
+      w.opcje.cb_eksportBezKategorii ? nullptr : w.slowniki.Kategoria(Pole(w, P::KatId).AsInteger());
+  WpiszBlok(w, kategoria ? kategoria->Blok(w.towar.wartosci) : QString(),
+            kategoria && kategoria->ZnakiBloku());
+}
+
+void Stan(WierszTowaru& w) {
+  if (w.towar.stan)
+    WpiszLiczbe(w, *w.towar.stan);
+  else
+    w.zapis.PoleAscii({});
+}
+
+void NipProducenta(WierszTowaru& w) {
+  WpiszNazwe(w, w.slowniki.Nip(Pole(w, P::Producent).AsInteger()));
+}
+
+void NipyDostawcow(WierszTowaru& w) {
+  QString blok;
+  bool znakiBloku = false;
+  for (const int kontrId : w.towar.dostawcy) {
+    const QString& nip = w.slowniki.Nip(kontrId);
+    if (nip.isEmpty()) continue;
+    blok += blok.isEmpty() ? u'(' : u'|';
+    blok += nip;
+    znakiBloku |= GinieWBloku(nip, u"(|;)");
+  }
+  if (!blok.isEmpty()) blok += u')';
+  WpiszBlok(w, blok, znakiBloku);
+}
+
+constexpr KolumnaEksportu kKolumny[] = {
+    {u"Kod towaru", Kod},
+    {u"Nazwa towaru", Nazwa<P::Nazwa>},
+    {u"Skrót (nazwa na kasach)", Nazwa<P::Skrot>},
+    {u"Typ towaru", Typ},
+    {u"Indeks1 (SWW)", Tekst<P::Indeks1>},
+    {u"Indeks2 (PKWiU)", Tekst<P::Indeks2>},
+    {u"Opis 1", Tekst<P::Opis1>},
+    {u"Opis 2", Tekst<P::Opis2>},
+    {u"Opis 3", Tekst<P::Opis3>},
+    {u"Opis 4", Tekst<P::Opis4>},
+    {u"Ilość w opakowaniu zbiorczym", Liczba<P::IleWZgrzewce>},
+    {u"Ile kilogramów/litrów", Liczba<P::IleWCalosci>},
+    {u"Termin ważności", Calkowita<P::TermWazn>},
+    {u"Preferowany numer na kasie", Calkowita<P::PrefPLU>},
+    {u"Marża", Procent<P::Marza>},
+    {u"Rabat hurtowy", Procent<P::HurtRabat>},
+    {u"Narzut nocny", Procent<P::NocNarzut>},
+    {u"Cena ewidencyjna", Cena<P::CenaEw, kZakup>},
+    {u"Cena detaliczna (netto)", Cena<P::CenaDet, kSprzedaz>},
+    {u"Cena hurtowa", Cena<P::CenaHurt, kSprzedaz>},
+    {u"Cena nocna", Cena<P::CenaNoc, kSprzedaz>},
+    {u"Cena dodatkowa", Cena<P::CenaDod, kSprzedaz>},
+    {u"Cena otwarta", Calkowita<P::CenaOtwarta>},
+    {u"Stawka VAT", Calkowita<P::Stawka>},
+    {u"Nazwa asortymentu", Asortyment},
+    {u"Jednostka", Jednostka},
+    {u"Kody dodatkowe", KodyDodatkoweTowaru},
+    {u"Kategoria i parametry", Kategoria},
+    {u"Stan", Stan},
+    {u"NIP producenta", NipProducenta},
+    {u"NIP-y dostawców", NipyDostawcow},
+    {u"Status towaru", Calkowita<P::Aktywny>},
+};
+static_assert(std::size(kKolumny) == 32);
+
+}  // namespace
+
+std::span<const KolumnaEksportu> KolumnyTowaru() {
+  return kKolumny;
+}

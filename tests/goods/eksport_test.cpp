@@ -1,0 +1,281 @@
+#include "goods/eksport_towarow.h"
+#include "tests/goods/import_testowy.h"
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+const QString kKoniec = u"Koniec: Eksport zakończono"_s;
+
+class EksportTest : public testing::Test, protected ImportTestowy {
+ protected:
+  // One good with everything, one with nothing that is not needed (deleted), one that is exempt from tax.
+  EksportTest() {
+    for (const char* sql :
+         {"insert into Magazyn (Nazwa) values ('Sklep'), ('Hurtownia')",
+          "insert into Asort (Nazwa) values ('Nabiał')", "insert into JM (Nazwa, Precyzja) values ('kg', 3)",
+          "insert into Kontrahent (Nazwa, NIP) values ('P', '111-11'), ('D', '222'), ('E', ' 333 '), ('B', "
+          "'')",
+          "insert into Kategoria (Nazwa) values ('Sery')",
+          "insert into Parametr (Nazwa, Typ, Od, Do) values ('Smak', 0, 0, 0), ('Dni', 1, -2, 30), ('?', 2, "
+          "0, 0)",
+          "insert into ParWartosc values (1, 0, 'słodki'), (1, 1, 'słony')",
+          "insert into KatParam values (1, 2, 0), (1, 1, 1)",
+          "insert into Towar (Kod, Nazwa, Skrot, TypTowaru, Indeks1, Indeks2, Opis1, Opis2, Opis3, Opis4,"
+          " IleWZgrzewce, IleWCalosci, TermWazn, PrefPLU, Marza, HurtRabat, NocNarzut, CenaEw, CenaDet, "
+          "CenaHurt,"
+          " CenaNoc, CenaDod, CenaOtwarta, Stawka, AsId, JMId, KatId, Producent, Aktywny) values ('5900001',"
+          " 'Ser \"żółty\" 100%', 'SER', 1, 'i1', 'i2', 'o''1', ' o2 ', '', 'o4', 12.5, 0.25, 14, 7, 0.123, "
+          "0.05,"
+          " 0.1, 9.99, 10, 1.005, 0, 3, 1, 800, 1, 1, 1, 1, 1),"
+          " ('0A', 'Ser dawny', 'SD', 9, '', '', '', '', '', '', 0, 0, 0, 0, 0, 0, 0, 1, 2, 0, 0, 0, 0, "
+          "2300, 1, 1,"
+          " null, null, 0),"
+          " ('5900003', 'Ćma', 'Ć', 2, '', '', '', '', '', '', 0, 0, 0, 0, 0, 0, 0, 1, 10, 0, 0, 0, 0, -1, "
+          "1, 1,"
+          " null, null, 1)",
+          "insert into KodDod (TowId, Kolejnosc, Kod, Skrot, PrefPLU) values (1, 1, '5900012', 'SERŁ', 3),"
+          " (1, 5, '5900013', 'S2', 0)",
+          "insert into TowWartosc values (1, 1, 1), (1, 2, -1)",
+          "insert into TowDostawca values (1, 4, 0), (1, 3, 1), (1, 2, 2)",
+          "update Istw set StanMag = 2.5004, BlokadaMag = 1 where TowId = 1 and MagId = 1",
+          "update Istw set StanMag = -1 where TowId = 1 and MagId = 2"})
+      b.baza.ExecSQL(sql);
+  }
+
+  WynikPrzebiegu Eksportuj() { return Eksportuj(Plik()); }
+  WynikPrzebiegu Eksportuj(const QString& plik) {
+    postep = {};
+    return EksportujTowary({sesja, struktura, plik, postep, *oper, stop, separator, folder.path()}, eksport);
+  }
+  QString Plik() const { return folder.filePath(u"eksport.txt"_s); }
+
+  // Fields of the lines; the header is line 0.
+  std::vector<QStringList> Linie() const {
+    const QByteArray bajty = Zawartosc(Plik());
+    const QString tekst = windows1250::NaUnicode({bajty.data(), static_cast<std::size_t>(bajty.size())});
+    std::vector<QStringList> linie;
+    EXPECT_TRUE(tekst.endsWith(u"\r\n"_s));
+    for (const QString& linia : tekst.chopped(2).split(u"\r\n"_s)) linie.push_back(linia.split(u'\t'));
+    return linie;
+  }
+
+  // Everything that a goods import could change, in one text.
+  QString Baza() {
+    QString zrzut;
+    for (const std::string tabela :
+         {"Towar", "KodDod", "TowWartosc", "TowDostawca", "Istw", "Asort", "JM", "Kategoria", "KatParam",
+          "Parametr", "ParWartosc", "Vat", "DziennikZmian"}) {
+      QStringList kolumny;
+      for (auto odczyt =
+               b.baza.Otworz("select name from pragma_table_info('" + tabela + "')", {TypPola::Tekst});
+           odczyt.Nastepny();)
+        kolumny << u"coalesce("_s + odczyt[0].AsString() + u",'-')"_s;
+      zrzut += b.Tekst("select group_concat(w, ' ') from (select " +
+                       kolumny.join(u"||'|'||"_s).toStdString() + " as w from " + tabela + " order by 1)");
+    }
+    return zrzut;
+  }
+
+  OpcjeEksportuTowarow eksport;
+};
+
+TEST_F(EksportTest, FazyIKolejnosc) {
+  const WynikPrzebiegu wynik = Eksportuj();
+  EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Zakonczono);
+  EXPECT_EQ(wynik.liczniki[Licznik::Rekordy], 3);
+  EXPECT_EQ(postep.linie, (QStringList{u"łączenie z bazą VLT Win"_s, u"przygotowanie bufora towarów"_s,
+                                       u"eksport bazy towarów3"_s, u"zamykanie pliku eksportu"_s, kKoniec}));
+  const auto linie = Linie();
+  ASSERT_EQ(linie.size(), 4u);
+  EXPECT_EQ(linie[1].join(u'^'),
+            u"5900001^Ser \"żółty\" 100%^SER^1^i1^i2^o'1^ o2 ^^o4^12.500000^0.250000^14^7^12.300000^5.000000"
+            "^10.000000^9.990000^10.000000^1.005000^0.000000^3.000000^1^800^Nabiał^kg^(5900012|SERŁ|3);"
+            "(5900013|S2|0)^Sery: Dni(-1:-2..30);Smak(2:słodki|słony)^^111-11^(333|222)^1"_s);
+  EXPECT_EQ(linie[0].join(u'^'),
+            u"Kod towaru^Nazwa towaru^Skrót (nazwa na kasach)^Typ towaru^Indeks1 (SWW)^Indeks2 (PKWiU)^Opis "
+            u"1^Opis 2"
+            "^Opis 3^Opis 4^Ilość w opakowaniu zbiorczym^Ile kilogramów/litrów^Termin ważności^Preferowany "
+            "numer na "
+            "kasie^Marża^Rabat hurtowy^Narzut nocny^Cena ewidencyjna^Cena detaliczna (netto)^Cena "
+            "hurtowa^Cena nocna"
+            "^Cena dodatkowa^Cena otwarta^Stawka VAT^Nazwa asortymentu^Jednostka^Kody dodatkowe^Kategoria i "
+            "parametry"
+            "^Stan^NIP producenta^NIP-y dostawców^Status towaru"_s);
+  for (const auto& [linia, pole, tekst] :
+       {std::tuple{2, 3, u"0"_s}, {2, 27, u""_s}, {2, 30, u""_s}, {2, 31, u"0"_s}, {3, 23, u"-1"_s}})
+    EXPECT_EQ(linie[static_cast<std::size_t>(linia)][pole], tekst) << linia << '/' << pole;
+}
+
+TEST_F(EksportTest, Opcje) {
+  using O = OpcjeEksportuTowarow;
+  const struct {
+    void (*ustaw)(O&);
+    char separator;
+    int linia, pole;
+    QString tekst;
+  } przypadki[] = {
+      {[](O&) {}, ',', 1, 10, u"12,5"_s},
+      {[](O&) {}, ',', 1, 15, u"5,0"_s},
+      {[](O& o) { o.cb_eksportBezCen = true; }, ',', 1, 17, u"0.00"_s},
+      {[](O& o) { o.cb_eksportBezCen = true; }, ',', 1, 21, u"0.00"_s},
+      {[](O& o) { o.cb_eksportBezCen = true; }, ',', 1, 14, u"12,3"_s},
+      {[](O& o) { o.cb_eksportBezMarz = true; }, ',', 1, 16, u"0.00"_s},
+      {[](O& o) { o.cb_eksportBezMarz = true; }, ',', 1, 17, u"9,99"_s},
+      {[](O& o) { o.cb_eksportBezKodow = true; }, '.', 1, 0, u""_s},
+      {[](O& o) { o.cb_eksportBezKodow = true; }, '.', 1, 26, u""_s},
+      {[](O& o) { o.cb_eksportBezKategorii = true; }, '.', 1, 27, u""_s},
+      {[](O& o) { o.cb_poziomCenyZakupuEksp = PoziomCeny::Brutto; }, ',', 1, 17, u"10,79"_s},
+      {[](O& o) { o.cb_poziomCenyZakupuEksp = PoziomCeny::Brutto; }, ',', 1, 18, u"10,0"_s},
+      {[](O& o) { o.cb_poziomCenSprzedazyEksp = PoziomCeny::Brutto; }, ',', 1, 18, u"10,8"_s},
+      {[](O& o) { o.cb_poziomCenSprzedazyEksp = PoziomCeny::Brutto; }, ',', 1, 19, u"1,09"_s},
+      {[](O& o) { o.cb_poziomCenSprzedazyEksp = PoziomCeny::Brutto; }, ',', 3, 18, u"10,0"_s},
+      {[](O& o) { o.CBEksportStanow = 1; }, '.', 1, 28, u"1.500400"_s},
+      {[](O& o) { o.CBEksportStanow = 2; }, ',', 1, 28, u"2,5"_s},
+      {[](O& o) { o.CBEksportStanow = 3; }, ',', 1, 28, u"-1,0"_s},
+      {[](O& o) { o.CBEksportStanow = 4; }, ',', 1, 28, u"0,0"_s},
+  };
+  for (const auto& p : przypadki) {
+    SCOPED_TRACE(&p - przypadki);
+    eksport = {};
+    p.ustaw(eksport);
+    separator = p.separator;
+    Eksportuj();
+    const QStringList pola = Linie()[static_cast<std::size_t>(p.linia)];
+    EXPECT_EQ(pola.size(), 32);
+    EXPECT_EQ(pola[p.pole], p.tekst);
+  }
+  // A parameter that is neither a list nor a range, and a value that is not stored.
+  b.baza.ExecSQL("insert into KatParam values (1, 3, 2)");
+  b.baza.ExecSQL("delete from TowWartosc");
+  eksport = {};
+  Eksportuj();
+  EXPECT_EQ(Linie()[1][27], u"Sery: Dni(0:-2..30);Smak(1:słodki|słony);?()"_s);
+}
+
+TEST_F(EksportTest, ImportTegoSamegoPlikuNicNieZmienia) {
+  struktura = StrukturaPliku(RodzajRekordu::Towary);
+  struktura.PrzyjmijTypPliku(TypPliku::Zorvik);
+  for (int pole = PoleTowaru::Nazwa; pole < PoleTowaru::LiczbaWartosci; ++pole)
+    struktura.UstawOferowane(pole, true);
+  opcje.EdKodyKrotkie = u"0"_s;
+  opcje.UpDownMaxDlugoscKodu = 20;
+  opcje.cb_KodyZaczynajaceSieOdZera = opcje.cb_KodyZawierajaceLitery = opcje.cb_KodyWazone = true;
+  opcje.cb_akceptujKodyWlasneEAN = true;
+  opcje.towarZTaSamaNazwa = TowarZTaSamaNazwa::RBDodajTowarZTaSamaNazwa;
+  const QString przed = Baza();
+  for (const char znak : {'.', ','}) {
+    SCOPED_TRACE(znak);
+    separator = znak;
+    Eksportuj();
+    const WynikPrzebiegu wynik = ImportujTowary(
+        {sesja, struktura, Plik(), postep, *oper, stop, separator, folder.path()}, opcje, bufor);
+    EXPECT_EQ(wynik.liczniki[Licznik::Rekordy], 3);
+    EXPECT_EQ(wynik.liczniki[Licznik::BezZmian], 3) << Pominiete().join(u" # "_s).toStdString();
+    EXPECT_EQ(Baza(), przed);
+  }
+}
+
+TEST_F(EksportTest, MowiOTymCoNieWroci) {
+  const struct {
+    const char* sql;
+    QString powod;  // empty: a character was lost
+  } przypadki[] = {
+      {"update Towar set Opis1 = 'a' || char(9) || 'b' where TowId = 3", u"tabulator"_s},
+      {"update Towar set Indeks2 = char(13) || char(10) where TowId = 3", u"koniec wiersza"_s},
+      {"update Towar set Skrot = ' a' where TowId = 3", u"odstęp na brzegu"_s},
+      {"update Towar set Kod = '#1' where TowId = 3", u"kod czytany jako komentarz"_s},
+      {"update Towar set Kod = '//1' where TowId = 3", u"kod czytany jako komentarz"_s},
+      {"insert into KodDod (TowId, Kolejnosc, Kod) values (3, 1, '1|2')", u"znaki bloku w nazwie"_s},
+      {"update Towar set Opis3 = '€Ω' where TowId = 3", u""_s},
+      {"update Towar set KatId = 2 where TowId = 3", u"znaki bloku w nazwie"_s},
+  };
+  for (const auto& p : przypadki) {
+    SCOPED_TRACE(p.sql);
+    b.baza.ExecSQL("savepoint p");
+    b.baza.ExecSQL("insert into Kategoria (Nazwa) values ('a:b')");
+    b.baza.ExecSQL(p.sql);
+    const QString towar = b.Tekst("select Kod || ' Ćma' from Towar where TowId = 3");
+    Eksportuj();
+    b.baza.ExecSQL("rollback to p");
+    b.baza.ExecSQL("release p");
+    const qsizetype poKoncu = postep.linie.indexOf(kKoniec) + 1;
+    EXPECT_EQ(
+        postep.linie.value(poKoncu),
+        p.powod.isEmpty()
+            ? u"UWAGA: Rekordy ze znakami spoza strony kodowej Windows-1250, zapisanymi jako \"?\": 1\nSą to: "_s +
+                  towar
+            : u"UWAGA: Rekordy, których import nie odczyta takimi, jakie są w bazie: 1\nSą to: %1 (%2)"_s.arg(
+                  towar, p.powod));
+  }
+}
+
+TEST_F(EksportTest, OdmawiaPlikuKtoregoNieWolnoNadpisac) {
+  QFile pominiete(folder.filePath(u"POMINIETE.TXT"_s));
+  ASSERT_TRUE(pominiete.open(QIODevice::WriteOnly) && pominiete.write("x") == 1);
+  pominiete.close();
+  QFile::link(pominiete.fileName(), folder.filePath(u"dowiązanie"_s));
+  const std::pair<QString, QString> przypadki[] = {
+      {pominiete.fileName(), u"jest plikiem pominiętych rekordów"_s},
+      {folder.filePath(u"../x/../POMINIETE.TXT"_s), u"Błąd otwarcia pliku"_s},
+      {folder.filePath(u"dowiązanie"_s), u"jest plikiem pominiętych rekordów"_s},
+      {folder.filePath(u"POMINIECI.TXT"_s), u"jest plikiem pominiętych rekordów"_s},
+      {b.Sciezka(), u"jest plikiem bazy danych"_s},
+      {folder.path(), u"Błąd otwarcia pliku"_s},
+      {QString(), u"Błąd otwarcia pliku"_s}};
+  for (const auto& [plik, odmowa] : przypadki) {
+    SCOPED_TRACE(plik.toStdString());
+    const WynikPrzebiegu wynik = Eksportuj(plik);
+    EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Odmowa);
+    EXPECT_TRUE(postep.linie.join(u' ').contains(odmowa)) << postep.linie.join(u' ').toStdString();
+  }
+  EXPECT_EQ(Zawartosc(pominiete.fileName()), "x");
+  EXPECT_EQ(b.Liczba("select count(*) from Towar"), 3);
+}
+
+TEST_F(EksportTest, BladNigdyNieKonczySieZakonczeniem) {
+  const auto blad = [&](const WynikPrzebiegu& wynik, const QString& tekst) {
+    EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Blad);
+    EXPECT_FALSE(postep.linie.contains(kKoniec));
+    EXPECT_TRUE(postep.linie.join(u' ').contains(tekst)) << postep.linie.join(u' ').toStdString();
+    EXPECT_TRUE(postep.linie.join(u' ').contains(u"Plik eksportu jest niepełny."_s));
+  };
+  // Three goods fill the file when it is closed, a long text does it earlier.
+  for (const char* sql :
+       {"update Towar set Opis4 = ''", "update Towar set Opis4 = hex(zeroblob(200000)) where TowId = 1"}) {
+    b.baza.ExecSQL(sql);
+    const WynikPrzebiegu wynik = Eksportuj(u"/dev/full"_s);
+    blad(wynik, u"Błąd zapisu do pliku /dev/full"_s);
+    EXPECT_EQ(wynik.liczniki[Licznik::Rekordy], 0);
+  }
+  int polecen = 0;
+  b.baza.UstawPodsluch([&](std::string_view) { ++polecen; });
+  Eksportuj();
+  for (int ktore = 1; ktore < polecen; ++ktore) {  // the last one moves the log
+    SCOPED_TRACE(ktore);
+    int numer = 0;
+    b.baza.UstawPodsluch([&](std::string_view) {
+      if (++numer == ktore) throw EBladBazy(RodzajBleduBazy::Inny, u"Błąd próbny"_s, {});
+    });
+    blad(Eksportuj(), u"Błąd próbny"_s);
+  }
+  // A good that goes after the identifiers were read ends the run; what was written before it stays.
+  b.baza.UstawPodsluch([&](std::string_view sql) {
+    if (!sql.starts_with("select TowId, Kod, Nazwa")) return;
+    TVLTBazaDanych inna;
+    b.Polacz(inna);
+    inna.ExecSQL("delete from Istw where TowId = 2");
+    inna.ExecSQL("delete from Towar where TowId = 2");
+  });
+  blad(Eksportuj(), u"Brak obiektu w bazie danych"_s);
+  EXPECT_EQ(Linie().size(), 2u);
+}
+
+TEST_F(EksportTest, ZatrzymujeSieMiedzyTowarami) {
+  b.baza.UstawPodsluch([&](std::string_view sql) { stop = stop || sql.starts_with("select AsId"); });
+  EXPECT_EQ(Eksportuj().koniec, KoniecPrzebiegu::Przerwano);
+  EXPECT_TRUE(postep.linie.contains(u"Aktualizacja przerwana przez operatora"_s));
+  EXPECT_EQ(Linie().size(), 1u);
+}
+
+}  // namespace
