@@ -40,7 +40,7 @@ std::string Update(const TKMQuery& query) {
   for (const auto pole : kZapisywane) {
     const std::string nazwa = query.Field(pole).FieldName();
     if (pole != kZapisywane.front()) sql += "    ";
-    sql += nazwa + " = :" + nazwa + ",\r\n";
+    sql.append(nazwa).append(" = :").append(nazwa).append(",\r\n");
   }
   return sql + "    Zmiana = getdate()\r\nwhere KontrId = :KontrId";
 }
