@@ -1,0 +1,32 @@
+#pragma once
+
+#include <condition_variable>
+#include <exception>
+#include <functional>
+#include <mutex>
+
+// Hands calls from the worker to the main thread and waits for each: nothing is ever queued, so whatever a
+// call refers to may be read by the main thread while the worker stands still. Plain C++, so that the thread
+// sanitizer sees all of it.
+class Przekazanie {
+ public:
+  using Czynnosc = std::function<void()>;
+
+  // `obudz` is called on the worker and has to make the main thread call Obsluz soon.
+  explicit Przekazanie(Czynnosc obudz) : m_obudz(std::move(obudz)) {}
+  Przekazanie(const Przekazanie&) = delete;
+  Przekazanie& operator=(const Przekazanie&) = delete;
+
+  // On the worker: returns when the main thread has done it; what it threw is thrown here.
+  void Wykonaj(const Czynnosc& czynnosc);
+  // On the main thread: does what the worker waits for; nothing when it does not wait.
+  void Obsluz();
+
+ private:
+  Czynnosc m_obudz;
+  std::mutex m_straz;
+  std::condition_variable m_zrobiono;
+  const Czynnosc* m_czynnosc = nullptr;  // of the waiting worker, not yet taken
+  bool m_gotowe = false;
+  std::exception_ptr m_wyjatek;
+};
