@@ -4,11 +4,13 @@
 #include <limits>
 #include <optional>
 #include <type_traits>
+#include <utility>
 
 #include <QDir>
 
 #include "platform/config.h"
 #include "platform/liczby.h"
+#include "ustawienia/nazwy_czlonow.h"
 #include "ustawienia/ustawienia.h"
 
 namespace {
@@ -24,22 +26,41 @@ QString Napis(std::u16string_view tekst) {
   return QStringView(tekst).toString();
 }
 
+// The main window shows the members of the options structs.
+template <auto Pierwszy, auto... Dalsze>
+constexpr std::string_view Kontrolka() {
+  using Struktura = std::remove_reference_t<decltype(std::declval<U&>().*Pierwszy)>;
+  if constexpr (sizeof...(Dalsze) == 1 && !std::is_same_v<Struktura, StrukturaPliku>)
+    return NazwaWartosci<Dalsze...>();
+  else
+    return {};
+}
+
+template <typename Grupa_>
+constexpr std::string_view kPrzyciski[] = {NazwaWartosci<Grupa_{1}>(), NazwaWartosci<Grupa_{2}>(),
+                                           NazwaWartosci<Grupa_{3}>()};
+
 // The makers of table lines, one per kind of setting; the steps lead to the member.
 
 template <auto... Kroki>
 constexpr Ustawienie Flaga(std::u16string_view klucz, std::u16string_view domyslna) {
-  return {klucz, RodzajUstawienia::Flaga, domyslna,
+  return {klucz,
+          RodzajUstawienia::Flaga,
+          domyslna,
           [](const U& u) { return QString::number(Czlon<Kroki...>(u) ? 1 : 0); },
           [](U& u, const QString& tekst) {
             const std::optional<bool> wartosc = TMCfgParam({}, tekst).Flaga();
             if (wartosc) Czlon<Kroki...>(u) = *wartosc;
             return wartosc.has_value();
-          }};
+          },
+          Kontrolka<Kroki...>()};
 }
 
 template <int Min, int Max, auto... Kroki>
 constexpr Ustawienie Liczba(std::u16string_view klucz, std::u16string_view domyslna) {
-  return {klucz, RodzajUstawienia::Liczba, domyslna,
+  return {klucz,
+          RodzajUstawienia::Liczba,
+          domyslna,
           [](const U& u) { return QString::number(static_cast<int>(Czlon<Kroki...>(u))); },
           [](U& u, const QString& tekst) {
             const std::optional<int> wartosc = TMCfgParam({}, tekst).Calkowita();
@@ -47,16 +68,34 @@ constexpr Ustawienie Liczba(std::u16string_view klucz, std::u16string_view domys
             auto& czlon = Czlon<Kroki...>(u);
             czlon = static_cast<std::remove_reference_t<decltype(czlon)>>(*wartosc);
             return true;
-          }};
+          },
+          Kontrolka<Kroki...>()};
+}
+
+template <auto... Kroki>
+constexpr Ustawienie Grupa(std::u16string_view klucz, std::u16string_view domyslna) {
+  Ustawienie ustawienie = Liczba<1, 3, Kroki...>(klucz, domyslna);
+  ustawienie.kontrolka = {};
+  ustawienie.przyciski = kPrzyciski<std::remove_reference_t<decltype(Czlon<Kroki...>(std::declval<U&>()))>>;
+  return ustawienie;
+}
+
+constexpr Ustawienie NaKontrolce(std::string_view kontrolka, Ustawienie ustawienie) {
+  ustawienie.kontrolka = kontrolka;
+  return ustawienie;
 }
 
 template <auto... Kroki>
 constexpr Ustawienie Tekst(std::u16string_view klucz, std::u16string_view domyslna) {
-  return {klucz, RodzajUstawienia::Tekst, domyslna, [](const U& u) { return Czlon<Kroki...>(u); },
+  return {klucz,
+          RodzajUstawienia::Tekst,
+          domyslna,
+          [](const U& u) { return Czlon<Kroki...>(u); },
           [](U& u, const QString& tekst) {
             Czlon<Kroki...>(u) = tekst;
             return true;
-          }};
+          },
+          Kontrolka<Kroki...>()};
 }
 
 template <auto... Kroki>
@@ -121,6 +160,8 @@ constexpr Ustawienie Lista(std::u16string_view klucz, std::u16string_view rdzen)
               Czlon<Kroki...>(u).resize(static_cast<size_t>(std::clamp(*wartosc, 0, kNajdluzszaLista)));
             return wartosc.has_value();
           },
+          {},
+          {},
           rdzen,
           [](const U& u) { return static_cast<int>(Czlon<Kroki...>(u).size()); },
           [](const U& u, int numer) { return TekstWpisu(Czlon<Kroki...>(u)[static_cast<size_t>(numer)]); },
@@ -137,7 +178,7 @@ constexpr Ustawienie kTabela[] = {
     Plik<&U::plikImportuKontr>(u"ParNazwaPlikuImportuKontr", u"KONTR_I.txt"),
     Plik<&U::plikEksportuKontr>(u"ParNazwaPlikuEksportuKontr", u"KONTR_E.txt"),
     Plik<&U::plikKonfiguracji>(u"ParNazwaPlikuKonfiguracji", u"Zorvik.cfg"),
-    Liczba<0, 3, &U::aktywnaStrona>(u"ParActivePageIndex", u"0"),
+    NaKontrolce("PageControl", Liczba<0, 3, &U::aktywnaStrona>(u"ParActivePageIndex", u"0")),
 
     // goods import
     Flaga<&U::importTow, &OpcjeImportuTowarow::cb_akttow>(u"ParAktualTow", u"1"),
@@ -164,10 +205,10 @@ constexpr Ustawienie kTabela[] = {
     Flaga<&U::importTow, &OpcjeImportuTowarow::cb_PrzywrocUsuniety>(u"ParPrzywrocUsuniety", u"0"),
     Liczba<0, 1, &U::importTow, &OpcjeImportuTowarow::cb_poziomCenyZakupuImp>(u"ParPoziomCenyZakImp", u"0"),
     Liczba<0, 1, &U::importTow, &OpcjeImportuTowarow::cb_poziomCenSprzedazyImp>(u"ParPoziomCenSprzImp", u"0"),
-    Liczba<1, 3, &U::importTow, &OpcjeImportuTowarow::towarZTaSamaNazwa>(u"ParTowarZTaSamaNazwa", u"1"),
-    Liczba<1, 3, &U::importTow, &OpcjeImportuTowarow::towarBezNazwy>(u"ParTowarBezNazwy", u"1"),
-    Liczba<1, 3, &U::importTow, &OpcjeImportuTowarow::towarBezKodu>(u"ParTowarBezKodu", u"1"),
-    Liczba<1, 3, &U::importTow, &OpcjeImportuTowarow::jakieTowary>(u"ParJakieTowary", u"1"),
+    Grupa<&U::importTow, &OpcjeImportuTowarow::towarZTaSamaNazwa>(u"ParTowarZTaSamaNazwa", u"1"),
+    Grupa<&U::importTow, &OpcjeImportuTowarow::towarBezNazwy>(u"ParTowarBezNazwy", u"1"),
+    Grupa<&U::importTow, &OpcjeImportuTowarow::towarBezKodu>(u"ParTowarBezKodu", u"1"),
+    Grupa<&U::importTow, &OpcjeImportuTowarow::jakieTowary>(u"ParJakieTowary", u"1"),
 
     // goods export
     Liczba<0, 1, &U::eksportTow, &OpcjeEksportuTowarow::cb_poziomCenyZakupuEksp>(u"ParPoziomCenyZakEksp",
@@ -229,7 +270,7 @@ constexpr Ustawienie kTabela[] = {
     Flaga<&U::importKontr, &OpcjeImportuKontrahentow::cb_odbiorca>(u"ParUstawOdbiorce", u"0"),
     Flaga<&U::importKontr, &OpcjeImportuKontrahentow::cb_producent>(u"ParUstawProducenta", u"0"),
     Flaga<&U::importKontr, &OpcjeImportuKontrahentow::cb_sklep>(u"ParUstawSklep", u"0"),
-    Liczba<1, 3, &U::importKontr, &OpcjeImportuKontrahentow::jacyKontrahenci>(u"ParJacyKontrahenci", u"1"),
+    Grupa<&U::importKontr, &OpcjeImportuKontrahentow::jacyKontrahenci>(u"ParJacyKontrahenci", u"1"),
 
     // contractor fields that a structure may name
     Oferowane<&U::strukturaKontr, PoleKontrahenta::Nazwa>(u"ParNazwaKontr"),

@@ -26,6 +26,11 @@ struct Ustawienie {
   QString (*odczytaj)(const Ustawienia&);
   // False, and nothing changed, when the text is no value of this setting.
   bool (*wpisz)(Ustawienia&, const QString&);
+  // The control of the main window that shows it, named like the member. Empty: none; structures have a
+  // dialog of their own.
+  std::string_view kontrolka = {};
+  // Three-way groups have three buttons instead, in the order of the stored numbers 1, 2, 3.
+  std::span<const std::string_view> przyciski = {};
 
   // Lists only.
   std::u16string_view rdzen = {};

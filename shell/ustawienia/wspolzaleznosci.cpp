@@ -9,27 +9,24 @@ namespace {
 
 using U = Ustawienia;
 
-// The own layout always carries names; every other layout carries what its field list says.
+// What the structure says of itself when it has been loaded or edited: the own layout carries the fields that
+// are offered, every other layout what its field list says.
+bool MaPole(const StrukturaPliku& struktura, int pole) {
+  return struktura.CBTypPliku == TypPliku::Zorvik ? struktura.CzyOferowane(pole)
+                                                  : struktura.ZawieraPole(pole);
+}
+
 bool MaNazwe(const StrukturaPliku& struktura) {
-  return struktura.CBTypPliku == TypPliku::Zorvik || struktura.ZawieraPole(PoleTowaru::Nazwa);
+  return MaPole(struktura, PoleTowaru::Nazwa);
 }
 
-bool OferujeStatus(const StrukturaPliku& struktura) {
-  return struktura.CzyOferowane(PoleStatusu(struktura.rodzaj));
-}
-
-bool ZawieraStatus(const StrukturaPliku& struktura) {
-  return struktura.ZawieraPole(PoleStatusu(struktura.rodzaj));
-}
-
-// What the structure says of itself when it has been loaded or edited.
-bool StrukturaMaStatus(const StrukturaPliku& struktura) {
-  return struktura.CBTypPliku == TypPliku::Zorvik ? OferujeStatus(struktura) : ZawieraStatus(struktura);
+bool MaStatus(const StrukturaPliku& struktura) {
+  return MaPole(struktura, PoleStatusu(struktura.rodzaj));
 }
 
 // What a click on a status choice asks: the field list may still vouch for the own layout.
 bool WyborStatusuDozwolony(const StrukturaPliku& struktura) {
-  return (struktura.CBTypPliku == TypPliku::Zorvik && OferujeStatus(struktura)) || ZawieraStatus(struktura);
+  return MaStatus(struktura) || struktura.ZawieraPole(PoleStatusu(struktura.rodzaj));
 }
 
 Komunikat BrakStatusuTowarow() {
@@ -115,9 +112,8 @@ std::vector<Komunikat> ZastosujWspolzaleznosci(Ustawienia& ustawienia) {
   std::vector<Komunikat> komunikaty;
   CBImportStanowChange(ustawienia);
   RBPominTowarBezNazwyClick(ustawienia);
-  for (const auto& komunikat :
-       {DopasujTowary(ustawienia, StrukturaMaStatus(ustawienia.strukturaTow)),
-        DopasujKontrahentow(ustawienia, StrukturaMaStatus(ustawienia.strukturaKontr))})
+  for (const auto& komunikat : {DopasujTowary(ustawienia, MaStatus(ustawienia.strukturaTow)),
+                                DopasujKontrahentow(ustawienia, MaStatus(ustawienia.strukturaKontr))})
     if (komunikat) komunikaty.push_back(*komunikat);
   // Without an update of contractors the tax-number choices stay as they were saved, even while they are
   // disabled.
@@ -129,12 +125,12 @@ std::vector<Komunikat> ZastosujWspolzaleznosci(Ustawienia& ustawienia) {
 void PoZmianieStrukturyTow(Ustawienia& ustawienia) {
   ustawienia.strukturaTow.PrzyjmijTypPliku(ustawienia.strukturaTow.CBTypPliku);
   RBPominTowarBezNazwyClick(ustawienia);
-  DopasujTowary(ustawienia, StrukturaMaStatus(ustawienia.strukturaTow));
+  DopasujTowary(ustawienia, MaStatus(ustawienia.strukturaTow));
 }
 
 void PoZmianieStrukturyKontr(Ustawienia& ustawienia) {
   ustawienia.strukturaKontr.PrzyjmijTypPliku(ustawienia.strukturaKontr.CBTypPliku);
-  DopasujKontrahentow(ustawienia, StrukturaMaStatus(ustawienia.strukturaKontr));
+  DopasujKontrahentow(ustawienia, MaStatus(ustawienia.strukturaKontr));
 }
 
 void CBImportStanowChange(Ustawienia& ustawienia) {

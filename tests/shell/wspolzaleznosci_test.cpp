@@ -68,11 +68,14 @@ TEST(Wspolzaleznosci, WyborWedlugStatusu) {
 
 TEST(Wspolzaleznosci, TowarBezNazwy) {
   using enum TowarBezNazwy;
+  StrukturaPliku bezNazwy(RodzajRekordu::Towary);  // own layout, the name not offered
+  bezNazwy.UstawOferowane(PoleTowaru::Nazwa, false);
   const struct {
     StrukturaPliku struktura;
     TowarBezNazwy przed, po;
   } przypadki[] = {
       {Struktura(TypPliku::Zorvik, {}), RBPominTowarBezNazwy, RBPominTowarBezNazwy},
+      {bezNazwy, RBPominTowarBezNazwy, RBDodajTowarZNazwaAuto},
       {Struktura(TypPliku::Rozdzielany, {"00", "01"}), RBPominTowarBezNazwy, RBPominTowarBezNazwy},
       {Struktura(TypPliku::Rozdzielany, {"00", "18"}), RBPominTowarBezNazwy, RBDodajTowarZNazwaAuto},
       {Struktura(TypPliku::StalaSzerokosc, {"0013"}), RBDodajTowarBezNazwy, RBDodajTowarBezNazwy},
