@@ -1,0 +1,31 @@
+#pragma once
+
+#include <vector>
+
+#include <QDialog>
+
+#include "exchange/struktura_pliku.h"
+
+class QTableWidget;
+
+// The offered fields of a structure with "TAK" or "NIE" for each. Works on a copy; Accepted when the person
+// saved.
+class DialogPolStandardowych final : public QDialog {
+ public:
+  DialogPolStandardowych(QWidget* rodzic, const StrukturaPliku& struktura);
+
+  const std::vector<int>& Oferowane() const { return m_oferowane; }
+
+ protected:
+  bool eventFilter(QObject* obiekt, QEvent* zdarzenie) override;
+
+ private:
+  void UlozTabele(const StrukturaPliku& struktura);
+  void Ustaw(int wiersz, bool oferowane);
+  // The same by a person: fields that other options govern stay.
+  void Zmien(int wiersz, bool oferowane);
+  void Przelacz(int wiersz);
+
+  std::vector<int> m_oferowane;
+  QTableWidget* m_tabela;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <vector>
+
+#include <QStringList>
+
+struct StrukturaPliku;
+
+// The beginning of an import file as a run would read it.
+struct PodgladPliku {
+  static constexpr int kRekordow = 20;
+
+  struct Wiersz {
+    QStringList wartosci;  // one per column
+    QString uwaga;         // why the run would stop at this record; usually empty
+  };
+
+  // Catalogue names of the fields the file carries, in the order of its columns.
+  QStringList naglowki;
+  std::vector<Wiersz> wiersze;
+  // Why the file cannot be imported by this structure, in the words of the run. What can be read is there
+  // nevertheless.
+  QStringList powody;
+};
+
+// Reads no more than the first records of the file, whatever its size. Values longer than a person can see at
+// a glance are cut.
+PodgladPliku CzytajPodglad(const StrukturaPliku& struktura, const QString& plik);

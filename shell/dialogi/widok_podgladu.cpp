@@ -1,0 +1,148 @@
+#include "shell/dialogi/widok_podgladu.h"
+
+#include <algorithm>
+
+#include <QDir>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStackedLayout>
+#include <QStyle>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include "shell/dialogi/podglad_pliku.h"
+#include "shell/rozmowa.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::milliseconds kZwloka{200};
+constexpr int kNajszerszaKolumna = 260;
+
+QString Filtr(TypPliku typ) {
+  return typ == TypPliku::DBase ? u"Pliki DBF (*.dbf);;Wszystkie pliki (*)"_s
+                                : u"Pliki tekstowe (*.txt);;Wszystkie pliki (*)"_s;
+}
+
+// All reasons against the file, then the records that would make the run stop.
+QString TekstUwag(const PodgladPliku& podglad) {
+  QStringList uwagi = podglad.powody;
+  const auto zUwaga = [](const PodgladPliku::Wiersz& wiersz) { return !wiersz.uwaga.isEmpty(); };
+  const auto pierwszy = std::find_if(podglad.wiersze.begin(), podglad.wiersze.end(), zUwaga);
+  if (pierwszy != podglad.wiersze.end()) {
+    uwagi << pierwszy->uwaga;
+    const auto ile = std::count_if(pierwszy, podglad.wiersze.end(), zUwaga);
+    if (ile > 1) uwagi.last() += u" Takich rekordów wśród pokazanych: %1."_s.arg(ile);
+  }
+  return uwagi.join(u'\n');
+}
+
+}  // namespace
+
+WidokPodgladu::WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa, QString plik)
+    : QWidget(rodzic),
+      m_rozmowa(rozmowa),
+      m_plik(std::move(plik)),
+      m_nazwaPliku(new QLabel(this)),
+      m_uklad(new QStackedLayout),
+      m_tabela(new QTableWidget(this)),
+      m_uwagi(new QLabel(this)) {
+  m_nazwaPliku->setTextFormat(Qt::PlainText);
+  auto* const wybierz = new QPushButton(u"Wybierz &plik…"_s, this);
+  wybierz->setObjectName(u"WybierzPlik"_s);
+  wybierz->setAutoDefault(false);
+  connect(wybierz, &QPushButton::clicked, this, [this] { WybierzPlik(); });
+
+  m_tabela->setObjectName(u"TabelaPodgladu"_s);
+  m_tabela->setAccessibleName(u"Pierwsze rekordy pliku"_s);
+  m_tabela->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  m_tabela->setTabKeyNavigation(false);
+  m_tabela->setWordWrap(false);
+  m_tabela->setAlternatingRowColors(true);
+  m_tabela->horizontalHeader()->setMaximumSectionSize(kNajszerszaKolumna);
+  m_tabela->horizontalHeader()->setHighlightSections(false);
+
+  auto* const podpowiedz = new QLabel(
+      u"Nie wybrano pliku.\nPo wybraniu widać tu jego pierwsze rekordy tak, jak zostaną odczytane."_s, this);
+  podpowiedz->setObjectName(u"PodpowiedzPodgladu"_s);
+  podpowiedz->setAlignment(Qt::AlignCenter);
+  podpowiedz->setWordWrap(true);
+
+  m_uwagi->setObjectName(u"UwagiPodgladu"_s);
+  m_uwagi->setTextFormat(Qt::PlainText);
+  m_uwagi->setWordWrap(true);
+
+  auto* const gora = new QHBoxLayout;
+  gora->addWidget(m_nazwaPliku, 1);
+  gora->addWidget(wybierz);
+  m_uklad->addWidget(podpowiedz);
+  m_uklad->addWidget(m_tabela);
+  auto* const uklad = new QVBoxLayout(this);
+  uklad->setContentsMargins(0, 0, 0, 0);
+  uklad->addLayout(gora);
+  uklad->addLayout(m_uklad, 1);
+  uklad->addWidget(m_uwagi);
+
+  m_zwloka.setSingleShot(true);
+  connect(&m_zwloka, &QTimer::timeout, this, [this] { Odswiez(); });
+}
+
+void WidokPodgladu::UstawStrukture(const StrukturaPliku& struktura) {
+  m_struktura = struktura;
+  m_zwloka.start(kZwloka);
+}
+
+void WidokPodgladu::UstawPlik(const QString& plik) {
+  m_plik = plik;
+  Odswiez();
+}
+
+void WidokPodgladu::WybierzPlik() {
+  const auto plik = m_rozmowa.WybierzDoOdczytu(this, {.tytul = u"Plik do podglądu"_s,
+                                                      .sciezka = m_plik.isEmpty() ? QDir::homePath() : m_plik,
+                                                      .filtr = Filtr(m_struktura.CBTypPliku)});
+  if (plik) UstawPlik(*plik);
+}
+
+void WidokPodgladu::Odswiez() {
+  m_zwloka.stop();
+  m_nazwaPliku->setText(QDir::toNativeSeparators(m_plik));
+  m_uklad->setCurrentIndex(m_plik.isEmpty() ? 0 : 1);
+  PokazPodglad(m_plik.isEmpty() ? PodgladPliku() : CzytajPodglad(m_struktura, m_plik));
+}
+
+void WidokPodgladu::PokazPodglad(const PodgladPliku& podglad) {
+  const int przewiniecie = m_tabela->horizontalScrollBar()->value();
+  PokazWiersze(podglad);
+  m_tabela->horizontalScrollBar()->setValue(przewiniecie);
+  const QString uwagi = TekstUwag(podglad);
+  m_uwagi->setText(uwagi.isEmpty() ? QString() : u"⚠ "_s + uwagi);
+  m_uwagi->setVisible(!uwagi.isEmpty());
+}
+
+void WidokPodgladu::PokazWiersze(const PodgladPliku& podglad) {
+  m_tabela->clear();
+  m_tabela->setColumnCount(static_cast<int>(podglad.naglowki.size()));
+  m_tabela->setRowCount(static_cast<int>(podglad.wiersze.size()));
+  m_tabela->setHorizontalHeaderLabels(podglad.naglowki);
+  const QIcon ostrzezenie = style()->standardIcon(QStyle::SP_MessageBoxWarning);
+  for (int w = 0; w < m_tabela->rowCount(); ++w) {
+    const PodgladPliku::Wiersz& wiersz = podglad.wiersze[static_cast<size_t>(w)];
+    auto* const naglowek = new QTableWidgetItem(QString::number(w + 1));
+    if (!wiersz.uwaga.isEmpty()) {
+      naglowek->setIcon(ostrzezenie);
+      naglowek->setToolTip(wiersz.uwaga);
+    }
+    m_tabela->setVerticalHeaderItem(w, naglowek);
+    for (int k = 0; k < m_tabela->columnCount(); ++k) {
+      auto* const komorka = new QTableWidgetItem(wiersz.wartosci[k]);
+      komorka->setToolTip(wiersz.uwaga);
+      m_tabela->setItem(w, k, komorka);
+    }
+  }
+  m_tabela->resizeColumnsToContents();
+}

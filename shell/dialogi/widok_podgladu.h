@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+#include "exchange/struktura_pliku.h"
+
+class QLabel;
+class QStackedLayout;
+class QTableWidget;
+class Rozmowa;
+struct PodgladPliku;
+
+// Shows the first records of a file as an import would read them, with the reasons why it would not. Reads
+// anew a moment after the last change of the structure.
+class WidokPodgladu final : public QWidget {
+ public:
+  WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa, QString plik);
+
+  void UstawStrukture(const StrukturaPliku& struktura);
+  // The file being looked at; another one may have been chosen here.
+  const QString& Plik() const { return m_plik; }
+  void UstawPlik(const QString& plik);
+
+ private:
+  void WybierzPlik();
+  void Odswiez();
+  void PokazPodglad(const PodgladPliku& podglad);
+  void PokazWiersze(const PodgladPliku& podglad);
+
+  Rozmowa& m_rozmowa;
+  QString m_plik;
+  StrukturaPliku m_struktura{RodzajRekordu::Towary};
+  QTimer m_zwloka;
+  QLabel* m_nazwaPliku;
+  QStackedLayout* m_uklad;
+  QTableWidget* m_tabela;
+  QLabel* m_uwagi;
+};
