@@ -1,7 +1,6 @@
 #include "app/postep_terminala.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "app/terminal.h"
 
@@ -10,14 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString kCzyscLinie = u"\r\033[K"_s;
-
-QString Czas(double sekund) {
-  const long long s = std::llround(sekund);
-  return s < 3600 ? u"%1:%2"_s.arg(s / 60).arg(s % 60, 2, 10, QChar(u'0'))
-                  : u"%1:%2:%3"_s.arg(s / 3600)
-                        .arg(s / 60 % 60, 2, 10, QChar(u'0'))
-                        .arg(s % 60, 2, 10, QChar(u'0'));
-}
 
 }  // namespace
 
@@ -33,7 +24,7 @@ void PostepTerminala::Faza(const QString& tekst, long long maksimum) {
   m_maksimum = maksimum;
   m_pozycja = 0;
   m_liczba.reset();
-  m_poczatek = Zegar::now();
+  m_tempo = Tempo();
   m_trwa = true;
   m_przerwana = false;
   if (m_zywy)
@@ -95,19 +86,17 @@ QString PostepTerminala::Pasek(qsizetype szerokosc) const {
 }
 
 // Records a second where records are counted, and the time left at the pace so far.
-QString PostepTerminala::Tempo() const {
-  const double sekund = std::chrono::duration<double>(Zegar::now() - m_poczatek).count();
-  if (sekund < 0.5 || m_pozycja <= 0) return {};
-  const double tempo = static_cast<double>(m_pozycja) / sekund;
-  const QString naSekunde = m_liczba ? u"  %1/s"_s.arg(std::llround(tempo)) : QString();
-  const double zostalo = static_cast<double>(std::max(0LL, m_maksimum - m_pozycja)) / tempo;
-  return naSekunde + u"  zostało "_s + Czas(zostalo);
+QString PostepTerminala::OpisTempa() const {
+  const auto odczyt = m_tempo.Odczytaj(m_pozycja, m_maksimum);
+  if (!odczyt) return {};
+  const QString naSekunde = m_liczba ? u"  %1/s"_s.arg(odczyt->naSekunde) : QString();
+  return naSekunde + u"  zostało "_s + odczyt->zostalo;
 }
 
 void PostepTerminala::Rysuj() const {
   QString linia = Linia();
   if (m_maksimum > 0) {
-    const QString tempo = Tempo();
+    const QString tempo = OpisTempa();
     constexpr qsizetype kRamka = 12;  // brackets, percents, blanks and the last column, which stays free
     const qsizetype wolne = terminal::Szerokosc() - linia.size() - tempo.size() - kRamka;
     if (wolne >= 5) linia += u"  "_s + Pasek(std::min<qsizetype>(wolne, 40));

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <optional>
 #include <vector>
 
@@ -8,6 +7,7 @@
 
 #include "exchange/komunikat.h"
 #include "run/postep.h"
+#include "run/tempo.h"
 
 // Progress on standard error. On a terminal the last line is drawn anew, at most 25 times a second, with a
 // bar, the rate and the time left; elsewhere every phase is one plain line, begun when the phase begins.
@@ -27,12 +27,10 @@ class PostepTerminala final : public IPostep {
   const std::vector<Komunikat>& Pokazane() const { return m_pokazane; }
 
  private:
-  using Zegar = std::chrono::steady_clock;
-
   // Text and number of the last line.
   QString Linia() const;
   QString Pasek(qsizetype szerokosc) const;
-  QString Tempo() const;
+  QString OpisTempa() const;
   void Rysuj() const;
   void ZamknijLinie();
 
@@ -41,7 +39,7 @@ class PostepTerminala final : public IPostep {
   long long m_maksimum = 0;
   long long m_pozycja = 0;
   std::optional<long long> m_liczba;
-  Zegar::time_point m_poczatek{};
+  Tempo m_tempo;
   DlawikPostepu m_dlawik;
   std::vector<Komunikat> m_pokazane;
   bool m_trwa = false;       // the last line is not done

@@ -8,10 +8,19 @@ void Przekazanie::Wykonaj(const Czynnosc& czynnosc) {
     m_czynnosc = &czynnosc;
     m_gotowe = false;
   }
+  m_zmiana.notify_all();
   m_obudz();
   std::unique_lock zamek(m_straz);
-  m_zrobiono.wait(zamek, [this] { return m_gotowe; });
+  m_zmiana.wait(zamek, [this] { return m_gotowe; });
   if (m_wyjatek) std::rethrow_exception(std::exchange(m_wyjatek, nullptr));
+}
+
+void Przekazanie::Zamknij() {
+  {
+    const std::lock_guard zamek(m_straz);
+    m_zamkniete = true;
+  }
+  m_zmiana.notify_all();
 }
 
 // The lock is not held meanwhile: the call may show a window, whose events lead back here.
@@ -33,5 +42,16 @@ void Przekazanie::Obsluz() {
     m_wyjatek = std::move(wyjatek);
     m_gotowe = true;
   }
-  m_zrobiono.notify_one();
+  m_zmiana.notify_all();
+}
+
+void Przekazanie::ObsluzDoZamkniecia() {
+  for (;;) {
+    {
+      std::unique_lock zamek(m_straz);
+      m_zmiana.wait(zamek, [this] { return m_czynnosc || m_zamkniete; });
+      if (!m_czynnosc) return;
+    }
+    Obsluz();
+  }
 }

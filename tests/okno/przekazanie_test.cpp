@@ -9,28 +9,12 @@ namespace {
 
 // The calling thread is the main one here: it serves until the worker is done.
 void Przeprowadz(const std::function<void(Przekazanie&)>& robotnik) {
-  std::mutex straz;
-  std::condition_variable budzik;
-  bool wezwano = false;
-  bool koniec = false;
-  const auto obudz = [&](bool& co) {
-    const std::lock_guard zamek(straz);
-    co = true;
-    budzik.notify_one();
-  };
-  Przekazanie przekazanie([&] { obudz(wezwano); });
+  Przekazanie przekazanie([] {});
   std::thread watek([&] {
     robotnik(przekazanie);
-    obudz(koniec);
+    przekazanie.Zamknij();
   });
-  for (;;) {
-    std::unique_lock zamek(straz);
-    budzik.wait(zamek, [&] { return wezwano || koniec; });
-    if (!wezwano) break;
-    wezwano = false;
-    zamek.unlock();
-    przekazanie.Obsluz();
-  }
+  przekazanie.ObsluzDoZamkniecia();
   watek.join();
 }
 
@@ -39,11 +23,11 @@ TEST(Przekazanie, KazdaCzynnoscDziejeSieWWatkuGlownymPrzedPowrotem) {
   long suma = 0;
   Przeprowadz([&](Przekazanie& przekazanie) {
     for (int i = 1; i <= 1000; ++i) {
-      przekazanie.Wykonaj([&, i] {
+      const long poDodaniu = przekazanie.Zapytaj([&, i] {
         EXPECT_EQ(std::this_thread::get_id(), glowny);
-        suma += i;
+        return suma += i;
       });
-      ASSERT_EQ(suma, i * (i + 1L) / 2);
+      ASSERT_EQ(poDodaniu, i * (i + 1L) / 2);
     }
   });
   EXPECT_EQ(suma, 500500);
@@ -54,6 +38,18 @@ TEST(Przekazanie, WyjatekWracaDoRobotnikaRaz) {
     EXPECT_THROW(przekazanie.Wykonaj([] { throw std::runtime_error("x"); }), std::runtime_error);
     EXPECT_NO_THROW(przekazanie.Wykonaj([] {}));
   });
+}
+
+// A message box lets the main thread come back here while the worker still waits.
+TEST(Przekazanie, ObslugaWTrakcieObslugiNieRobiNiczegoDrugiRaz) {
+  int razy = 0;
+  Przeprowadz([&](Przekazanie& przekazanie) {
+    przekazanie.Wykonaj([&] {
+      ++razy;
+      przekazanie.Obsluz();
+    });
+  });
+  EXPECT_EQ(razy, 1);
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <functional>
 #include <vector>
 
+#include <QScopeGuard>
+
 #include <gtest/gtest.h>
 
 #include "shell/rozmowa.h"
@@ -54,8 +56,7 @@ class RozmowaTestowa final : public Rozmowa {
       ADD_FAILURE() << "unexpected: " << pytanie.toStdString();
       return brak;
     }
-    T odpowiedz = std::move(kolejka.front());
-    kolejka.pop_front();
-    return odpowiedz;
+    const auto zdejmij = qScopeGuard([&] { kolejka.pop_front(); });
+    return std::move(kolejka.front());
   }
 };

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QSortFilterProxyModel>
+
+#include "shell/przebieg/lista_pominietych.h"
+
+// The records of a list for a table.
+class ModelPominietych final : public QAbstractTableModel {
+ public:
+  enum Kolumna { kKod, kNazwa, kPowod, kKolumn };
+
+  ModelPominietych(ListaPominietych lista, QString naglowekKodu)
+      : m_lista(std::move(lista)), m_naglowekKodu(std::move(naglowekKodu)) {}
+
+  const ListaPominietych& Lista() const { return m_lista; }
+
+  int rowCount(const QModelIndex& rodzic = {}) const override;
+  int columnCount(const QModelIndex& rodzic = {}) const override;
+  QVariant data(const QModelIndex& indeks, int rola) const override;
+  QVariant headerData(int sekcja, Qt::Orientation kierunek, int rola) const override;
+
+ private:
+  ListaPominietych m_lista;
+  QString m_naglowekKodu;
+};
+
+// Lets the records of one group of reasons through, or all.
+class FiltrPominietych final : public QSortFilterProxyModel {
+ public:
+  explicit FiltrPominietych(ModelPominietych& model);
+
+  // -1: all.
+  void UstawGrupe(int grupa);
+
+ protected:
+  bool filterAcceptsRow(int wiersz, const QModelIndex& rodzic) const override;
+
+ private:
+  const ListaPominietych& m_lista;
+  int m_grupa = -1;
+};
