@@ -50,13 +50,13 @@ using A = Argumenty;
 
 constexpr Opcja kOpcje[] = {
     {u"baza", u"BAZA", u"baza danych: ścieżka pliku albo sqlite:ŚCIEŻKA; bez tej opcji połączenie domyślne",
-     GrupaOpcji::Ustawienia, PrzyjmijTekst<&A::baza>},
+     GrupaOpcji::Ustawienia | GrupaOpcji::Okno, PrzyjmijTekst<&A::baza>},
     {u"konfiguracja", u"PLIK", u"plik konfiguracji stosowany po ustawieniach zapisanych w bazie",
-     GrupaOpcji::Ustawienia, PrzyjmijTekst<&A::konfiguracja>},
+     GrupaOpcji::Ustawienia | GrupaOpcji::Okno, PrzyjmijTekst<&A::konfiguracja>},
     {u"ustaw", u"KLUCZ=WARTOŚĆ", u"pojedyncze ustawienie, stosowane na końcu; opcję można powtarzać",
      GrupaOpcji::Ustawienia, PrzyjmijUstawienie},
     {u"pominiete", u"KATALOG", u"katalog pliku pominiętych rekordów; bez tej opcji katalog programu",
-     GrupaOpcji::Przebieg, PrzyjmijTekst<&A::pominiete>},
+     GrupaOpcji::Przebieg | GrupaOpcji::Okno, PrzyjmijTekst<&A::pominiete>},
     {u"liczba-pol", u"przerwij|pomin|ignoruj",
      u"co zrobić z rekordem o zbyt małej liczbie pól; bez tej opcji: przerwij", GrupaOpcji::Przebieg,
      PrzyjmijLiczbePol},
@@ -66,8 +66,9 @@ constexpr Opcja kOpcje[] = {
      PrzyjmijFlage<&A::json>},
     {u"demo", u"", u"dodaje do nowej bazy dane pokazowego sklepu", GrupaOpcji::NowaBaza,
      PrzyjmijFlage<&A::demo>},
-    {u"help", u"", u"ta pomoc", GrupaOpcji::Ogolne, PrzyjmijFlage<&A::pomoc>},
+    {u"help", u"", u"ta pomoc", GrupaOpcji::Ogolne | GrupaOpcji::Okno, PrzyjmijFlage<&A::pomoc>},
     {u"wersja", u"", u"wersja programu", GrupaOpcji::Ogolne, PrzyjmijFlage<&A::wersja>},
+    {u"version", u"", u"wersja programu", GrupaOpcji::Okno, PrzyjmijFlage<&A::wersja>},
 };
 
 const Opcja& ZnajdzOpcje(const QString& nazwa) {

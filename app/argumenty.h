@@ -33,19 +33,20 @@ struct Argumenty {
   bool wersja = false;
 };
 
-// Which options belong together; a command takes some of the groups.
+// Which options belong together; a command takes some of the groups, the window program its own.
 namespace GrupaOpcji {
 inline constexpr unsigned Ogolne = 1;
 inline constexpr unsigned Ustawienia = 2;  // where settings come from
 inline constexpr unsigned Przebieg = 4;
 inline constexpr unsigned NowaBaza = 8;
+inline constexpr unsigned Okno = 16;
 }  // namespace GrupaOpcji
 
 struct Opcja {
   std::u16string_view nazwa;    // without "--"
   std::u16string_view wartosc;  // what its value is called; empty: it has none
   std::u16string_view opis;
-  unsigned grupa;
+  unsigned grupy;
   // False when the text is no value of this option.
   bool (*przyjmij)(Argumenty&, const QString& wartosc);
 };

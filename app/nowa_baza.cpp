@@ -14,18 +14,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void Pokaz(const Komunikat& komunikat) {
-  terminal::WypiszBlad(terminal::JednaLinia(komunikat) + u'\n');
-}
-
 // Takes the name before anything is written into it, so that whatever has to be removed later is ours.
-bool ZajmijNazwe(const QString& sciezka) {
+std::optional<Komunikat> ZajmijNazwe(const QString& sciezka) {
   QFile plik(sciezka);
-  if (plik.open(QIODevice::NewOnly)) return true;
-  Pokaz({u"UWAGA"_s, QFile::exists(sciezka)
-                         ? u"Plik %1 już istnieje"_s.arg(sciezka)
-                         : u"Nie można utworzyć pliku %1\n%2"_s.arg(sciezka, plik.errorString())});
-  return false;
+  if (plik.open(QIODevice::NewOnly)) return std::nullopt;
+  return Komunikat{u"UWAGA"_s, QFile::exists(sciezka)
+                                   ? u"Plik %1 już istnieje"_s.arg(sciezka)
+                                   : u"Nie można utworzyć pliku %1\n%2"_s.arg(sciezka, plik.errorString())};
 }
 
 void Usun(const QString& sciezka) {
@@ -43,24 +38,30 @@ void Zapelnij(TVLTBazaDanych& baza, bool demo) {
 
 }  // namespace
 
-StatusWyjscia WykonajNowaBaza(const Argumenty& argumenty) {
-  auto parametry = ParametryPolaczenia::ZTekstu(*argumenty.plik);
-  if (!parametry) throw BladUzycia{u"Nieobsługiwany rodzaj bazy: \"%1\""_s.arg(*argumenty.plik)};
-  parametry->tworz = true;
-  const QString sciezka = parametry->cel;
-  if (!ZajmijNazwe(sciezka)) return StatusWyjscia::Odmowa;
-  TVLTBazaDanych baza(*parametry);
+WynikNowejBazy UtworzNowaBaze(ParametryPolaczenia parametry, bool demo) {
+  if (const auto powod = ZajmijNazwe(parametry.cel)) return {StatusWyjscia::Odmowa, *powod};
+  parametry.tworz = true;
+  TVLTBazaDanych baza(parametry);
   try {
     baza.Polacz();
-    Zapelnij(baza, argumenty.demo);
+    Zapelnij(baza, demo);
     baza.Odlacz();
   } catch (const EMException& blad) {
-    Pokaz(KomunikatBledu(blad));
     baza.Odlacz();
-    Usun(sciezka);
-    return StatusWyjscia::Blad;
+    Usun(parametry.cel);
+    return {StatusWyjscia::Blad, KomunikatBledu(blad)};
   }
-  terminal::Wypisz(
-      u"Utworzono bazę %1%2\n"_s.arg(sciezka, argumenty.demo ? u" z danymi pokazowymi"_s : u""_s));
-  return StatusWyjscia::Zakonczono;
+  return {};
+}
+
+StatusWyjscia WykonajNowaBaza(const Argumenty& argumenty) {
+  const auto parametry = ParametryPolaczenia::ZTekstu(*argumenty.plik);
+  if (!parametry) throw BladUzycia{u"Nieobsługiwany rodzaj bazy: \"%1\""_s.arg(*argumenty.plik)};
+  const WynikNowejBazy wynik = UtworzNowaBaze(*parametry, argumenty.demo);
+  if (wynik.status != StatusWyjscia::Zakonczono)
+    terminal::WypiszBlad(terminal::JednaLinia(wynik.powod) + u'\n');
+  else
+    terminal::Wypisz(
+        u"Utworzono bazę %1%2\n"_s.arg(parametry->cel, argumenty.demo ? u" z danymi pokazowymi"_s : u""_s));
+  return wynik.status;
 }

@@ -52,16 +52,6 @@ QString Wiersz(const QString& lewy, std::u16string_view prawy) {
   return u"  "_s + lewy.leftJustified(kSzerokosc) + odstep + Napis(prawy) + u'\n';
 }
 
-QString PomocOpcji(unsigned grupy) {
-  QString tekst = u"\nOpcje:\n"_s;
-  for (const Opcja& opcja : TabelaOpcji())
-    if (opcja.grupa & grupy)
-      tekst += Wiersz(
-          u"--"_s + Napis(opcja.nazwa) + (opcja.wartosc.empty() ? QString() : u' ' + Napis(opcja.wartosc)),
-          opcja.opis);
-  return tekst;
-}
-
 QString PomocOgolna() {
   QString tekst =
       u"zorvik-cli – import i eksport bazy towarów i kontrahentów\n\n"
@@ -90,7 +80,7 @@ const PolecenieProgramu& ZnajdzPolecenie(const QString& nazwa) {
 
 void SprawdzZgodnosc(const PolecenieProgramu& polecenie, const WynikRozbioru& rozbior) {
   for (const Opcja* opcja : rozbior.uzyte)
-    if (!(opcja->grupa & polecenie.opcje))
+    if (!(opcja->grupy & polecenie.opcje))
       throw BladUzycia{u"Polecenie %1 nie ma opcji --%2"_s.arg(Napis(polecenie.nazwa), Napis(opcja->nazwa))};
   if (polecenie.plik == ArgumentPliku::Brak && rozbior.argumenty.plik)
     throw BladUzycia{u"Zbędny argument \"%1\""_s.arg(*rozbior.argumenty.plik)};
@@ -120,6 +110,16 @@ StatusWyjscia Wykonaj(const QStringList& slowa) {
 }
 
 }  // namespace
+
+QString PomocOpcji(unsigned grupy) {
+  QString tekst = u"\nOpcje:\n"_s;
+  for (const Opcja& opcja : TabelaOpcji())
+    if (opcja.grupy & grupy)
+      tekst += Wiersz(
+          u"--"_s + Napis(opcja.nazwa) + (opcja.wartosc.empty() ? QString() : u' ' + Napis(opcja.wartosc)),
+          opcja.opis);
+  return tekst;
+}
 
 const std::vector<PolecenieProgramu>& TabelaPolecen() {
   static const std::vector<PolecenieProgramu> polecenia = UtworzPolecenia();

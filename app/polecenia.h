@@ -33,5 +33,8 @@ struct PolecenieProgramu {
 // The commands of the program itself, then the operations.
 const std::vector<PolecenieProgramu>& TabelaPolecen();
 
+// The part of a help text that lists the options of the given groups.
+QString PomocOpcji(unsigned grupy);
+
 // The whole program: words of the command line in, exit status out.
 StatusWyjscia WykonajWierszPolecen(const QStringList& slowa);

@@ -29,6 +29,7 @@ std::optional<QString> Wybrany(QFileDialog& okno) {
 }
 
 void Przygotuj(QFileDialog& okno, const Rozmowa::WyborPliku& wybor) {
+  okno.setOption(QFileDialog::HideNameFilterDetails);
   okno.setNameFilter(wybor.filtr);
   const QFileInfo plik(wybor.sciezka);
   okno.setDirectory(plik.isDir() ? plik.absoluteFilePath() : plik.absolutePath());

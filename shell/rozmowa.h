@@ -34,7 +34,7 @@ class Rozmowa {
   struct WyborPliku {
     QString tytul;
     QString sciezka;            // offered: a file or a folder
-    QString filtr;              // "pliki tekstowe (*.txt);;Wszystkie pliki (*)"
+    QString filtr;              // "shown (pattern);;shown (pattern)"
     QString rozszerzenie = {};  // added to a name without one
   };
   // Nothing when the person gives up. Whether the file exists is the caller's question.

@@ -2,10 +2,17 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
 #include <QStandardPaths>
 
+namespace {
+
+constexpr QLatin1String kPrzedrostek("sqlite:");
+
+}  // namespace
+
 std::optional<ParametryPolaczenia> ParametryPolaczenia::ZTekstu(const QString& tekst) {
-  constexpr QLatin1String kPrzedrostek("sqlite:");
   QString cel = tekst.trimmed();
   if (cel.startsWith(kPrzedrostek, Qt::CaseInsensitive)) {
     cel.remove(0, kPrzedrostek.size());
@@ -18,9 +25,28 @@ std::optional<ParametryPolaczenia> ParametryPolaczenia::ZTekstu(const QString& t
   return parametry;
 }
 
+QString ParametryPolaczenia::Tekst() const {
+  return kPrzedrostek + QFileInfo(cel).absoluteFilePath();
+}
+
 std::optional<ParametryPolaczenia> ParametryPolaczenia::Domyslne() {
-  const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
-  QFile plik(folder.filePath(QStringLiteral("zorvik/polaczenie.cfg")));
+  QFile plik(PlikDomyslnych());
   if (!plik.open(QIODevice::ReadOnly | QIODevice::Text)) return std::nullopt;
   return ZTekstu(QString::fromUtf8(plik.readLine(4096)));
+}
+
+QString ParametryPolaczenia::PlikDomyslnych() {
+  const QDir folder(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+  return folder.filePath(QStringLiteral("zorvik/polaczenie.cfg"));
+}
+
+std::optional<QString> ParametryPolaczenia::Zapamietaj() const {
+  QSaveFile plik(PlikDomyslnych());
+  QDir().mkpath(QFileInfo(plik.fileName()).path());
+  // The rights first: nobody else can read the file at any moment.
+  const bool zapisano = plik.open(QIODevice::WriteOnly) &&
+                        plik.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
+                        plik.write(Tekst().toUtf8() + '\n') > 0 && plik.commit();
+  if (zapisano) return std::nullopt;
+  return plik.errorString();
 }

@@ -15,6 +15,13 @@ struct ParametryPolaczenia {
 
   // Reads "PATH" or "sqlite:PATH"; nothing for an empty text or a kind that is not supported.
   static std::optional<ParametryPolaczenia> ZTekstu(const QString& tekst);
+  // What ZTekstu reads, with a path that holds wherever the program is started.
+  QString Tekst() const;
+
   // The remembered connection: the first line of polaczenie.cfg in the user's configuration folder.
   static std::optional<ParametryPolaczenia> Domyslne();
+  static QString PlikDomyslnych();
+  // Remembers this connection there, in a file that its user alone can read. The reason when it could not be
+  // written.
+  std::optional<QString> Zapamietaj() const;
 };

@@ -23,6 +23,7 @@ TMStatusButton& TMStatusButtonBar::Dodaj(const QString& nazwa, const QString& te
   przycisk->setObjectName(nazwa);
   przycisk->setAccessibleName(tekst);
   przycisk->setAutoDefault(false);
+  przycisk->setMinimumSize(przycisk->sizeHint() + QSize(16, 4));
   const bool wyjscie = klawisz == u"Esc";
   m_uklad->insertWidget(wyjscie ? m_uklad->count() : m_uklad->count() - 1, przycisk);
   TMStatusButton& dodany = *m_przyciski.emplace_back(std::make_unique<TMStatusButton>(nazwa, *przycisk));

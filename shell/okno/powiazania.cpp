@@ -1,0 +1,114 @@
+#include "shell/okno/powiazania.h"
+
+#include <algorithm>
+
+#include <QMetaProperty>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+#include "ustawienia/tabela_ustawien.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// What a person changes in a control of each class. Its text is that of the stored setting.
+constexpr struct {
+  const char* klasa;
+  const char* wlasciwosc;
+} kWlasciwosci[] = {
+    {"QAbstractButton", "checked"}, {"QComboBox", "currentIndex"}, {"QTabWidget", "currentIndex"},
+    {"QSpinBox", "value"},          {"QLineEdit", "text"},
+};
+
+QMetaProperty Wlasciwosc(const QWidget& kontrolka) {
+  for (const auto& [klasa, wlasciwosc] : kWlasciwosci)
+    if (kontrolka.inherits(klasa)) {
+      const QMetaObject* const opis = kontrolka.metaObject();
+      return opis->property(opis->indexOfProperty(wlasciwosc));
+    }
+  return {};
+}
+
+QString Odczytaj(const QWidget& kontrolka) {
+  const QVariant wartosc = Wlasciwosc(kontrolka).read(&kontrolka);
+  return wartosc.typeId() == QMetaType::Bool ? QString::number(wartosc.toInt()) : wartosc.toString();
+}
+
+// A control that shows the value already keeps its cursor and its selection.
+void Wpisz(QWidget& kontrolka, const QString& tekst) {
+  if (Odczytaj(kontrolka) == tekst) return;
+  const QSignalBlocker cisza(kontrolka);
+  auto* const wybor = qobject_cast<QRadioButton*>(&kontrolka);
+  // Loaded settings may leave none of a group checked, or several; after a click it is one.
+  if (wybor) wybor->setAutoExclusive(false);
+  Wlasciwosc(kontrolka).write(&kontrolka, tekst);
+  if (wybor) wybor->setAutoExclusive(true);
+}
+
+std::vector<QWidget*> Kontrolki(const QWidget& okno, const Ustawienie& ustawienie) {
+  std::vector<QWidget*> kontrolki;
+  const auto dodaj = [&](std::string_view nazwa) {
+    if (nazwa.empty()) return;
+    QWidget* const kontrolka = okno.findChild<QWidget*>(QLatin1String(QByteArrayView(nazwa)));
+    Q_ASSERT_X(kontrolka, "Powiazania", nazwa.data());
+    if (kontrolka) kontrolki.push_back(kontrolka);
+  };
+  dodaj(ustawienie.kontrolka);
+  for (const std::string_view nazwa : ustawienie.przyciski) dodaj(nazwa);
+  return kontrolki;
+}
+
+// Radio buttons that are stored one by one change together.
+bool Rodzenstwo(const QObject* a, const QObject* b) {
+  return a == b || (a->inherits("QRadioButton") && b->inherits("QRadioButton") && a->parent() == b->parent());
+}
+
+}  // namespace
+
+Powiazania::Powiazania(QWidget& okno, Ustawienia& ustawienia) : m_ustawienia(ustawienia) {
+  const QMetaMethod zmieniono = metaObject()->method(metaObject()->indexOfSlot("Zmieniono()"));
+  for (const Ustawienie& ustawienie : TabelaUstawien()) {
+    Powiazanie powiazanie{&ustawienie, Kontrolki(okno, ustawienie)};
+    if (powiazanie.kontrolki.empty()) continue;
+    for (QWidget* const kontrolka : powiazanie.kontrolki)
+      connect(kontrolka, Wlasciwosc(*kontrolka).notifySignal(), this, zmieniono);
+    m_powiazania.push_back(std::move(powiazanie));
+  }
+}
+
+void Powiazania::Pokaz() {
+  for (const auto& [ustawienie, kontrolki] : m_powiazania) {
+    const QString tekst = ustawienie->odczytaj(m_ustawienia);
+    if (ustawienie->przyciski.empty()) {
+      Wpisz(*kontrolki.front(), tekst);
+      continue;
+    }
+    for (std::size_t i = 0; i < kontrolki.size(); ++i)
+      Wpisz(*kontrolki[i], tekst == QString::number(i + 1) ? u"1"_s : u"0"_s);
+  }
+}
+
+void Powiazania::Zmieniono() {
+  QObject* const kontrolka = sender();
+  if (const auto* wybrany = qobject_cast<QRadioButton*>(kontrolka); wybrany && wybrany->isChecked())
+    for (QObject* const inny : wybrany->parent()->children())
+      if (inny != wybrany && inny->inherits("QRadioButton")) Wpisz(*qobject_cast<QWidget*>(inny), u"0"_s);
+  for (const Powiazanie& powiazanie : m_powiazania)
+    if (std::any_of(powiazanie.kontrolki.begin(), powiazanie.kontrolki.end(),
+                    [&](const QWidget* inna) { return Rodzenstwo(kontrolka, inna); }))
+      Przyjmij(powiazanie);
+  if (PoZmianie) PoZmianie(kontrolka->objectName());
+}
+
+// A three-way group is stored as the number of its checked button, the last one when none of the others is.
+void Powiazania::Przyjmij(const Powiazanie& powiazanie) {
+  const auto& [ustawienie, kontrolki] = powiazanie;
+  if (ustawienie->przyciski.empty()) {
+    ustawienie->wpisz(m_ustawienia, Odczytaj(*kontrolki.front()));
+    return;
+  }
+  const auto zaznaczony = std::find_if(kontrolki.begin(), kontrolki.end() - 1,
+                                       [](const QWidget* k) { return Odczytaj(*k) == u"1"; });
+  ustawienie->wpisz(m_ustawienia, QString::number(zaznaczony - kontrolki.begin() + 1));
+}

@@ -1,0 +1,87 @@
+#include "shell/okno/wybor_pliku.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+
+#include "platform/baza/polaczenie.h"
+#include "shell/rozmowa.h"
+#include "ustawienia/magazyn_ustawien.h"
+#include "ustawienia/rodzaje_przebiegow.h"
+#include "ustawienia/ustawienia.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The caption shown, then the pattern, which the dialog hides.
+constexpr std::u16string_view kTekstowe = u"Pliki tekstowe (*.txt) (*.txt);;Wszystkie pliki (*.*) (*)";
+constexpr std::u16string_view kDbf = u"Pliki DBF (*.dbf) (*.dbf);;Wszystkie pliki (*.*) (*)";
+constexpr std::u16string_view kEksportu = u"pliki tekstowe (*.txt) (*.txt);;Wszystkie pliki (*.*) (*)";
+constexpr std::u16string_view kKonfiguracji =
+    u"Pliki konfiguracji Zorvika (Zorvik*.cfg) (*.cfg);;Wszystkie pliki (*.*) (*)";
+
+QString Napis(std::u16string_view tekst) {
+  return QStringView(tekst).toString();
+}
+
+QSettings OstatnieFoldery() {
+  const QDir folder = QFileInfo(ParametryPolaczenia::PlikDomyslnych()).dir();
+  return QSettings(folder.filePath(u"okno.ini"_s), QSettings::IniFormat);
+}
+
+QString KluczFolderu(const RodzajPrzebiegu& rodzaj) {
+  return u"foldery/"_s + Napis(rodzaj.nazwa);
+}
+
+// The file where its folder exists, otherwise its name alone at home.
+QString WIstniejacymFolderze(const QString& plik) {
+  const QFileInfo opis(QDir::fromNativeSeparators(plik));
+  return opis.dir().exists() ? opis.absoluteFilePath() : QDir::home().filePath(opis.fileName());
+}
+
+QString Proponowany(const RodzajPrzebiegu& rodzaj, const QString& plik) {
+  const QString folder = OstatnieFoldery().value(KluczFolderu(rodzaj)).toString();
+  if (folder.isEmpty() || !QDir(folder).exists()) return WIstniejacymFolderze(plik);
+  return QDir(folder).filePath(QFileInfo(QDir::fromNativeSeparators(plik)).fileName());
+}
+
+std::u16string_view FiltrImportu(const StrukturaPliku& struktura) {
+  return struktura.CBTypPliku == TypPliku::DBase ? kDbf : kTekstowe;
+}
+
+std::optional<QString> Wybierz(QWidget* okno, Rozmowa& rozmowa, Kierunek kierunek,
+                               const Rozmowa::WyborPliku& wybor) {
+  if (kierunek == Kierunek::Import) return rozmowa.WybierzDoOdczytu(okno, wybor);
+  const std::optional<QString> plik = rozmowa.WybierzDoZapisu(okno, wybor);
+  if (!plik) return std::nullopt;
+  const std::optional<Komunikat> pytanie = magazyn_ustawien::PytanieONadpisanie(*plik);
+  return pytanie && !rozmowa.CzyTak(okno, *pytanie) ? std::nullopt : plik;
+}
+
+}  // namespace
+
+std::optional<QString> WybierzPlikPrzebiegu(QWidget* okno, Rozmowa& rozmowa, const RodzajPrzebiegu& rodzaj,
+                                            const Ustawienia& ustawienia) {
+  const bool import = rodzaj.kierunek == Kierunek::Import;
+  return Wybierz(okno, rozmowa, rodzaj.kierunek,
+                 {.tytul = Napis(rodzaj.tytul),
+                  .sciezka = Proponowany(rodzaj, ustawienia.*rodzaj.plik),
+                  .filtr = Napis(import ? FiltrImportu(ustawienia.*rodzaj.struktura) : kEksportu),
+                  .rozszerzenie = u"txt"_s});
+}
+
+void ZapamietajPlikPrzebiegu(const RodzajPrzebiegu& rodzaj, const QString& plik, Ustawienia& ustawienia) {
+  ustawienia.*rodzaj.plik = QDir::toNativeSeparators(plik);
+  OstatnieFoldery().setValue(KluczFolderu(rodzaj), QFileInfo(plik).absolutePath());
+}
+
+std::optional<QString> WybierzPlikKonfiguracji(QWidget* okno, Rozmowa& rozmowa, Kierunek kierunek,
+                                               const Ustawienia& ustawienia) {
+  return Wybierz(okno, rozmowa, kierunek,
+                 {.tytul = kierunek == Kierunek::Import ? u"Import konfiguracji z pliku"_s
+                                                        : u"Eksport konfiguracji do pliku"_s,
+                  .sciezka = WIstniejacymFolderze(ustawienia.plikKonfiguracji),
+                  .filtr = Napis(kKonfiguracji),
+                  .rozszerzenie = u"cfg"_s});
+}
