@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QString>
 #include <bitset>
 #include <optional>
 #include <vector>
+
+#include <QString>
 
 #include "exchange/katalog_pol.h"
 #include "exchange/komunikat.h"
@@ -105,6 +106,8 @@ struct StrukturaPliku {
   // What accepting a file type fixes: the code texts and the header flag of the own layout, no header in
   // dBase.
   void PrzyjmijTypPliku(TypPliku typ);
+
+  friend bool operator==(const StrukturaPliku&, const StrukturaPliku&) = default;
 };
 
 // Refusals of the structure dialog and of the field-list dialog; nothing when the data can be accepted.

@@ -11,6 +11,7 @@
 #include "shell/dialogi/edytor_komorki.h"
 #include "shell/dialogi/model_listy_pol.h"
 #include "shell/dialogi/pasek_dialogu.h"
+#include "shell/dialogi/siatka.h"
 #include "shell/dialogi/widok_podgladu.h"
 #include "shell/kontekst_okna.h"
 #include "shell/rozmowa.h"
@@ -80,13 +81,12 @@ void DialogListyPol::UlozKatalog() {
 void DialogListyPol::UlozWybrane() {
   QTableView& wybrane = *m_ui->Wybrane;
   wybrane.setModel(m_model);
-  const bool nazwa = m_struktura.CBTypPliku == TypPliku::DBase;
-  wybrane.setItemDelegateForColumn(
-      ModelListyPol::kDopisek,
-      nazwa ? new EdytorKomorki(this, kZnakowNazwy)
-            : new EdytorKomorki(this, kZnakowSzerokosci, EdytorKomorki::Tresc::Liczba));
+  m_edytor = m_struktura.CBTypPliku == TypPliku::DBase
+                 ? new EdytorKomorki(this, kZnakowNazwy)
+                 : new EdytorKomorki(this, kZnakowSzerokosci, EdytorKomorki::Tresc::Liczba);
+  wybrane.setItemDelegateForColumn(ModelListyPol::kDopisek, m_edytor);
   wybrane.horizontalHeader()->setSectionResizeMode(ModelListyPol::kPole, QHeaderView::Stretch);
-  wybrane.verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  UlozSiatke(wybrane);
   if (m_model->rowCount() > 0) ZaznaczWiersz(0);
   const auto zmieniono = [this] { Odswiez(); };
   connect(m_model, &QAbstractItemModel::dataChanged, this, zmieniono);
@@ -152,7 +152,7 @@ void DialogListyPol::Przesun(int kierunek) {
 }
 
 void DialogListyPol::Zapisz() {
-  m_ui->Wybrane->setFocus();  // takes over a cell that is still being edited
+  m_edytor->ZakonczEdycje();
   if (const auto odmowa = SprawdzListePol(m_struktura.rodzaj, m_model->Pola()))
     return m_kontekst.rozmowa.Powiedz(this, *odmowa);
   accept();

@@ -6,6 +6,7 @@
 
 #include "exchange/struktura_pliku.h"
 
+class EdytorKomorki;
 class ModelListyPol;
 class WidokPodgladu;
 struct KontekstOkna;
@@ -45,5 +46,6 @@ class DialogListyPol final : public QDialog {
   KontekstOkna& m_kontekst;
   StrukturaPliku m_struktura;
   ModelListyPol* m_model;
+  EdytorKomorki* m_edytor;
   WidokPodgladu* m_podglad;
 };

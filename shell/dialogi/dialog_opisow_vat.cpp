@@ -8,6 +8,7 @@
 #include "platform/wyjatek.h"
 #include "shell/dialogi/edytor_komorki.h"
 #include "shell/dialogi/pasek_dialogu.h"
+#include "shell/dialogi/siatka.h"
 #include "shell/dialogi/stawki_vat.h"
 #include "shell/kontekst_okna.h"
 #include "shell/rozmowa.h"
@@ -47,7 +48,10 @@ DialogOpisowVat::DialogOpisowVat(QWidget* rodzic, KontekstOkna& kontekst, const 
   Ui::DialogOpisowVat ui;
   ui.setupUi(this);
   m_tabela = ui.Opisy;
-  m_tabela->setItemDelegate(new EdytorKomorki(this, kZnakowOpisu));
+  m_bezOpisu = ui.lbBezOpisu;
+  UlozSiatke(*m_tabela);
+  m_edytor = new EdytorKomorki(this, kZnakowOpisu);
+  m_tabela->setItemDelegate(m_edytor);
   m_tabela->horizontalHeader()->setStretchLastSection(true);
   m_tabela->verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
   UlozPasek(*this, *ui.MStatusButtonBar,
@@ -66,10 +70,14 @@ std::vector<OpisVat> DialogOpisowVat::Opisy() const {
 }
 
 void DialogOpisowVat::PokazStawki(const TVLTStawkiVat& stawki, const std::vector<OpisVat>& opisy) {
+  QStringList bezOpisu;
   m_tabela->setRowCount(0);
   for (int i = 0; i < stawki.Ilosc(); ++i) {
     const QString kod = KodStawki(stawki.Stawka(i));
-    if (kod.isEmpty()) continue;
+    if (kod.isEmpty()) {
+      bezOpisu << StawkaNaTekst(stawki.Stawka(i), true);
+      continue;
+    }
     const int wiersz = m_tabela->rowCount();
     m_tabela->insertRow(wiersz);
     m_tabela->setVerticalHeaderItem(wiersz, new QTableWidgetItem(Etykieta(stawki.Stawka(i))));
@@ -78,15 +86,17 @@ void DialogOpisowVat::PokazStawki(const TVLTStawkiVat& stawki, const std::vector
     m_tabela->setItem(wiersz, 0, komorka);
   }
   m_tabela->setCurrentCell(0, 0);
+  m_bezOpisu->setVisible(!bezOpisu.isEmpty());
+  m_bezOpisu->setText(u"Bez opisu pozostają stawki: "_s + bezOpisu.join(u"; "));
 }
 
 void DialogOpisowVat::Akceptuj() {
-  m_tabela->setFocus();  // takes over a cell that is still being edited
+  m_edytor->ZakonczEdycje();
   accept();
 }
 
 void DialogOpisowVat::Stawki() {
-  m_tabela->setFocus();
+  m_edytor->ZakonczEdycje();
   try {
     TFmVLTStawkiVat edytor(this, m_kontekst);
     if (m_kontekst.rozmowa.Pokaz(edytor) == Accepted) PokazStawki(edytor.Stawki(), Opisy());

@@ -6,6 +6,8 @@
 
 #include "exchange/struktura_pliku.h"
 
+class EdytorKomorki;
+class QLabel;
 class QTableWidget;
 class TVLTStawkiVat;
 struct KontekstOkna;
@@ -27,4 +29,6 @@ class DialogOpisowVat final : public QDialog {
 
   KontekstOkna& m_kontekst;
   QTableWidget* m_tabela;
+  EdytorKomorki* m_edytor;
+  QLabel* m_bezOpisu;
 };

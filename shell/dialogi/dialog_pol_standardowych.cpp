@@ -6,6 +6,7 @@
 
 #include "shell/dialogi/dialogi.h"
 #include "shell/dialogi/pasek_dialogu.h"
+#include "shell/dialogi/siatka.h"
 #include "shell/kontekst_okna.h"
 #include "shell/rozmowa.h"
 
@@ -35,6 +36,7 @@ void DialogPolStandardowych::UlozTabele(const StrukturaPliku& struktura) {
   m_tabela->setRowCount(static_cast<int>(m_oferowane.size()));
   m_tabela->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   m_tabela->verticalHeader()->hide();
+  UlozSiatke(*m_tabela);
   for (int wiersz = 0; wiersz < m_tabela->rowCount(); ++wiersz) {
     m_tabela->setItem(wiersz, 0, new QTableWidgetItem(NazwaPozycjiOferowanej(struktura.rodzaj, wiersz)));
     m_tabela->setItem(wiersz, kWartosc, new QTableWidgetItem);

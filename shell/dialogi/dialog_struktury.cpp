@@ -105,6 +105,7 @@ void DialogStruktury::PolaczKontrolki() {
        std::initializer_list<QAbstractButton*>{m_ui->CBNieAnalizujPierwszejLinii, m_ui->rbTabulator,
                                                m_ui->rbSrednik, m_ui->rbInny, m_ui->rbBrakSeparatora})
     connect(przycisk, &QAbstractButton::toggled, this, zmieniono);
+  connect(m_ui->rbInny, &QRadioButton::clicked, m_ui->EdInnySeparator, qOverload<>(&QWidget::setFocus));
   connect(m_ui->EdInnySeparator, &QLineEdit::textChanged, this, zmieniono);
   for (const auto& [pole, slowo] : m_slowa) connect(pole, &QLineEdit::textChanged, this, zmieniono);
 }
@@ -180,15 +181,16 @@ void DialogStruktury::Akceptuj() {
 void DialogStruktury::Pola() {
   if (m_struktura.CBTypPliku == TypPliku::Zorvik) {
     EdytujPolaStandardowe(this, m_kontekst, m_struktura);
-  } else {
-    DialogListyPol dialog(this, m_kontekst, Wynik(), m_podglad->Plik());
-    if (m_kontekst.rozmowa.Pokaz(dialog) == Accepted) {
-      m_struktura.pola = dialog.Wynik().pola;
-      m_struktura.oferowane = dialog.Wynik().oferowane;
-    }
-    m_podglad->UstawPlik(dialog.Plik());
+    return;
+  }
+  DialogListyPol dialog(this, m_kontekst, Wynik(), m_podglad->Plik());
+  if (m_kontekst.rozmowa.Pokaz(dialog) == Accepted) {
+    const StrukturaPliku zmieniona = dialog.Wynik();
+    m_struktura.pola = zmieniona.pola;
+    m_struktura.oferowane = zmieniona.oferowane;
   }
   m_podglad->UstawStrukture(Wynik());
+  m_podglad->UstawPlik(dialog.Plik());
 }
 
 void DialogStruktury::OpisStawekVAT() {

@@ -50,7 +50,7 @@ class CzytaniePodgladu {
     Zanotuj(odmowa);
     if (odmowa) return;
     Zanotuj(m_czytnik->SprawdzPola());
-    CzytajRekordy();
+    if (!m_pola.empty()) CzytajRekordy();
   }
 
   PodgladPliku Wynik() && { return std::move(m_podglad); }

@@ -1,11 +1,10 @@
 #include "shell/dialogi/stawki_vat.h"
 
-#include <QSettings>
-
 #include <ui_stawki_vat.h>
 
 #include "model/bledy.h"
 #include "shell/dialogi/pasek_dialogu.h"
+#include "shell/dialogi/rozmiar_okna.h"
 #include "shell/kontekst_okna.h"
 #include "shell/rozmowa.h"
 
@@ -32,11 +31,11 @@ TFmVLTStawkiVat::TFmVLTStawkiVat(QWidget* rodzic, KontekstOkna& kontekst)
              {u"Usun"_s, u"Usuń"_s, u"F8"_s, [this] { Usun(); }}});
   connect(m_lista, &QListWidget::itemDoubleClicked, this, [this] { Zmien(); });
   PokazStawki(0);
-  if (const QSize rozmiar = QSettings().value(KluczUkladu()).toSize(); rozmiar.isValid()) resize(rozmiar);
+  PrzywrocRozmiar(*this, KluczUkladu());
 }
 
 void TFmVLTStawkiVat::done(int wynik) {
-  QSettings().setValue(KluczUkladu(), size());
+  ZapamietajRozmiar(*this, KluczUkladu());
   QDialog::done(wynik);
 }
 

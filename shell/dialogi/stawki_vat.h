@@ -10,8 +10,7 @@ class QListWidget;
 struct KontekstOkna;
 
 // The rate editor: the dictionary of VAT rates, the highest first, and a row "<nowa>" for another one. Saving
-// replaces the dictionary at once; Accepted when it holds what the person sees. The size of the window is
-// remembered with the user's settings: it belongs to a screen, not to a database.
+// replaces the dictionary at once; Accepted when it holds what the person sees. Remembers its size.
 class TFmVLTStawkiVat final : public QDialog {
  public:
   // Reads the rates; EBladBazy as the session raises it.

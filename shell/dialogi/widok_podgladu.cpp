@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QDir>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -11,9 +12,11 @@
 #include <QStackedLayout>
 #include <QStyle>
 #include <QTableWidget>
+#include <QThreadPool>
 #include <QVBoxLayout>
 
 #include "shell/dialogi/podglad_pliku.h"
+#include "shell/dialogi/siatka.h"
 #include "shell/rozmowa.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -60,11 +63,9 @@ WidokPodgladu::WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa, QString plik)
   m_tabela->setObjectName(u"TabelaPodgladu"_s);
   m_tabela->setAccessibleName(u"Pierwsze rekordy pliku"_s);
   m_tabela->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  m_tabela->setTabKeyNavigation(false);
-  m_tabela->setWordWrap(false);
   m_tabela->setAlternatingRowColors(true);
+  UlozSiatke(*m_tabela);
   m_tabela->horizontalHeader()->setMaximumSectionSize(kNajszerszaKolumna);
-  m_tabela->horizontalHeader()->setHighlightSections(false);
 
   auto* const podpowiedz = new QLabel(
       u"Nie wybrano pliku.\nPo wybraniu widać tu jego pierwsze rekordy tak, jak zostaną odczytane."_s, this);
@@ -87,6 +88,7 @@ WidokPodgladu::WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa, QString plik)
   uklad->addLayout(m_uklad, 1);
   uklad->addWidget(m_uwagi);
 
+  setTabOrder(wybierz, m_tabela);
   m_zwloka.setSingleShot(true);
   connect(&m_zwloka, &QTimer::timeout, this, [this] { Odswiez(); });
 }
@@ -112,7 +114,26 @@ void WidokPodgladu::Odswiez() {
   m_zwloka.stop();
   m_nazwaPliku->setText(QDir::toNativeSeparators(m_plik));
   m_uklad->setCurrentIndex(m_plik.isEmpty() ? 0 : 1);
-  PokazPodglad(m_plik.isEmpty() ? PodgladPliku() : CzytajPodglad(m_struktura, m_plik));
+  m_ponow = m_czyta;
+  if (m_czyta) return;
+  if (m_plik.isEmpty()) return PokazPodglad({});
+  m_czyta = true;
+  // The program object outlives the reading, which the pool finishes before it goes.
+  QThreadPool::globalInstance()->start(
+      [struktura = m_struktura, plik = m_plik, program = qApp, widok = std::weak_ptr(m_jestem)] {
+        const auto pokaz = [podglad = CzytajPodglad(struktura, plik), widok] {
+          if (const auto jest = widok.lock()) (*jest)->Przyjmij(podglad);
+        };
+        QMetaObject::invokeMethod(program, pokaz, Qt::QueuedConnection);
+      });
+}
+
+void WidokPodgladu::Przyjmij(const PodgladPliku& podglad) {
+  m_czyta = false;
+  if (m_ponow)
+    Odswiez();
+  else
+    PokazPodglad(podglad);
 }
 
 void WidokPodgladu::PokazPodglad(const PodgladPliku& podglad) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <QTimer>
 #include <QWidget>
 
@@ -12,7 +14,7 @@ class Rozmowa;
 struct PodgladPliku;
 
 // Shows the first records of a file as an import would read them, with the reasons why it would not. Reads
-// anew a moment after the last change of the structure.
+// anew a moment after the last change of the structure, beside the window: a file may lie far away.
 class WidokPodgladu final : public QWidget {
  public:
   WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa, QString plik);
@@ -25,6 +27,7 @@ class WidokPodgladu final : public QWidget {
  private:
   void WybierzPlik();
   void Odswiez();
+  void Przyjmij(const PodgladPliku& podglad);
   void PokazPodglad(const PodgladPliku& podglad);
   void PokazWiersze(const PodgladPliku& podglad);
 
@@ -32,6 +35,10 @@ class WidokPodgladu final : public QWidget {
   QString m_plik;
   StrukturaPliku m_struktura{RodzajRekordu::Towary};
   QTimer m_zwloka;
+  bool m_czyta = false;
+  bool m_ponow = false;  // something changed meanwhile
+  // Expires with the widget; whoever reads for it asks.
+  std::shared_ptr<WidokPodgladu*> m_jestem = std::make_shared<WidokPodgladu*>(this);
   QLabel* m_nazwaPliku;
   QStackedLayout* m_uklad;
   QTableWidget* m_tabela;

@@ -23,8 +23,8 @@ void Sprawdz(const StrukturaPliku& wzor, const std::vector<Przypadek>& przypadki
   for (const Przypadek& p : przypadki) {
     StrukturaPliku struktura = wzor;
     for (const QString& pole : p.pola) struktura.pola.emplace_back(pole);
-    EXPECT_EQ(Odczyt(struktura, p.tresc), p.rekordy)
-        << p.opis << ": " << Odczyt(struktura, p.tresc).join(u" // "_s).toStdString();
+    EXPECT_EQ(OdczytTresci(struktura, p.tresc), p.rekordy)
+        << p.opis << ": " << OdczytTresci(struktura, p.tresc).join(u" // "_s).toStdString();
   }
 }
 
@@ -53,17 +53,17 @@ TEST(CzytnikRozdzielany, Separatory) {
   StrukturaPliku s = Struktura(kTowary, TypPliku::Rozdzielany, {u"00"_s, u"01"_s, u"02"_s});
   s.CBKwalifikatorTekstu = KwalifikatorTekstu::Brak;
   s.separator = u"||"_s;
-  EXPECT_EQ(Odczyt(s, "ab||cd||ef"), QStringList{u"0=a|1=c|2=ef"_s});
-  EXPECT_EQ(Odczyt(s, "||x||'y'"), QStringList{u"2='y'"_s});
+  EXPECT_EQ(OdczytTresci(s, "ab||cd||ef"), QStringList{u"0=a|1=c|2=ef"_s});
+  EXPECT_EQ(OdczytTresci(s, "||x||'y'"), QStringList{u"2='y'"_s});
   s.separator = u"ł"_s;
   s.CBPolskieZnaki = StronaKodowa::Mazovia;
-  EXPECT_EQ(Odczyt(s,
-                   "a\x92"
-                   "b\xB3"
-                   "c"),
+  EXPECT_EQ(OdczytTresci(s,
+                         "a\x92"
+                         "b\xB3"
+                         "c"),
             QStringList{u"0=a|1=błc?2/3"_s});
   s.separator.clear();
-  EXPECT_EQ(Odczyt(s, "a;b"), QStringList{u"0=a;b?1/3"_s});
+  EXPECT_EQ(OdczytTresci(s, "a;b"), QStringList{u"0=a;b?1/3"_s});
 }
 
 TEST(CzytnikRozdzielany, RegulyPolTowaru) {
@@ -98,9 +98,9 @@ TEST(CzytnikRozdzielany, RegulyPolKontrahenta) {
       Struktura(kKontrahenci, TypPliku::Rozdzielany, {u"00"_s, u"00"_s, u"11"_s, u"14"_s, u"35"_s});
   s.EdPoleDostawca = u"tak"_s;
   s.EdPoleUsuniety = u"nie"_s;
-  EXPECT_EQ(Odczyt(s,
-                   "Zak\xB3"
-                   "ad;A;tak;tak;nie\nB;;nie;1;x"),
+  EXPECT_EQ(OdczytTresci(s,
+                         "Zak\xB3"
+                         "ad;A;tak;tak;nie\nB;;nie;1;x"),
             (QStringList{u"0=Zakład A|11=1|14=0|35=0"_s, u"0=B|11=0|14=1|35=1"_s}));
 }
 
@@ -149,7 +149,7 @@ TEST(CzytnikWlasny, KolumnaStatusu) {
 TEST(CzytnikWlasny, TabulatorNaKoncuKontrahenta) {
   const StrukturaPliku s = Struktura(kKontrahenci, TypPliku::Zorvik, {});
   const std::string tab34(34, '\t');
-  EXPECT_EQ(Odczyt(s, "Nazwa\nA" + tab34 + "\t\nB" + tab34 + "\t1"),
+  EXPECT_EQ(OdczytTresci(s, "Nazwa\nA" + tab34 + "\t\nB" + tab34 + "\t1"),
             (QStringList{u"0=A?35/36"_s, u"0=B|35=1"_s}));
 }
 
@@ -172,15 +172,16 @@ TEST(Czytnik, PierwszaLiniaINumery) {
 TEST(Czytnik, OdmawiaTegoCoNieJestTekstem) {
   const StrukturaPliku s = Struktura(kTowary, TypPliku::Rozdzielany, {u"00"_s});
   EXPECT_TRUE(OdczytPliku(s, u"/nie/ma"_s).join(QString()).contains(u"/nie/ma nie istnieje"));
-  EXPECT_TRUE(Odczyt(s,
-                     "\xEF\xBB\xBF"
-                     "1;2\n")
+  EXPECT_TRUE(OdczytTresci(s,
+                           "\xEF\xBB\xBF"
+                           "1;2\n")
                   .join(QString())
                   .contains(u"UTF-8"));
   // Behind what the first look sees: found by the count, before anything is written.
   const std::string daleko = "1\n" + std::string(100'000, 'x') + "\n";
-  EXPECT_TRUE(Odczyt(s, daleko + '\0' + "\n").join(QString()).contains(u"bajty zerowe"));
-  EXPECT_TRUE(Odczyt(s, daleko + std::string(2'000'000, 'y')).join(QString()).startsWith(u"Linia 3 pliku"));
+  EXPECT_TRUE(OdczytTresci(s, daleko + '\0' + "\n").join(QString()).contains(u"bajty zerowe"));
+  EXPECT_TRUE(
+      OdczytTresci(s, daleko + std::string(2'000'000, 'y')).join(QString()).startsWith(u"Linia 3 pliku"));
 }
 
 TEST(Czytnik, LiczenieMoznaPrzerwac) {

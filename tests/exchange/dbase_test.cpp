@@ -2,44 +2,11 @@
 
 #include "exchange/plik_dbase.h"
 #include "tests/exchange/pliki_probne.h"
+#include "tests/exchange/tabela_dbase.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-std::string Slowo(size_t wartosc) {
-  return {static_cast<char>(wartosc & 0xFF), static_cast<char>(wartosc >> 8 & 0xFF)};
-}
-
-// A table as bytes; a length given as -1 is the right one.
-struct Tabela {
-  std::vector<std::pair<std::string, int>> pola{};
-  std::vector<std::string> rekordy{};
-  int dlugoscNaglowka = -1;
-  int dlugoscRekordu = -1;
-  std::string koniec = "\x1A";
-
-  std::string Bajty() const {
-    size_t rekord = 1;
-    std::string opisy;
-    for (const auto& [nazwa, dlugosc] : pola) {
-      std::string opis = nazwa;
-      opis.resize(32, '\0');
-      opis[11] = 'C';
-      opis[16] = static_cast<char>(dlugosc);
-      opisy += opis;
-      rekord += static_cast<size_t>(dlugosc);
-    }
-    const size_t naglowek = dlugoscNaglowka < 0 ? 33 + opisy.size() : static_cast<size_t>(dlugoscNaglowka);
-    if (dlugoscRekordu >= 0) rekord = static_cast<size_t>(dlugoscRekordu);
-    // The header's own record count is a lie.
-    std::string bajty = "\x03\x01\x01\x01\x0A" + std::string(3, '\0') + Slowo(naglowek) + Slowo(rekord);
-    bajty.resize(32, '\0');
-    bajty += opisy + "\r";
-    for (const std::string& r : rekordy) bajty += r;
-    return bajty + koniec;
-  }
-};
 
 const std::vector<std::pair<std::string, int>> kPola = {{"KOD", 4}, {"NAZWA", 6}};
 
@@ -134,9 +101,9 @@ TEST(CzytnikDBase, KolumnyPolImaja) {
                                {u"01nazwa"_s, u"00Kod  "_s, u"32NAZWA"_s, u"x NAZWA"_s});
   s.CBPolskieZnaki = StronaKodowa::LatinII;
   s.CBNieAnalizujPierwszejLinii = true;
-  EXPECT_EQ(Odczyt(s, bajty), (QStringList{u"0=5901|1=łuk"_s, u"-"_s, u"0=5903|1=Ser"_s}));
+  EXPECT_EQ(OdczytTresci(s, bajty), (QStringList{u"0=5901|1=łuk"_s, u"-"_s, u"0=5903|1=Ser"_s}));
   s.pola.emplace_back(u"32CENA"_s);
-  EXPECT_EQ(Odczyt(s, bajty), QStringList{u"W importowanym pliku brak pola: CENA"_s});
+  EXPECT_EQ(OdczytTresci(s, bajty), QStringList{u"W importowanym pliku brak pola: CENA"_s});
 }
 
 }  // namespace

@@ -75,6 +75,6 @@ inline QStringList OdczytPliku(const StrukturaPliku& struktura, const QString& s
   }
 }
 
-inline QStringList Odczyt(const StrukturaPliku& struktura, const std::string& tresc) {
+inline QStringList OdczytTresci(const StrukturaPliku& struktura, const std::string& tresc) {
   return OdczytPliku(struktura, PlikProbny(tresc).Sciezka());
 }
