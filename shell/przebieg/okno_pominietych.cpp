@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QUrl>
 
 #include "run/raport_problemow.h"
@@ -21,7 +22,7 @@ namespace {
 // In characters.
 constexpr int kSzerokosciKolumn[] = {18, 36};
 constexpr int kSzerokosc = 110;
-constexpr int kWierszy = 28;
+constexpr int kWierszy = 34;
 
 // What the first column of the file holds.
 QString NaglowekKodu(const QString& plik) {
@@ -50,6 +51,7 @@ class Tfrm_pominiete final : public QDialog {
     const int znak = fontMetrics().averageCharWidth();
     for (int kolumna = 0; kolumna < static_cast<int>(std::size(kSzerokosciKolumn)); ++kolumna)
       m_ui.tabela->setColumnWidth(kolumna, kSzerokosciKolumn[kolumna] * znak);
+    m_ui.tabela->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
     resize(kSzerokosc * znak, kWierszy * fontMetrics().lineSpacing());
     m_ui.otworz->setToolTip(QDir::toNativeSeparators(plik));
     WypelnijPowody(*m_ui.powod, m_model.Lista());

@@ -1,6 +1,7 @@
 #include "shell/przebieg/okno_postepu.h"
 
 #include <QFileInfo>
+#include <QShowEvent>
 #include <QTimer>
 
 #include "shell/przebieg/okno_pominietych.h"
@@ -45,20 +46,24 @@ TLProgressView& Tfrm_progress::Widok() {
 void Tfrm_progress::PokazWynik(const WynikPrzebiegu& wynik) {
   const QString koniec = QStringView(kKonce[static_cast<std::size_t>(wynik.koniec)]).toString();
   const bool zCzasem = wynik.koniec != KoniecPrzebiegu::Odmowa && wynik.sekund > 0;
-  m_ui->zakonczenie->setText(zCzasem ? u"%1 po %2 s"_s.arg(koniec, locale().toString(wynik.sekund, 'f', 1))
-                                     : koniec);
+  m_zakonczenie = zCzasem
+                      ? u"%1 po %2 s"_s.arg(koniec, QString::number(wynik.sekund, 'f', 1).replace(u'.', u','))
+                      : koniec;
   m_plikPominietych = wynik.plikPominietych;
   m_ui->pominiete->setVisible(QFileInfo(m_plikPominietych).size() > 0);
 }
 
+// A window that is only minimised goes on.
 void Tfrm_progress::showEvent(QShowEvent* zdarzenie) {
-  m_ui->button->setText(u"Przerwij"_s);
-  m_timer->start();
+  if (!zdarzenie->spontaneous()) {
+    m_ui->button->setText(u"Przerwij"_s);
+    m_timer->start();
+  }
   QDialog::showEvent(zdarzenie);
 }
 
 void Tfrm_progress::hideEvent(QHideEvent* zdarzenie) {
-  m_timer->stop();
+  if (!zdarzenie->spontaneous()) m_timer->stop();
   QDialog::hideEvent(zdarzenie);
 }
 
@@ -66,7 +71,7 @@ void Tfrm_progress::timerTimer() {
   switch (m_stan.Get()) {
     case Stan::Zakonczony:
       m_timer->stop();
-      m_ui->tlp->AddMessage(TLProgressView::kBezLinii, {}, StanPostepu::Koniec, 0);
+      m_ui->tlp->AddMessage(TLProgressView::kBezLinii, m_zakonczenie, StanPostepu::Koniec, 0);
       m_ui->button->setText(u"Zamknij"_s);
       m_ui->button->setEnabled(true);
       m_ui->button->setDefault(true);

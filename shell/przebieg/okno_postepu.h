@@ -22,7 +22,7 @@ class Tfrm_progress final : public QDialog {
   ~Tfrm_progress() override;
 
   TLProgressView& Widok();
-  // How the run ended; offers the records it skipped.
+  // How the run ended, shown once the worker is finished; offers the records it skipped.
   void PokazWynik(const WynikPrzebiegu& wynik);
 
   void reject() override;
@@ -40,5 +40,6 @@ class Tfrm_progress final : public QDialog {
   QTimer* m_timer;
   StanPrzebiegu& m_stan;
   Rozmowa& m_rozmowa;
+  QString m_zakonczenie;
   QString m_plikPominietych;
 };

@@ -18,7 +18,7 @@ enum class StanPostepu : unsigned char {
   Pozycja = 1,  // where the bar of the line stands
   Liczba = 2,   // shown behind the text in place of the one before
   Gotowe = 3,   // the line is done
-  Koniec = 4    // of the run, without a line: none is at work any more
+  Koniec = 4    // of the run, without a line; the text says how it ended
 };
 
 // The lines of a run with their marks, and below them the bar of the last line that has one, with the records
@@ -59,6 +59,7 @@ class TLProgressView final : public QWidget {
   void DodajLinie(const QString& tekst, long long maksimum);
   void PokazLinie(const Linia& linia);
   void PokazPasek();
+  int WysokoscWiersza() const;
 
   QTreeWidget* m_lista;
   QProgressBar* m_pasek;
@@ -66,5 +67,5 @@ class TLProgressView final : public QWidget {
   std::vector<Linia> m_linie;
   std::optional<std::size_t> m_zPaskiem;  // the last line that has a bar
   Tempo m_tempo;                          // of that line
-  bool m_koniec = false;
+  std::optional<QString> m_zakonczenie;   // once the run is over
 };

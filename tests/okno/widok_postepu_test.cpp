@@ -1,8 +1,6 @@
 #include "shell/przebieg/widok_postepu.h"
 
-#include <QLabel>
 #include <QProgressBar>
-#include <QThread>
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
@@ -66,22 +64,6 @@ TEST(WidokPostepu, PasekIdzieZaOstatniaLiniaKtoraGoMa) {
   EXPECT_EQ(procent(), -1);
   widok.Wyslij(TLProgressView::kBezLinii, StanPostepu::Koniec);
   EXPECT_EQ(widok.Procent(), 40);
-}
-
-TEST(WidokPostepu, TempoMowiORekordachTylkoTamGdzieSaLiczone) {
-  Widok widok;
-  const auto tempo = [&] {
-    widok.tlp.CheckMessages();
-    return widok.tlp.findChild<QLabel*>("tempo")->text();
-  };
-  widok.Wyslij(0, StanPostepu::Linia, 1000, "Wstępne przeglądanie pliku");
-  widok.Wyslij(0, StanPostepu::Pozycja, 10);
-  QThread::msleep(550);
-  EXPECT_TRUE(tempo().startsWith("Zostało: "));
-  widok.Wyslij(0, StanPostepu::Liczba, 10);
-  EXPECT_TRUE(tempo().startsWith("Rekordów na sekundę: 1"));
-  widok.Wyslij(0, StanPostepu::Gotowe);
-  EXPECT_EQ(tempo(), "");
 }
 
 }  // namespace
