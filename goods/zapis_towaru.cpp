@@ -1,7 +1,5 @@
 #include "goods/zapis_towaru.h"
 
-#include <vector>
-
 #include "goods/kontekst_importu.h"
 #include "model/bledy.h"
 #include "model/bufor_towarow.h"
@@ -47,7 +45,8 @@ ZapisTowaru::Wynik ZapisTowaru::Zapisz(const QString& rezygnacja) {
     } catch (const EVLTWDError& odmowa) {
       if (WyreczWPoprawianiu(odmowa)) continue;
       const QString tekst = TekstOdmowy(odmowa.MacCode(), m_towar.Kod().trimmed().isEmpty());
-      switch (PoprawLubPomin(m_import.oper, m_towar, tekst, u"Zignorować ten towar? Jesteś pewny?"_s)) {
+      switch (
+          PoprawLubPomin(m_import.oper, m_towar, {tekst, odmowa}, u"Zignorować ten towar? Jesteś pewny?"_s)) {
         case Poprawka::Poprawiono:
           break;
         case Poprawka::Stop:
@@ -82,21 +81,9 @@ bool ZapisTowaru::WyreczWPoprawianiu(const EVLTWDError& odmowa) {
 bool ZapisTowaru::PoprawSkroty() {
   bool poprawiono = false;
   for (int i = -1; i < m_towar.Kody().Ilosc(); ++i)
-    if (SkrotDoPoprawy(i)) {
+    if (m_towar.SkrotDoPoprawy(i)) {
       if (!m_towar.UtworzSkrot(i)) return false;
       poprawiono = true;
     }
   return poprawiono;
-}
-
-bool ZapisTowaru::SkrotDoPoprawy(int indeks) const {
-  const bool dodatkowy = indeks >= 0;
-  const QString skrot = dodatkowy ? m_towar.Kody()[indeks].skrot : m_towar.Skrot();
-  const TDmVLTNazwySkrocone& skroty = m_import.skroty;
-  if (!skroty.Poprawny(skrot) || skroty.SprawdzUnikalnosc(skrot, m_towar.Id(), dodatkowy).towId >= 0)
-    return true;
-  if (!dodatkowy) return false;
-  std::vector<QString> inne;
-  for (const KodDodatkowy& kod : m_towar.Kody().Wszystkie()) inne.push_back(kod.skrot);
-  return !TDmVLTNazwySkrocone::SprawdzWsrodKodow(skrot, {m_towar.Skrot(), inne}, indeks).dobry;
 }

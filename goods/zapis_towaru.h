@@ -19,7 +19,6 @@ class ZapisTowaru {
   void ZapiszIPowiadom();
   bool WyreczWPoprawianiu(const EVLTWDError& odmowa);
   bool PoprawSkroty();
-  bool SkrotDoPoprawy(int indeks) const;
 
   KontekstImportu& m_import;
   TDmVLTTowar& m_towar;

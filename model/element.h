@@ -33,8 +33,13 @@ class TDmVLTElement {
   bool CzyZmieniony() const { return Query.GetUpdatesPending(); }
   // New, or not yet stored for a reason of the record class (ExtraUnsavedTest).
   bool CzyNiezapisany() const { return CzyNowy() || ExtraUnsavedTest(); }
-  // Lets a person edit the record; false when declined or when nobody sits at a screen.
+  // Lets a person edit the record; false when declined or when nobody sits at a screen. Saves nothing. Not to
+  // be called while a transaction is open: it would stay open for as long as the person thinks (a run asks
+  // through its operator, who commits first).
   bool Edytuj();
+
+  // The session that the record works in; for forms, which read its dictionaries.
+  KontekstSesji& Sesja() const { return Context; }
 
   int SklepId() const { return m_sklepId; }
   int KopiaId() const { return m_kopiaId; }

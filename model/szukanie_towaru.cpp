@@ -37,6 +37,16 @@ bool InnyTowarMozeMiecKod(const TVLTBuforTowarow* bufor, const QString& kod, int
   return std::any_of(towary.begin(), towary.end(), [wlasneId](int towId) { return towId != wlasneId; });
 }
 
+std::vector<ZnalezionyTowar> AktywneOpakowania(TVLTBazaDanych& baza) {
+  std::vector<ZnalezionyTowar> opakowania;
+  for (auto odczyt = baza.Otworz(
+           "select TowId, Nazwa from Towar where TypTowaru = 1 and Aktywny = 1 order by Nazwa, TowId",
+           {TypPola::Calkowite, TypPola::Tekst});
+       odczyt.Nastepny();)
+    opakowania.push_back({static_cast<int>(odczyt[0].AsInteger()), odczyt[1].AsString(), true});
+  return opakowania;
+}
+
 QString OpisUzycia(const QString& czego, const QString& kod, const ZnalezionyTowar& towar) {
   return czego + QStringLiteral(" '") + kod + QStringLiteral("' jest już używany przez ") +
          (towar.aktywny ? QString() : QStringLiteral("usunięty ")) + QStringLiteral("towar [") +

@@ -21,5 +21,8 @@ std::vector<ZnalezionyTowar> TowaryZKodem(TVLTBazaDanych& baza, const TVLTBuforT
 // Whether some other good than `wlasneId` may have the code; false is certain and cost no statement.
 bool InnyTowarMozeMiecKod(const TVLTBuforTowarow* bufor, const QString& kod, int wlasneId);
 
+// Goods that can be chosen as the packaging of another, by name.
+std::vector<ZnalezionyTowar> AktywneOpakowania(TVLTBazaDanych& baza);
+
 // "Kod 'X' jest już używany przez usunięty towar [17]: Nazwa"; `czego` is "Kod", "CKU".
 QString OpisUzycia(const QString& czego, const QString& kod, const ZnalezionyTowar& towar);

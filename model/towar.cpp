@@ -167,11 +167,30 @@ void TDmVLTTowar::UstawNotatka(const QString& tekst) {
   m_notatka = tekst;
 }
 
+std::vector<QString> TDmVLTTowar::SkrotyDodatkowych() const {
+  std::vector<QString> skroty;
+  for (const KodDodatkowy& kod : m_kody.Wszystkie()) skroty.push_back(kod.skrot);
+  return skroty;
+}
+
+std::optional<QString> TDmVLTTowar::ZaproponujSkrot(const QString& nazwa, const SkrotyTowaru& skroty,
+                                                    int indeks) const {
+  auto skrot = m_otoczenie.skroty.Utworz(nazwa, skroty, indeks, Id(), true);
+  return skrot && !skrot->isEmpty() ? std::move(skrot) : std::nullopt;
+}
+
+bool TDmVLTTowar::SkrotDoPoprawy(int indeks) const {
+  const bool dodatkowy = indeks >= 0;
+  const QString skrot = dodatkowy ? m_kody[indeks].skrot : Skrot();
+  const TDmVLTNazwySkrocone& skroty = m_otoczenie.skroty;
+  if (!skroty.Poprawny(skrot) || skroty.SprawdzUnikalnosc(skrot, Id(), dodatkowy).towId >= 0) return true;
+  return dodatkowy &&
+         !TDmVLTNazwySkrocone::SprawdzWsrodKodow(skrot, {Skrot(), SkrotyDodatkowych()}, indeks).dobry;
+}
+
 bool TDmVLTTowar::UtworzSkrot(int indeks) {
-  std::vector<QString> dodatkowe;
-  for (const KodDodatkowy& kod : m_kody.Wszystkie()) dodatkowe.push_back(kod.skrot);
-  const auto skrot = m_otoczenie.skroty.Utworz(Nazwa(), {Skrot(), dodatkowe}, indeks, Id(), true);
-  if (!skrot || skrot->isEmpty()) return false;
+  const auto skrot = ZaproponujSkrot(Nazwa(), {Skrot(), SkrotyDodatkowych()}, indeks);
+  if (!skrot) return false;
   if (indeks < 0) {
     UstawSkrot(*skrot);
   } else {

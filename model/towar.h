@@ -18,6 +18,7 @@
 class TDmVLTNazwySkrocone;
 class TVLTBazaDanych;
 struct RegulyKodow;
+struct SkrotyTowaru;
 
 // Dictionary entries that were seen in the database. Whoever opens the transactions forgets them when another
 // connection has written.
@@ -191,6 +192,10 @@ class TDmVLTTowar final : public TDmVLTElement {
   bool UtworzSkrot(int indeks = -1);
   // The same for every code, main or additional, whose short name (trimmed) is empty.
   bool UtworzBrakujaceSkroty();
+  // The name UtworzSkrot would give a good with this name and these short names; the record stays as it is.
+  std::optional<QString> ZaproponujSkrot(const QString& nazwa, const SkrotyTowaru& skroty, int indeks) const;
+  // Whether a save would refuse the short name of the code with that index: against the rules, or used.
+  bool SkrotDoPoprawy(int indeks) const;
 
   // Managed by the chain's centre: it has a central code.
   bool Centralny() const;
@@ -228,6 +233,7 @@ class TDmVLTTowar final : public TDmVLTElement {
   struct Plan;
   class Walidacja;
 
+  std::vector<QString> SkrotyDodatkowych() const;
   void UstawStatus(bool aktywny);
 
   WynikWalidacji SprawdzDoPlanu(Plan& plan) const;

@@ -81,7 +81,7 @@ class TDmVLTTowar::Walidacja {
 
   WynikWalidacji Dodatkowe() {
     if (!Towar()) return {};
-    const std::vector<QString> skroty = SkrotyDodatkowych();
+    const std::vector<QString> skroty = m_t.SkrotyDodatkowych();
     const QString glowny = m_t.Skrot();
     for (int i = 0; i < m_t.m_kody.Ilosc(); ++i) {
       const KodDodatkowy& kod = m_t.m_kody[i];
@@ -102,7 +102,7 @@ class TDmVLTTowar::Walidacja {
     if (kod.isEmpty() || kod == m_plan.kod || m_t.m_kody.Indeks(kod) >= 0) return {};
     if (auto wynik = Wynik(m_o.reguly.SprawdzAutomatyczny(kod)); !wynik.Dobry()) return wynik;
     if (auto wynik = WolnyKod(kod, 2897); !wynik.Dobry()) return wynik;
-    std::vector<QString> skroty = SkrotyDodatkowych();
+    std::vector<QString> skroty = m_t.SkrotyDodatkowych();
     skroty.emplace_back();
     const int indeks = m_t.m_kody.Ilosc();
     const auto skrot = m_o.skroty.Utworz(m_t.Nazwa(), {m_t.Skrot(), skroty}, indeks, m_t.Id(), true);
@@ -110,13 +110,6 @@ class TDmVLTTowar::Walidacja {
     m_plan.kody = m_t.m_kody;
     m_plan.kody->Dodaj({0, kod, *skrot});
     return {};
-  }
-
-  std::vector<QString> SkrotyDodatkowych() const {
-    const auto& kody = m_t.m_kody.Wszystkie();
-    std::vector<QString> skroty(kody.size());
-    std::transform(kody.begin(), kody.end(), skroty.begin(), [](const KodDodatkowy& k) { return k.skrot; });
-    return skroty;
   }
 
   bool Towar() const { return m_t.TypTowaru() == ::TypTowaru::Towar; }

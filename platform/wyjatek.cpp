@@ -42,3 +42,9 @@ void EMException::UstawPrezenter(Prezenter prezenter) {
 void EMException::ShowExceptionNow(const EMException& blad) {
   if (WspolnyPrezenter()) WspolnyPrezenter()(blad);
 }
+
+QString TrescZPrzyczyna(const EMException& blad) {
+  const auto* const zPrzyczyna = dynamic_cast<const EVLTExceptionBase*>(&blad);
+  if (!zPrzyczyna || !zPrzyczyna->Przyczyna()) return blad.Tresc();
+  return blad.Tresc() + QStringLiteral("\n\nPrzyczyna: ") + TrescZPrzyczyna(*zPrzyczyna->Przyczyna());
+}

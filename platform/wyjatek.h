@@ -61,3 +61,6 @@ class EVLTExceptionBase : public EMException {
  private:
   std::shared_ptr<const EMException> m_przyczyna;
 };
+
+// What an error says, with the one that caused it below, and so on.
+QString TrescZPrzyczyna(const EMException& blad);

@@ -4,7 +4,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-Poprawka PoprawLubPomin(IOperator& oper, TDmVLTElement& rekord, const QString& odmowa,
+Poprawka PoprawLubPomin(IOperator& oper, TDmVLTElement& rekord, const OdmowaZapisu& odmowa,
                         const QString& pytanieOPominiecie) {
   for (;;) {
     const Poprawka poprawka = oper.Popraw(rekord, odmowa);
@@ -23,8 +23,8 @@ OdpowiedzLiczbaPol OperatorNieobecny::LiczbaPol(const Komunikat& pytanie) {
   return m_liczbaPol;
 }
 
-Poprawka OperatorNieobecny::Popraw(TDmVLTElement& /*rekord*/, const QString& odmowa) {
-  Powiedz({u"Uwaga"_s, odmowa}, u"rekord nie będzie poprawiany"_s);
+Poprawka OperatorNieobecny::Popraw(TDmVLTElement& /*rekord*/, const OdmowaZapisu& odmowa) {
+  Powiedz({u"Uwaga"_s, odmowa.tekst}, u"rekord nie będzie poprawiany"_s);
   return Poprawka::Zrezygnowano;
 }
 

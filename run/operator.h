@@ -7,6 +7,7 @@
 
 #include "exchange/komunikat.h"
 
+class EVLTWDError;
 class IPostep;
 class TDmVLTElement;
 
@@ -24,6 +25,13 @@ enum class Poprawka {
   Stop           // end the run
 };
 
+// Why a record could not be saved: in the words of the run's report, and what the record itself said, whose
+// code tells the field. Lives as long as the question.
+struct OdmowaZapisu {
+  QString tekst;
+  const EVLTWDError& blad;
+};
+
 // Questions a run puts to a person. Every question has an answer that does no harm ("safe"), taken when
 // nobody is there. A run asks through OperatorPaczki, which commits first: no lock is held while somebody
 // thinks.
@@ -37,7 +45,7 @@ class IOperator {
   virtual bool JestOsoba() const = 0;
   virtual OdpowiedzLiczbaPol LiczbaPol(const Komunikat& pytanie) = 0;
   // Shows why the record was refused and lets the person change it in its form.
-  virtual Poprawka Popraw(TDmVLTElement& rekord, const QString& odmowa) = 0;
+  virtual Poprawka Popraw(TDmVLTElement& rekord, const OdmowaZapisu& odmowa) = 0;
   virtual bool CzyTak(const Komunikat& pytanie, bool bezpieczna) = 0;
   // A text typed by the person; nothing when the person gives up.
   virtual std::optional<QString> PodajTekst(const Komunikat& pytanie) = 0;
@@ -45,7 +53,7 @@ class IOperator {
 
 // Asks until the person has either corrected the record or confirmed twice that it is to be left: "Nie
 // poprawiasz?", then `pytanieOPominiecie`.
-Poprawka PoprawLubPomin(IOperator& oper, TDmVLTElement& rekord, const QString& odmowa,
+Poprawka PoprawLubPomin(IOperator& oper, TDmVLTElement& rekord, const OdmowaZapisu& odmowa,
                         const QString& pytanieOPominiecie);
 
 // Nobody is there: takes the safe answer and says so, once for every text, through the progress.
@@ -57,7 +65,7 @@ class OperatorNieobecny final : public IOperator {
   void UstawPostepPrzebiegu(IPostep* postep) override { m_postep = postep ? postep : &m_wlasnyPostep; }
   bool JestOsoba() const override { return false; }
   OdpowiedzLiczbaPol LiczbaPol(const Komunikat& pytanie) override;
-  Poprawka Popraw(TDmVLTElement& rekord, const QString& odmowa) override;
+  Poprawka Popraw(TDmVLTElement& rekord, const OdmowaZapisu& odmowa) override;
   bool CzyTak(const Komunikat& pytanie, bool bezpieczna) override;
   std::optional<QString> PodajTekst(const Komunikat& pytanie) override;
 

@@ -79,7 +79,7 @@ OdpowiedzLiczbaPol OperatorPaczki::LiczbaPol(const Komunikat& pytanie) {
   return PozaPaczka([&] { return m_oper.LiczbaPol(pytanie); });
 }
 
-Poprawka OperatorPaczki::Popraw(TDmVLTElement& rekord, const QString& odmowa) {
+Poprawka OperatorPaczki::Popraw(TDmVLTElement& rekord, const OdmowaZapisu& odmowa) {
   return PozaPaczka([&] { return m_oper.Popraw(rekord, odmowa); });
 }
 

@@ -74,7 +74,7 @@ class OperatorPaczki final : public IOperator {
 
   bool JestOsoba() const override { return m_oper.JestOsoba(); }
   OdpowiedzLiczbaPol LiczbaPol(const Komunikat& pytanie) override;
-  Poprawka Popraw(TDmVLTElement& rekord, const QString& odmowa) override;
+  Poprawka Popraw(TDmVLTElement& rekord, const OdmowaZapisu& odmowa) override;
   bool CzyTak(const Komunikat& pytanie, bool bezpieczna) override;
   std::optional<QString> PodajTekst(const Komunikat& pytanie) override;
 

@@ -102,5 +102,5 @@ bool Rozmowa::CzyTak(QWidget* rodzic, const Komunikat& pytanie) {
 
 void Rozmowa::PokazBlad(QWidget* rodzic, const EMException& blad) {
   constexpr Ikona kIkony[] = {Ikona::Critical, Ikona::Warning, Ikona::Information};
-  Powiedz(rodzic, {blad.Naglowek(), blad.Tresc()}, kIkony[static_cast<int>(blad.Klasa())]);
+  Powiedz(rodzic, {blad.Naglowek(), TrescZPrzyczyna(blad)}, kIkony[static_cast<int>(blad.Klasa())]);
 }

@@ -48,6 +48,6 @@ class Rozmowa {
   void Powiedz(QWidget* rodzic, const Komunikat& komunikat, Ikona ikona = Ikona::Warning);
   // "Tak" and "Nie", the latter the default.
   bool CzyTak(QWidget* rodzic, const Komunikat& pytanie);
-  // Caption, title and description of an error; the icon tells its severity.
+  // Caption, title, description and cause of an error; the icon tells its severity.
   void PokazBlad(QWidget* rodzic, const EMException& blad);
 };

@@ -37,13 +37,18 @@ class OperatorTestowy final : public IOperator {
  public:
   OdpowiedzLiczbaPol liczbaPol = OdpowiedzLiczbaPol::Przerwij;
   Poprawka poprawka = Poprawka::Zrezygnowano;
+  // What the person does with the record; without it the answer above.
+  std::function<Poprawka(TDmVLTElement&, const OdmowaZapisu&)> popraw;
   std::optional<QString> tekst;
   std::function<void()> przyPytaniu = [] {};
   QStringList pytania;
 
   bool JestOsoba() const override { return true; }
   OdpowiedzLiczbaPol LiczbaPol(const Komunikat& pytanie) override { return Zapisz(pytanie.tekst), liczbaPol; }
-  Poprawka Popraw(TDmVLTElement&, const QString& odmowa) override { return Zapisz(odmowa), poprawka; }
+  Poprawka Popraw(TDmVLTElement& rekord, const OdmowaZapisu& odmowa) override {
+    Zapisz(odmowa.tekst);
+    return popraw ? popraw(rekord, odmowa) : poprawka;
+  }
   bool CzyTak(const Komunikat& pytanie, bool bezpieczna) override {
     return Zapisz(pytanie.tekst), bezpieczna;
   }

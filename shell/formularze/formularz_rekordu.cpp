@@ -1,0 +1,148 @@
+#include "shell/formularze/formularz_rekordu.h"
+
+#include <algorithm>
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+
+#include "model/bledy.h"
+#include "model/element.h"
+#include "shell/formularze/etykieta_bledu.h"
+#include "shell/kontrolki/pasek_przyciskow.h"
+#include "shell/rozmowa.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int kPrzerwano = QDialog::Accepted + 1;
+constexpr int kPrzekroczonyZakres = 2006;
+
+QString Podpis(const OpisPolaFormularza& pole, RodzajRekordu katalog) {
+  const std::u16string_view podpis =
+      pole.podpis.empty() ? KatalogPol(katalog)[static_cast<std::size_t>(pole.pole)].nazwa : pole.podpis;
+  return QStringView(podpis).toString();
+}
+
+}  // namespace
+
+TFmVLTFormularzRekordu::~TFmVLTFormularzRekordu() = default;
+
+void TFmVLTFormularzRekordu::Zbuduj(const OpisFormularza& opis) {
+  m_opis = opis;
+  findChild<QLabel*>(u"lbOdmowa"_s)->hide();
+  DodajPola();
+  DodajPrzyciski();
+  PrzejdzDo(m_pola.front()->Kontrolka());
+}
+
+void TFmVLTFormularzRekordu::DodajPola() {
+  QWidget* poprzednia = nullptr;
+  for (const OpisPolaFormularza& opis : m_opis.pola) {
+    auto& uklad = static_cast<QFormLayout&>(*findChild<QGroupBox*>(QLatin1String(opis.grupa))->layout());
+    const QString podpis = Podpis(opis, m_opis.katalog);
+    m_pola.push_back(
+        PoleFormularza::Utworz(opis, podpis, m_rekord.Query.Field(opis.kolumna), m_rekord.Sesja()).release());
+    PoleFormularza* const pole = m_pola.back();
+    auto* const etykieta = opis.rodzaj == RodzajPola::Flaga ? nullptr : new QLabel(podpis);
+    uklad.addRow(etykieta, pole);
+    if (etykieta) etykieta->setBuddy(&pole->Kontrolka());
+    if (poprzednia) setTabOrder(poprzednia, &pole->Kontrolka());
+    poprzednia = &pole->Kontrolka();
+  }
+}
+
+void TFmVLTFormularzRekordu::DodajPrzyciski() {
+  auto* const pasek = new TMStatusButtonBar(this);
+  pasek->Dodaj(u"Zapisz"_s, u"Zapisz"_s, u"F2"_s);
+  pasek->Dodaj(u"PrzerwijImport"_s, u"Przerwij import"_s, {});
+  pasek->Dodaj(u"Rezygnuj"_s, u"Rezygnuj"_s, u"Esc"_s);
+  pasek->ButtonClick = [this](const TMStatusButton& przycisk) {
+    if (przycisk.IsTheSameName(u"Zapisz"))
+      Zatwierdz();
+    else
+      done(przycisk.IsTheSameName(u"Rezygnuj") ? QDialog::Rejected : kPrzerwano);
+  };
+  pasek->findChild<QPushButton*>(u"Zapisz"_s)->setDefault(true);
+  layout()->addWidget(pasek);
+}
+
+bool TFmVLTFormularzRekordu::PokazModalnie() {
+  findChild<QPushButton*>(u"PrzerwijImport"_s)->hide();
+  return m_rozmowa.Pokaz(*this) == QDialog::Accepted;
+}
+
+Poprawka TFmVLTFormularzRekordu::Popraw(const OdmowaZapisu& odmowa) {
+  PokazOdmowe(odmowa);
+  switch (m_rozmowa.Pokaz(*this)) {
+    case QDialog::Accepted:
+      return Poprawka::Poprawiono;
+    case kPrzerwano:
+      return Poprawka::Stop;
+    default:
+      return Poprawka::Zrezygnowano;
+  }
+}
+
+void TFmVLTFormularzRekordu::PokazOdmowe(const OdmowaZapisu& odmowa) {
+  auto& naglowek = *findChild<QLabel*>(u"lbOdmowa"_s);
+  naglowek.setText(odmowa.tekst.trimmed());
+  naglowek.show();
+  if (PokazOdmoweSzczegolu(odmowa.blad)) return;
+  if (odmowa.blad.MacCode() == kPrzekroczonyZakres && !Sprawdz()) return;
+  if (PoleFormularza* const pole = PoleOdmowy(odmowa.blad.MacCode())) {
+    pole->PokazBlad(odmowa.blad.Tresc());
+    PrzejdzDo(pole->Kontrolka());
+  } else {
+    naglowek.setText(naglowek.text() + u'\n' + TrescZPrzyczyna(odmowa.blad));
+  }
+}
+
+PoleFormularza* TFmVLTFormularzRekordu::PoleOdmowy(int kod) {
+  const auto blad = std::find_if(m_opis.bledy.begin(), m_opis.bledy.end(),
+                                 [kod](const PoleBledu& pole) { return pole.kod == kod; });
+  return blad == m_opis.bledy.end() ? nullptr : &Pole(blad->kolumna);
+}
+
+PoleFormularza& TFmVLTFormularzRekordu::Pole(std::size_t kolumna) {
+  return **std::find_if(m_pola.begin(), m_pola.end(),
+                        [kolumna](const PoleFormularza* pole) { return pole->Kolumna() == kolumna; });
+}
+
+void TFmVLTFormularzRekordu::PrzejdzDo(QWidget& kontrolka) {
+  auto& zakladki = *findChild<QTabWidget*>();
+  for (int i = 0; i < zakladki.count(); ++i)
+    if (zakladki.widget(i)->isAncestorOf(&kontrolka)) zakladki.setCurrentIndex(i);
+  kontrolka.setFocus();
+}
+
+void TFmVLTFormularzRekordu::Sprobuj(const std::function<void()>& czynnosc) {
+  try {
+    czynnosc();
+  } catch (const EMException& blad) {
+    m_rozmowa.PokazBlad(this, blad);
+  }
+}
+
+// Every fault is shown, the focus goes to the first.
+bool TFmVLTFormularzRekordu::Sprawdz() {
+  QWidget* pierwsza = nullptr;
+  for (PoleFormularza* const pole : m_pola)
+    if (!pole->Sprawdz() && !pierwsza) pierwsza = &pole->Kontrolka();
+  QWidget* const wSzczegolach = SprawdzSzczegoly();
+  if (!pierwsza) pierwsza = wSzczegolach;
+  if (pierwsza) PrzejdzDo(*pierwsza);
+  return !pierwsza;
+}
+
+void TFmVLTFormularzRekordu::Zatwierdz() {
+  // A cell that is being edited hands over its text when it loses the focus.
+  if (QWidget* const aktywna = focusWidget()) aktywna->clearFocus();
+  if (!Sprawdz()) return;
+  for (PoleFormularza* const pole : m_pola) pole->Wpisz(m_rekord.Query.Field(pole->Kolumna()));
+  WpiszSzczegoly();
+  accept();
+}
