@@ -44,7 +44,7 @@ DialogListyPol::DialogListyPol(QWidget* rodzic, KontekstOkna& kontekst, const St
   const bool towary = struktura.rodzaj == RodzajRekordu::Towary;
   setWindowTitle(towary ? u"Lista pól pliku towarów"_s : u"Lista pól pliku kontrahentów"_s);
   m_ui->lbKatalog->setText(windowTitle());
-  m_podglad = new WidokPodgladu(m_ui->gbPodglad, kontekst.rozmowa, plik);
+  m_podglad = new WidokPodgladu(m_ui->gbPodglad, kontekst.rozmowa);
   m_ui->ukladPodgladu->addWidget(m_podglad);
   UlozKatalog();
   UlozWybrane();

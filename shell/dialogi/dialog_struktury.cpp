@@ -51,7 +51,7 @@ DialogStruktury::DialogStruktury(QWidget* rodzic, KontekstOkna& kontekst, const 
       m_kontekst(kontekst),
       m_struktura(struktura) {
   m_ui->setupUi(this);
-  m_podglad = new WidokPodgladu(m_ui->gbPodglad, kontekst.rozmowa, plik);
+  m_podglad = new WidokPodgladu(m_ui->gbPodglad, kontekst.rozmowa);
   m_ui->ukladPodgladu->addWidget(m_podglad);
   UlozKontrolki();
 

@@ -4,8 +4,8 @@
 
 #include "model/bledy.h"
 #include "shell/dialogi/pasek_dialogu.h"
-#include "shell/dialogi/rozmiar_okna.h"
 #include "shell/kontekst_okna.h"
+#include "shell/kontrolki/pamiec_okien.h"
 #include "shell/rozmowa.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -17,6 +18,7 @@
 
 #include "shell/dialogi/podglad_pliku.h"
 #include "shell/dialogi/siatka.h"
+#include "shell/kontrolki/filtry_plikow.h"
 #include "shell/rozmowa.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -25,11 +27,6 @@ namespace {
 
 constexpr std::chrono::milliseconds kZwloka{200};
 constexpr int kNajszerszaKolumna = 260;
-
-QString Filtr(TypPliku typ) {
-  return typ == TypPliku::DBase ? u"Pliki DBF (*.dbf);;Wszystkie pliki (*)"_s
-                                : u"Pliki tekstowe (*.txt);;Wszystkie pliki (*)"_s;
-}
 
 // All reasons against the file, then the records that would make the run stop.
 QString TekstUwag(const PodgladPliku& podglad) {
@@ -44,17 +41,23 @@ QString TekstUwag(const PodgladPliku& podglad) {
   return uwagi.join(u'\n');
 }
 
+// The name first: a long folder is cut at its end.
+QString OpisPliku(const QString& plik) {
+  const QFileInfo opis(plik);
+  return opis.fileName() + u"  –  "_s + QDir::toNativeSeparators(opis.path());
+}
+
 }  // namespace
 
-WidokPodgladu::WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa, QString plik)
+WidokPodgladu::WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa)
     : QWidget(rodzic),
       m_rozmowa(rozmowa),
-      m_plik(std::move(plik)),
       m_nazwaPliku(new QLabel(this)),
       m_uklad(new QStackedLayout),
       m_tabela(new QTableWidget(this)),
       m_uwagi(new QLabel(this)) {
   m_nazwaPliku->setTextFormat(Qt::PlainText);
+  m_nazwaPliku->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* const wybierz = new QPushButton(u"Wybierz &plik…"_s, this);
   wybierz->setObjectName(u"WybierzPlik"_s);
   wybierz->setAutoDefault(false);
@@ -99,20 +102,21 @@ void WidokPodgladu::UstawStrukture(const StrukturaPliku& struktura) {
 }
 
 void WidokPodgladu::UstawPlik(const QString& plik) {
-  m_plik = plik;
+  m_plik = QDir::fromNativeSeparators(plik);
   Odswiez();
 }
 
 void WidokPodgladu::WybierzPlik() {
   const auto plik = m_rozmowa.WybierzDoOdczytu(this, {.tytul = u"Plik do podglądu"_s,
                                                       .sciezka = m_plik.isEmpty() ? QDir::homePath() : m_plik,
-                                                      .filtr = Filtr(m_struktura.CBTypPliku)});
+                                                      .filtr = FiltrImportu(m_struktura.CBTypPliku)});
   if (plik) UstawPlik(*plik);
 }
 
 void WidokPodgladu::Odswiez() {
   m_zwloka.stop();
-  m_nazwaPliku->setText(QDir::toNativeSeparators(m_plik));
+  m_nazwaPliku->setText(m_plik.isEmpty() ? QString() : OpisPliku(m_plik));
+  m_nazwaPliku->setToolTip(QDir::toNativeSeparators(m_plik));
   m_uklad->setCurrentIndex(m_plik.isEmpty() ? 0 : 1);
   m_ponow = m_czyta;
   if (m_czyta) return;

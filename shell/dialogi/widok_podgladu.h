@@ -17,7 +17,7 @@ struct PodgladPliku;
 // anew a moment after the last change of the structure, beside the window: a file may lie far away.
 class WidokPodgladu final : public QWidget {
  public:
-  WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa, QString plik);
+  WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa);
 
   void UstawStrukture(const StrukturaPliku& struktura);
   // The file being looked at; another one may have been chosen here.

@@ -2,9 +2,9 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSettings>
 
-#include "platform/baza/polaczenie.h"
+#include "shell/kontrolki/filtry_plikow.h"
+#include "shell/kontrolki/pamiec_okien.h"
 #include "shell/rozmowa.h"
 #include "ustawienia/magazyn_ustawien.h"
 #include "ustawienia/rodzaje_przebiegow.h"
@@ -14,20 +14,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// The caption shown, then the pattern, which the dialog hides.
-constexpr std::u16string_view kTekstowe = u"Pliki tekstowe (*.txt) (*.txt);;Wszystkie pliki (*.*) (*)";
-constexpr std::u16string_view kDbf = u"Pliki DBF (*.dbf) (*.dbf);;Wszystkie pliki (*.*) (*)";
 constexpr std::u16string_view kEksportu = u"pliki tekstowe (*.txt) (*.txt);;Wszystkie pliki (*.*) (*)";
 constexpr std::u16string_view kKonfiguracji =
     u"Pliki konfiguracji Zorvika (Zorvik*.cfg) (*.cfg);;Wszystkie pliki (*.*) (*)";
 
 QString Napis(std::u16string_view tekst) {
   return QStringView(tekst).toString();
-}
-
-QSettings OstatnieFoldery() {
-  const QDir folder = QFileInfo(ParametryPolaczenia::PlikDomyslnych()).dir();
-  return QSettings(folder.filePath(u"okno.ini"_s), QSettings::IniFormat);
 }
 
 QString KluczFolderu(const RodzajPrzebiegu& rodzaj) {
@@ -41,13 +33,9 @@ QString WIstniejacymFolderze(const QString& plik) {
 }
 
 QString Proponowany(const RodzajPrzebiegu& rodzaj, const QString& plik) {
-  const QString folder = OstatnieFoldery().value(KluczFolderu(rodzaj)).toString();
+  const QString folder = PamiecOkien().value(KluczFolderu(rodzaj)).toString();
   if (folder.isEmpty() || !QDir(folder).exists()) return WIstniejacymFolderze(plik);
   return QDir(folder).filePath(QFileInfo(QDir::fromNativeSeparators(plik)).fileName());
-}
-
-std::u16string_view FiltrImportu(const StrukturaPliku& struktura) {
-  return struktura.CBTypPliku == TypPliku::DBase ? kDbf : kTekstowe;
 }
 
 std::optional<QString> Wybierz(QWidget* okno, Rozmowa& rozmowa, Kierunek kierunek,
@@ -64,16 +52,17 @@ std::optional<QString> Wybierz(QWidget* okno, Rozmowa& rozmowa, Kierunek kierune
 std::optional<QString> WybierzPlikPrzebiegu(QWidget* okno, Rozmowa& rozmowa, const RodzajPrzebiegu& rodzaj,
                                             const Ustawienia& ustawienia) {
   const bool import = rodzaj.kierunek == Kierunek::Import;
-  return Wybierz(okno, rozmowa, rodzaj.kierunek,
-                 {.tytul = Napis(rodzaj.tytul),
-                  .sciezka = Proponowany(rodzaj, ustawienia.*rodzaj.plik),
-                  .filtr = Napis(import ? FiltrImportu(ustawienia.*rodzaj.struktura) : kEksportu),
-                  .rozszerzenie = u"txt"_s});
+  return Wybierz(
+      okno, rozmowa, rodzaj.kierunek,
+      {.tytul = Napis(rodzaj.tytul),
+       .sciezka = Proponowany(rodzaj, ustawienia.*rodzaj.plik),
+       .filtr = import ? FiltrImportu((ustawienia.*rodzaj.struktura).CBTypPliku) : Napis(kEksportu),
+       .rozszerzenie = u"txt"_s});
 }
 
 void ZapamietajPlikPrzebiegu(const RodzajPrzebiegu& rodzaj, const QString& plik, Ustawienia& ustawienia) {
   ustawienia.*rodzaj.plik = QDir::toNativeSeparators(plik);
-  OstatnieFoldery().setValue(KluczFolderu(rodzaj), QFileInfo(plik).absolutePath());
+  PamiecOkien().setValue(KluczFolderu(rodzaj), QFileInfo(plik).absolutePath());
 }
 
 std::optional<QString> WybierzPlikKonfiguracji(QWidget* okno, Rozmowa& rozmowa, Kierunek kierunek,

@@ -77,21 +77,23 @@ TEST_F(DialogStrukturyTest, TypPlikuMowiCoMoznaWpisac) {
 }
 
 TEST_F(DialogStrukturyTest, SeparatorZWyboruIZPowrotem) {
-  for (const auto& [wybor, inny, separator] :
-       std::initializer_list<std::tuple<QString, QString, QString>>{{"rbTabulator", "", "\t"},
-                                                                    {"rbSrednik", "", ";"},
-                                                                    {"rbInny", "||", "||"},
-                                                                    {"rbInny", " ", " "},
-                                                                    {"rbBrakSeparatora", "", ""}}) {
+  const struct {
+    QString wybor, inny, separator;
+  } kWybory[] = {{"rbTabulator", "", "\t"},
+                 {"rbSrednik", "", ";"},
+                 {"rbInny", "||", "||"},
+                 {"rbInny", " ", " "},
+                 {"rbBrakSeparatora", "", ""}};
+  for (const auto& w : kWybory) {
     towary.CBTypPliku = TypPliku::StalaSzerokosc;
     EXPECT_TRUE(Edytuj(towary, [&](QDialog& dialog) {
-      Kliknij(dialog, wybor);
-      Wpisz(dialog, "EdInnySeparator", inny);
+      Kliknij(dialog, w.wybor);
+      Wpisz(dialog, "EdInnySeparator", w.inny);
     }));
-    EXPECT_EQ(towary.separator, separator);
+    EXPECT_EQ(towary.separator, w.separator);
     DialogStruktury ponownie(nullptr, kontekst, towary, {});
-    EXPECT_TRUE(Znajdz<QAbstractButton>(ponownie, wybor).isChecked());
-    EXPECT_EQ(Znajdz<QLineEdit>(ponownie, "EdInnySeparator").text(), inny);
+    EXPECT_TRUE(Znajdz<QAbstractButton>(ponownie, w.wybor).isChecked());
+    EXPECT_EQ(Znajdz<QLineEdit>(ponownie, "EdInnySeparator").text(), w.inny);
   }
 }
 

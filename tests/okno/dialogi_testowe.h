@@ -5,7 +5,6 @@
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QLineEdit>
-#include <QSettings>
 
 #include "database/schemat.h"
 #include "shell/dialogi/dialogi.h"
@@ -16,7 +15,6 @@
 // The dialogs with a person who answers by the book, on a database that knows VAT rates.
 struct DialogiTestowe : testing::Test {
   DialogiTestowe() {
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
     UtworzBaze(b.baza, {});
     b.Polacz(kontekst.baza);
     UstawStawki({2300, 800, 550, -1});
@@ -59,7 +57,4 @@ struct DialogiTestowe : testing::Test {
   BazaTestowa b;
   RozmowaTestowa rozmowa;
   KontekstOkna kontekst{.rozmowa = rozmowa};
-
- private:
-  QTemporaryDir m_folder;  // of remembered sizes
 };
