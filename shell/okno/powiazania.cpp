@@ -4,7 +4,7 @@
 
 #include <QMetaProperty>
 #include <QRadioButton>
-#include <QSignalBlocker>
+#include <QScopedValueRollback>
 
 #include "ustawienia/tabela_ustawien.h"
 
@@ -38,12 +38,12 @@ QString Odczytaj(const QWidget& kontrolka) {
 // A control that shows the value already keeps its cursor and its selection.
 void Wpisz(QWidget& kontrolka, const QString& tekst) {
   if (Odczytaj(kontrolka) == tekst) return;
-  const QSignalBlocker cisza(kontrolka);
+  // Loaded settings may leave a whole group of radio buttons unchecked; a click never does.
   auto* const wybor = qobject_cast<QRadioButton*>(&kontrolka);
-  // Loaded settings may leave none of a group checked, or several; after a click it is one.
-  if (wybor) wybor->setAutoExclusive(false);
+  const bool odznacz = wybor && tekst == u"0";
+  if (odznacz) wybor->setAutoExclusive(false);
   Wlasciwosc(kontrolka).write(&kontrolka, tekst);
-  if (wybor) wybor->setAutoExclusive(true);
+  if (odznacz) wybor->setAutoExclusive(true);
 }
 
 std::vector<QWidget*> Kontrolki(const QWidget& okno, const Ustawienie& ustawienie) {
@@ -78,6 +78,7 @@ Powiazania::Powiazania(QWidget& okno, Ustawienia& ustawienia) : m_ustawienia(ust
 }
 
 void Powiazania::Pokaz() {
+  const QScopedValueRollback pokazuje(m_pokazuje, true);
   for (const auto& [ustawienie, kontrolki] : m_powiazania) {
     const QString tekst = ustawienie->odczytaj(m_ustawienia);
     if (ustawienie->przyciski.empty()) {
@@ -90,10 +91,8 @@ void Powiazania::Pokaz() {
 }
 
 void Powiazania::Zmieniono() {
-  QObject* const kontrolka = sender();
-  if (const auto* wybrany = qobject_cast<QRadioButton*>(kontrolka); wybrany && wybrany->isChecked())
-    for (QObject* const inny : wybrany->parent()->children())
-      if (inny != wybrany && inny->inherits("QRadioButton")) Wpisz(*qobject_cast<QWidget*>(inny), u"0"_s);
+  if (m_pokazuje) return;
+  const QObject* const kontrolka = sender();
   for (const Powiazanie& powiazanie : m_powiazania)
     if (std::any_of(powiazanie.kontrolki.begin(), powiazanie.kontrolki.end(),
                     [&](const QWidget* inna) { return Rodzenstwo(kontrolka, inna); }))

@@ -36,4 +36,5 @@ class Powiazania final : public QObject {
 
   Ustawienia& m_ustawienia;
   std::vector<Powiazanie> m_powiazania;
+  bool m_pokazuje = false;
 };
