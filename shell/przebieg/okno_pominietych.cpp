@@ -7,10 +7,10 @@
 #include <QDialog>
 #include <QDir>
 #include <QFileInfo>
-#include <QHeaderView>
 #include <QUrl>
 
 #include "run/raport_problemow.h"
+#include "shell/dialogi/siatka.h"
 #include "shell/przebieg/model_pominietych.h"
 #include "shell/rozmowa.h"
 #include "ui_okno_pominietych.h"
@@ -21,7 +21,7 @@ namespace {
 
 // In characters.
 constexpr int kSzerokosciKolumn[] = {18, 36};
-constexpr int kSzerokosc = 110;
+constexpr int kSzerokosc = 120;
 constexpr int kWierszy = 34;
 
 // What the first column of the file holds.
@@ -51,7 +51,7 @@ class Tfrm_pominiete final : public QDialog {
     const int znak = fontMetrics().averageCharWidth();
     for (int kolumna = 0; kolumna < static_cast<int>(std::size(kSzerokosciKolumn)); ++kolumna)
       m_ui.tabela->setColumnWidth(kolumna, kSzerokosciKolumn[kolumna] * znak);
-    m_ui.tabela->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
+    UlozSiatke(*m_ui.tabela);
     resize(kSzerokosc * znak, kWierszy * fontMetrics().lineSpacing());
     m_ui.otworz->setToolTip(QDir::toNativeSeparators(plik));
     WypelnijPowody(*m_ui.powod, m_model.Lista());
