@@ -9,4 +9,11 @@ class EtykietaBledu : public QLabel {
 
   // The control's description for screen readers says the same. An empty text: nothing is wrong.
   void Pokaz(QWidget& kontrolka, const QString& blad);
+
+ protected:
+  void resizeEvent(QResizeEvent* zdarzenie) override;
+  void showEvent(QShowEvent* zdarzenie) override;
+
+ private:
+  void DopasujWysokosc();
 };

@@ -75,6 +75,9 @@ TFmVLTFormularzKontrahenta::TFmVLTFormularzKontrahenta(QWidget* rodzic, Rozmowa&
       m_ui(std::make_unique<Ui::FormularzKontrahenta>()) {
   m_ui->setupUi(this);
   Zbuduj(Opis());
+  setTabOrder(&Pole(K::Staly).Kontrolka(), m_ui->gbSklep);
+  setTabOrder(m_ui->gbSklep, &Pole(K::NrSklepu).Kontrolka());
+  setTabOrder(&Pole(K::PoziomRabatu).Kontrolka(), m_ui->osoby);
   m_ui->gbSklep->setChecked(kontrahent.Sklep());
   for (const QString& osoba : kontrahent.Osoby()) m_ui->osoby->appendPlainText(osoba);
   m_ui->osoby->document()->setModified(false);

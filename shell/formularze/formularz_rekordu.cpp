@@ -36,6 +36,7 @@ void TFmVLTFormularzRekordu::Zbuduj(const OpisFormularza& opis) {
   findChild<QLabel*>(u"lbOdmowa"_s)->hide();
   DodajPola();
   DodajPrzyciski();
+  setWindowTitle(windowTitle() + u" – "_s + Znak());
   PrzejdzDo(m_pola.front()->Kontrolka());
 }
 
@@ -53,6 +54,14 @@ void TFmVLTFormularzRekordu::DodajPola() {
     if (poprzednia) setTabOrder(poprzednia, &pole->Kontrolka());
     poprzednia = &pole->Kontrolka();
   }
+}
+
+// What the record is known by while another page hides its first fields.
+QString TFmVLTFormularzRekordu::Znak() const {
+  const auto tekst = [this](int numer) {
+    return m_rekord.Query.Field(m_opis.pola[static_cast<std::size_t>(numer)].kolumna).AsString();
+  };
+  return tekst(0).isEmpty() ? tekst(1) : tekst(0);
 }
 
 void TFmVLTFormularzRekordu::DodajPrzyciski() {
@@ -139,7 +148,7 @@ bool TFmVLTFormularzRekordu::Sprawdz() {
 }
 
 void TFmVLTFormularzRekordu::Zatwierdz() {
-  // A cell that is being edited hands over its text when it loses the focus.
+  // What is still being typed counts as left: a cell hands over its text, a name makes a short name.
   if (QWidget* const aktywna = focusWidget()) aktywna->clearFocus();
   if (!Sprawdz()) return;
   for (PoleFormularza* const pole : m_pola) pole->Wpisz(m_rekord.Query.Field(pole->Kolumna()));

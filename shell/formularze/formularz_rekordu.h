@@ -68,6 +68,7 @@ class TFmVLTFormularzRekordu : public QDialog, public TFmVLTFormularzElementu {
  private:
   void DodajPola();
   void DodajPrzyciski();
+  QString Znak() const;
   bool Sprawdz();
   void Zatwierdz();
   void PokazOdmowe(const OdmowaZapisu& odmowa);

@@ -65,6 +65,9 @@ constexpr PoleBledu kBledy[] = {
 constexpr int kBledyKodow[] = {2827, 2828, 2830, 2895};
 constexpr int kBledySkrotow[] = {2819, 2823, 2824};
 
+// The name has no words, or every name made of it is taken.
+const QString kBrakSkrotu = u"Błąd nadania unikalnej nazwy skróconej"_s;
+
 bool Jednym(std::span<const int> kody, int kod) {
   return std::find(kody.begin(), kody.end(), kod) != kody.end();
 }
@@ -104,11 +107,14 @@ void TFmVLTFormularzTowaru::PolaczPrzyciski() {
 
   TabelaKodow& tabela = *m_ui->tabelaKodow;
   connect(m_ui->DodajKod, &QPushButton::clicked, &tabela, [&tabela] { tabela.DodajWiersz(); });
-  connect(m_ui->UsunKod, &QPushButton::clicked, &tabela, [&tabela] { tabela.UsunBiezacy(); });
+  connect(m_ui->UsunKod, &QPushButton::clicked, this, [this, &tabela] {
+    tabela.UsunBiezacy();
+    SprawdzNumeryKodow();
+  });
   connect(m_ui->ZaproponujSkrotKodu, &QPushButton::clicked, this, [this, &tabela] {
     if (tabela.currentRow() >= 0) ZaproponujSkrot(tabela.currentRow());
   });
-  connect(&tabela, &QTableWidget::itemChanged, this, [this] { SprawdzSzczegoly(); });
+  connect(&tabela, &QTableWidget::itemChanged, this, [this] { SprawdzNumeryKodow(); });
 }
 
 void TFmVLTFormularzTowaru::ZaproponujSkrot(int wiersz) {
@@ -119,8 +125,11 @@ void TFmVLTFormularzTowaru::ZaproponujSkrot(int wiersz) {
   Sprobuj([&] {
     const auto skrot = m_towar.ZaproponujSkrot(KontrolkaPola<QLineEdit>(K::Nazwa).text(),
                                                {glowny.text(), dodatkowe}, wiersz);
-    if (!skrot) return;
-    if (wiersz < 0)
+    if (!skrot && wiersz < 0)
+      Pole(K::Skrot).PokazBlad(kBrakSkrotu);
+    else if (!skrot)
+      m_ui->bladKodow->Pokaz(tabela, kBrakSkrotu);
+    else if (wiersz < 0)
       glowny.setText(*skrot);
     else
       tabela.UstawTekst(wiersz, TabelaKodow::Skrot, *skrot);
@@ -130,7 +139,9 @@ void TFmVLTFormularzTowaru::ZaproponujSkrot(int wiersz) {
 bool TFmVLTFormularzTowaru::PokazOdmoweSzczegolu(const EVLTWDError& blad) {
   const int wiersz = WierszOdmowy(blad);
   if (wiersz < 0) return false;
-  PokazBladKodu(wiersz, blad.Tresc());
+  m_ui->tabelaKodow->setCurrentCell(
+      wiersz, Jednym(kBledySkrotow, blad.MacCode()) ? TabelaKodow::Skrot : TabelaKodow::Kod);
+  m_ui->bladKodow->Pokaz(*m_ui->tabelaKodow, blad.Tresc());
   PrzejdzDo(*m_ui->tabelaKodow);
   return true;
 }
@@ -151,17 +162,22 @@ int TFmVLTFormularzTowaru::WierszOdmowy(const EVLTWDError& blad) const {
   return -1;
 }
 
-void TFmVLTFormularzTowaru::PokazBladKodu(int wiersz, const QString& blad) {
-  if (wiersz >= 0) m_ui->tabelaKodow->setCurrentCell(wiersz, TabelaKodow::Kod);
-  m_ui->bladKodow->Pokaz(*m_ui->tabelaKodow, blad);
+// The row of the first number that is none, which is told below the table; -1 when all are good.
+int TFmVLTFormularzTowaru::SprawdzNumeryKodow() {
+  const TabelaKodow& tabela = *m_ui->tabelaKodow;
+  const int zly = tabela.WierszZlegoNumeru();
+  m_ui->bladKodow->Pokaz(*m_ui->tabelaKodow,
+                         zly < 0 ? QString()
+                                 : u"Wiersz %1: "_s.arg(zly + 1) +
+                                       WadaTekstu(RodzajPola::Liczba, tabela.Tekst(zly, TabelaKodow::PLU)));
+  return zly;
 }
 
 QWidget* TFmVLTFormularzTowaru::SprawdzSzczegoly() {
-  TabelaKodow& tabela = *m_ui->tabelaKodow;
-  const int zly = tabela.WierszZlegoNumeru();
-  PokazBladKodu(zly,
-                zly < 0 ? QString() : WadaTekstu(RodzajPola::Liczba, tabela.Tekst(zly, TabelaKodow::PLU)));
-  return zly < 0 ? nullptr : &tabela;
+  const int zly = SprawdzNumeryKodow();
+  if (zly < 0) return nullptr;
+  m_ui->tabelaKodow->setCurrentCell(zly, TabelaKodow::PLU);
+  return m_ui->tabelaKodow;
 }
 
 void TFmVLTFormularzTowaru::WpiszSzczegoly() {

@@ -25,7 +25,7 @@ class TFmVLTFormularzTowaru final : public TFmVLTFormularzRekordu {
   void PolaczPrzyciski();
   // For the main code (-1) or the additional code of a row; the form's texts count, not the record's.
   void ZaproponujSkrot(int wiersz);
-  void PokazBladKodu(int wiersz, const QString& blad);
+  int SprawdzNumeryKodow();
   int WierszOdmowy(const EVLTWDError& blad) const;
 
   TDmVLTTowar& m_towar;

@@ -14,6 +14,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int kZnakowTekstu = 40;
+constexpr int kZnakowLiczby = 12;
 constexpr int kZnakowListy = 16;
 constexpr int kWierszyListy = 20;
 
@@ -26,7 +28,10 @@ class PoleTekstowe final : public PoleFormularza {
         m_poprzedni(PokazKolumne(m_rodzaj, kolumna)) {
     m_edycja.setText(m_poprzedni);
     m_edycja.setCursorPosition(0);
-    if (m_rodzaj != RodzajPola::Tekst && m_rodzaj != RodzajPola::Data) m_edycja.setAlignment(Qt::AlignRight);
+    const bool tekst = m_rodzaj == RodzajPola::Tekst;
+    m_edycja.setMinimumWidth(m_edycja.fontMetrics().averageCharWidth() *
+                             (tekst ? kZnakowTekstu : kZnakowLiczby));
+    if (!tekst && m_rodzaj != RodzajPola::Data) m_edycja.setAlignment(Qt::AlignRight);
     connect(&m_edycja, &QLineEdit::editingFinished, this, [this] {
       if (m_edycja.isModified()) Sprawdz();
     });

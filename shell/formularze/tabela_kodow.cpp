@@ -1,8 +1,10 @@
 #include "shell/formularze/tabela_kodow.h"
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 
 #include "platform/liczby.h"
+#include "shell/dialogi/siatka.h"
 #include "shell/formularze/pole_formularza.h"
 #include "shell/formularze/postac_pola.h"
 
@@ -15,8 +17,7 @@ TabelaKodow::TabelaKodow(QWidget* rodzic) : QTableWidget(rodzic) {
   horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   setSelectionMode(SingleSelection);
   setEditTriggers(DoubleClicked | SelectedClicked | AnyKeyPressed);
-  // Tab goes on to the next control; the arrows move inside.
-  setTabKeyNavigation(false);
+  UlozSiatke(*this);
 }
 
 void TabelaKodow::Pokaz(const std::vector<KodDodatkowy>& kody) {
@@ -25,6 +26,8 @@ void TabelaKodow::Pokaz(const std::vector<KodDodatkowy>& kody) {
 }
 
 void TabelaKodow::Dopisz(const KodDodatkowy& kod) {
+  // Nobody is told of a row before it is whole.
+  const QSignalBlocker cisza(this);
   const int wiersz = rowCount();
   insertRow(wiersz);
   auto* const pierwsza = new QTableWidgetItem(kod.kod);

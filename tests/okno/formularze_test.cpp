@@ -1,0 +1,337 @@
+#include "shell/formularze/formularze.h"
+
+#include <thread>
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include "database/schemat.h"
+#include "model/bledy.h"
+#include "model/kontekst.h"
+#include "model/kontrahent.h"
+#include "model/parametry_systemu.h"
+#include "model/slowniki.h"
+#include "model/towar.h"
+#include "shell/formularze/formularz_kontrahenta.h"
+#include "shell/formularze/formularz_towaru.h"
+#include "shell/przebieg/przekazanie.h"
+#include "tests/okno/osoba_przy_formularzu.h"
+#include "tests/okno/rozmowa_testowa.h"
+#include "tests/wspolne/baza_testowa.h"
+
+using namespace Qt::Literals::StringLiterals;
+using testing::ElementsAre;
+
+namespace {
+
+struct PustaBaza : BazaTestowa {
+  PustaBaza() { UtworzBaze(baza, {}); }
+};
+
+class Formularze : public testing::Test {
+ protected:
+  Formularze() {
+    for (const char* sql :
+         {"insert into Asort (Nazwa) values ('Napoje'), ('Soki')",
+          "insert into JM (Nazwa) values ('kg'), ('szt.')", "insert into Magazyn (Nazwa) values ('Główny')",
+          "insert into Towar (Nazwa, Skrot, Kod, TypTowaru, Aktywny) values ('Skrzynka', "
+          "'Skrz', '99', 1, 1)"})
+      b.baza.ExecSQL(sql);
+    towar.Nowy();
+    for (const auto& [kolumna, wartosc] : {std::pair(KolumnaTowaru::AsId, 1), {KolumnaTowaru::JMId, 1}})
+      towar.Query.Field(kolumna).SetInteger(wartosc);
+    kontrahent.Nowy();
+    kontrahent.UstawSklep(true);
+  }
+
+  // What the person does in the form of a record; whether it was accepted.
+  bool Edytuj(TDmVLTElement& rekord, const std::function<int(QDialog&)>& osoba) {
+    rozmowa.dialogi.push_back(osoba);
+    return UtworzFormularz(nullptr, rozmowa, rekord)->PokazModalnie();
+  }
+
+  PustaBaza b;
+  ParametrySystemu parametry;
+  KontekstSesji sesja{b.baza, parametry};
+  OtoczenieZParametrow otoczenie{sesja};
+  TDmVLTTowar towar{sesja, otoczenie.Widok()};
+  TDmVLTKontrahent kontrahent{sesja};
+  RozmowaTestowa rozmowa;
+};
+
+// Something that differs from what an empty record shows, and is good for a save.
+QString Przykladowy(const OpisPolaFormularza& pole) {
+  switch (pole.rodzaj) {
+    case RodzajPola::Kwota:
+    case RodzajPola::Procent:
+      return Liczba(u"0.29"_s);
+    case RodzajPola::Cena:
+      return Liczba(u"12.50"_s);
+    case RodzajPola::Data:
+      return u"31.12.2030"_s;
+    default:
+      return QString::number(1000 + pole.kolumna);
+  }
+}
+
+// The text of a control, of whatever kind.
+QString Widac(QWidget& kontrolka) {
+  if (auto* const lista = qobject_cast<QComboBox*>(&kontrolka)) return lista->currentText();
+  if (auto* const znacznik = qobject_cast<QCheckBox*>(&kontrolka))
+    return znacznik->isChecked() ? u"tak"_s : u"nie"_s;
+  return static_cast<QLineEdit&>(kontrolka).text();
+}
+
+void Zmien(QWidget& kontrolka, const OpisPolaFormularza& pole) {
+  if (auto* const lista = qobject_cast<QComboBox*>(&kontrolka))
+    lista->setCurrentIndex(lista->currentIndex() == lista->count() - 1 ? 0 : lista->count() - 1);
+  else if (auto* const znacznik = qobject_cast<QCheckBox*>(&kontrolka))
+    znacznik->toggle();
+  else
+    static_cast<QLineEdit&>(kontrolka).setText(Przykladowy(pole));
+}
+
+QWidget& KontrolkaPola(QDialog& okno, const TDmVLTElement& rekord, std::size_t kolumna) {
+  return Znajdz(okno, QLatin1String(rekord.Query.Field(kolumna).FieldName()));
+}
+
+void Wyslij(QWidget& kontrolka, QEvent&& zdarzenie) {
+  QCoreApplication::sendEvent(&kontrolka, &zdarzenie);
+}
+
+class TabelaPol : public Formularze {
+ protected:
+  // Every field is changed, accepted, saved, read again by another record and shown as it was typed.
+  void PrzejdzTabele(TDmVLTElement& rekord, TDmVLTElement& zBazy, const OpisFormularza& opis) {
+    QStringList wpisane;
+    QStringList pokazane;
+    ASSERT_TRUE(Edytuj(rekord, [&](QDialog& okno) {
+      for (const OpisPolaFormularza& pole : opis.pola) {
+        QWidget& kontrolka = KontrolkaPola(okno, rekord, pole.kolumna);
+        const QString bylo = Widac(kontrolka);
+        Zmien(kontrolka, pole);
+        EXPECT_NE(Widac(kontrolka), bylo) << kontrolka.objectName().toStdString();
+        EXPECT_FALSE(kontrolka.accessibleName().isEmpty());
+        wpisane << Widac(kontrolka);
+      }
+      return Kliknij(okno, u"Zapisz"_s);
+    }));
+    zBazy.Wczytaj(rekord.Zapisz());
+    EXPECT_FALSE(Edytuj(zBazy, [&](QDialog& okno) {
+      for (const OpisPolaFormularza& pole : opis.pola)
+        pokazane << Widac(KontrolkaPola(okno, zBazy, pole.kolumna));
+      return Kliknij(okno, u"Rezygnuj"_s);
+    }));
+    EXPECT_EQ(pokazane, wpisane);
+    // What was shown and not changed is not written, however it was rounded.
+    EXPECT_TRUE(Edytuj(zBazy, [](QDialog& okno) { return Kliknij(okno, u"Zapisz"_s); }));
+    EXPECT_FALSE(zBazy.CzyZmieniony());
+  }
+};
+
+TEST_F(TabelaPol, KazdePoleTowaruPiszeSwojaKolumneIWraca) {
+  TDmVLTTowar zBazy(sesja, otoczenie.Widok());
+  PrzejdzTabele(towar, zBazy, TFmVLTFormularzTowaru::Opis());
+  EXPECT_DOUBLE_EQ(zBazy.Marza(), 0.0029);
+  EXPECT_EQ(zBazy.Stawka(), -1);
+}
+
+TEST_F(TabelaPol, KazdePoleKontrahentaPiszeSwojaKolumneIWraca) {
+  TDmVLTKontrahent zBazy(sesja);
+  PrzejdzTabele(kontrahent, zBazy, TFmVLTFormularzKontrahenta::Opis());
+  EXPECT_EQ(zBazy.TermWaznKarty(), QDate(2030, 12, 31));
+}
+
+TEST_F(TabelaPol, KazdaOdmowaStoiPrzySwoimPoluNaWidocznejStronie) {
+  const auto przejdz = [&](TDmVLTElement& rekord, const OpisFormularza& opis) {
+    for (const PoleBledu& p : opis.bledy) {
+      const EVLTWDError blad(p.kod, nullptr, u"[szczegół]"_s);
+      rozmowa.dialogi.push_back([&](QDialog& okno) {
+        QWidget& kontrolka = KontrolkaPola(okno, rekord, p.kolumna);
+        EXPECT_EQ(kontrolka.accessibleDescription(), blad.Tresc());
+        EXPECT_EQ(okno.focusWidget(), &kontrolka);
+        EXPECT_TRUE(kontrolka.isVisibleTo(&okno));
+        return Kliknij(okno, u"Rezygnuj"_s);
+      });
+      EXPECT_EQ(PoprawWFormularzu(nullptr, rozmowa, rekord, {u"Odmowa"_s, blad}), Poprawka::Zrezygnowano);
+    }
+  };
+  przejdz(towar, TFmVLTFormularzTowaru::Opis());
+  przejdz(kontrahent, TFmVLTFormularzKontrahenta::Opis());
+}
+
+TEST_F(Formularze, OdmowaBezPolaStoiNadFormularzemZPrzyczyna) {
+  const EVLTWDError blad(2007, std::make_shared<EVLTWDError>(2006));
+  rozmowa.dialogi.push_back([&](QDialog& okno) {
+    EXPECT_THAT(Znajdz<QLabel>(okno, u"lbOdmowa"_s).text().split(u'\n'),
+                testing::IsSupersetOf({u"Nie zapisano"_s, blad.MacMessage(),
+                                       u"Przyczyna: "_s + EVLTWDError(2006).MacMessage()}));
+    return Kliknij(okno, u"Rezygnuj"_s);
+  });
+  PoprawWFormularzu(nullptr, rozmowa, towar, {u"Nie zapisano"_s, blad});
+}
+
+TEST_F(Formularze, ZlaWartoscJestWskazanaIRekordZostajeNietkniety) {
+  constexpr const char* kFormat = "Błąd formatu wprowadzanej wielkości";
+  constexpr const char* kZakres = "Wprowadzana wielkość przekracza dopuszczalny zakres";
+  struct Zla {
+    TDmVLTElement* rekord;
+    const char* pole;
+    const char* tekst;
+    const char* wada;
+  };
+  for (const Zla& zla :
+       {Zla{&towar, "CenaDet", "1,2,3", kFormat}, Zla{&towar, "CenaDet", "1e3", kFormat},
+        Zla{&towar, "CenaDet", "99999999999999999", kZakres}, Zla{&towar, "TermWazn", "1.5", kFormat},
+        Zla{&towar, "TermWazn", "3000000000", kZakres}, Zla{&towar, "Marza", "x", kFormat},
+        Zla{&kontrahent, "NrSklepu", "A", kFormat},
+        Zla{&kontrahent, "TermWaznKarty", "31.02.2030", "Podaj datę w postaci dd.mm.rrrr"}}) {
+    EXPECT_FALSE(Edytuj(*zla.rekord, [&](QDialog& okno) {
+      Wpisz(okno, u"Nazwa"_s, u"Inna"_s);
+      Wpisz(okno, zla.pole, zla.tekst);
+      EXPECT_EQ(Kliknij(okno, u"Zapisz"_s), QDialog::Rejected);
+      EXPECT_EQ(BladPrzy(okno, zla.pole), QString(zla.wada)) << zla.tekst;
+      EXPECT_EQ(okno.focusWidget()->objectName(), QString(zla.pole));
+      return QDialog::Rejected;
+    }));
+    EXPECT_EQ(zla.rekord->Query.FieldByName("Nazwa").AsString(), QString());
+  }
+}
+
+TEST_F(Formularze, PoleJestSprawdzanePrzyWyjsciuAPusteLiczbyToZera) {
+  towar.UstawCenaDet(3);
+  EXPECT_TRUE(Edytuj(towar, [](QDialog& okno) {
+    auto& cena = Znajdz<QLineEdit>(okno, u"CenaDet"_s);
+    Wyslij(cena, QKeyEvent(QEvent::KeyPress, Qt::Key_X, {}, u"x"_s));
+    EXPECT_EQ(BladPrzy(okno, u"CenaDet"_s), QString());
+    Wyslij(cena, QFocusEvent(QEvent::FocusOut));
+    EXPECT_NE(BladPrzy(okno, u"CenaDet"_s), QString());
+    cena.clear();
+    return Kliknij(okno, u"Zapisz"_s);
+  }));
+  EXPECT_EQ(towar.CenaDet(), 0);
+}
+
+TEST_F(Formularze, SkrotJestProponowanyZNazwyZFormularza) {
+  EXPECT_TRUE(Edytuj(towar, [&](QDialog& okno) {
+    auto& nazwa = Znajdz<QLineEdit>(okno, u"Nazwa"_s);
+    Wyslij(nazwa, QKeyEvent(QEvent::KeyPress, Qt::Key_S, {}, u"Skrz"_s));
+    Wyslij(nazwa, QFocusEvent(QEvent::FocusOut));
+    EXPECT_EQ(Znajdz<QLineEdit>(okno, u"Skrot"_s).text(), u"Skrz 1"_s);  // Skrz is taken
+    nazwa.setText(u"Woda"_s);
+    Kliknij(okno, u"DodajKod"_s);
+    auto& kody = Znajdz<QTableWidget>(okno, u"tabelaKodow"_s);
+    kody.item(0, 0)->setText(u"777"_s);
+    for (const char16_t* przycisk : {u"ZaproponujSkrot", u"ZaproponujSkrotKodu"})
+      Kliknij(okno, QString::fromUtf16(przycisk));
+    kody.item(0, 2)->setText(u"z"_s);
+    EXPECT_EQ(Kliknij(okno, u"Zapisz"_s), QDialog::Rejected);
+    EXPECT_NE(BladPrzy(okno, u"tabelaKodow"_s), QString());
+    kody.item(0, 2)->setText(u"5"_s);
+    EXPECT_TRUE(towar.Skrot().isEmpty() && towar.Kody().Ilosc() == 0);
+    return Kliknij(okno, u"Zapisz"_s);
+  }));
+  EXPECT_EQ(towar.Skrot(), u"Woda"_s);
+  EXPECT_EQ(towar.Kody().Wszystkie(), std::vector{(KodDodatkowy{1, u"777"_s, u"Woda 1"_s, 0, 5})});
+}
+
+TEST_F(Formularze, ZapisPrzejmujeToCoJestJeszczeWpisywane) {
+  EXPECT_TRUE(Edytuj(towar, [](QDialog& okno) {
+    okno.show();
+    okno.activateWindow();
+    QCoreApplication::processEvents();
+    auto& nazwa = Znajdz<QLineEdit>(okno, u"Nazwa"_s);
+    nazwa.setFocus();
+    Wyslij(nazwa, QKeyEvent(QEvent::KeyPress, Qt::Key_S, {}, u"Sok"_s));
+    okno.findChild<QTabWidget*>()->setCurrentIndex(1);
+    Kliknij(okno, u"DodajKod"_s);
+    Znajdz<QTableWidget>(okno, u"tabelaKodow"_s).viewport()->findChild<QLineEdit*>()->setText(u"888"_s);
+    return Kliknij(okno, u"Zapisz"_s);
+  }));
+  EXPECT_EQ(towar.Skrot(), u"Sok"_s);
+  ASSERT_EQ(towar.Kody().Ilosc(), 1);
+  EXPECT_EQ(towar.Kody()[0].kod, u"888"_s);
+}
+
+TEST_F(Formularze, TabIdzieWKolejnosciPolAEnterZapisuje) {
+  const auto kolejnosc = [&](TDmVLTElement& rekord) {
+    QStringList nazwy;
+    Edytuj(rekord, [&](QDialog& okno) {
+      EXPECT_TRUE(Znajdz<QPushButton>(okno, u"Zapisz"_s).isDefault());
+      QWidget* const pierwsza = okno.focusWidget();
+      QWidget* kontrolka = pierwsza;
+      do {
+        if ((kontrolka->focusPolicy() & Qt::TabFocus) && !kontrolka->focusProxy() &&
+            kontrolka->isVisibleTo(&okno))
+          nazwy << kontrolka->objectName();
+        kontrolka = kontrolka->nextInFocusChain();
+      } while (kontrolka != pierwsza);
+      return QDialog::Rejected;
+    });
+    return nazwy.join(u' ');
+  };
+  EXPECT_EQ(kolejnosc(towar),
+            u"Kod Nazwa Skrot ZaproponujSkrot TypTowaru Stawka AsId JMId CenaEw CenaDet CenaHurt CenaNoc"
+            " CenaDod CenaOtwarta Marza HurtRabat NocNarzut Zapisz Rezygnuj qt_tabwidget_tabbar"_s);
+  EXPECT_EQ(kolejnosc(kontrahent),
+            u"Nazwa NIP Skrot KodKontr NrAnalityki Ulica Kod Miasto Telefon Fax EMail Dostawca Odbiorca"
+            " Producent ZakPracChron Aktywny Staly gbSklep NrSklepu NrSeryjny MagId Zapisz Rezygnuj"
+            " qt_tabwidget_tabbar"_s);
+}
+
+TEST_F(Formularze, NumerSklepuIOsobyKontrahenta) {
+  b.baza.ExecSQL("insert into Kontrahent (Nazwa) values ('Pierwszy')");
+  b.baza.ExecSQL("insert into Sklep (SklepId, NrSklepu) values (1, 7)");
+  kontrahent.UstawNazwa(u"Drugi"_s);
+  kontrahent.UstawNrSklepu(7);
+  kontrahent.UstawOsoby(std::vector{u"Nowak"_s});
+  try {
+    kontrahent.Zapisz();
+    FAIL();
+  } catch (const EVLTWDError& blad) {
+    rozmowa.dialogi.push_back([](QDialog& okno) {
+      EXPECT_NE(BladPrzy(okno, u"NrSklepu"_s), QString());
+      Wpisz(okno, u"NrSklepu"_s, u""_s);
+      Znajdz<QPlainTextEdit>(okno, u"osoby"_s).appendPlainText(u"  Kowalska \n\nNowak"_s);
+      return Kliknij(okno, u"Zapisz"_s);
+    });
+    EXPECT_EQ(PoprawWFormularzu(nullptr, rozmowa, kontrahent, {blad.MacMessage(), blad}),
+              Poprawka::Poprawiono);
+  }
+  kontrahent.Zapisz();
+  EXPECT_EQ(kontrahent.NrSklepu(), 8);
+  EXPECT_THAT(kontrahent.Osoby(), ElementsAre(u"Nowak"_s, u"Kowalska"_s));
+}
+
+TEST_F(Formularze, RobotnikCzekaAzFormularzPokazeWatekGlowny) {
+  Przekazanie przekazanie([] {});
+  sesja.fabrykaFormularzy = FabrykaFormularzy(nullptr, rozmowa, przekazanie);
+  rozmowa.dialogi.push_back([glowny = std::this_thread::get_id()](QDialog& okno) {
+    EXPECT_EQ(std::this_thread::get_id(), glowny);
+    EXPECT_TRUE(Znajdz(okno, u"PrzerwijImport"_s).isHidden());
+    Wpisz(okno, u"Nazwa"_s, u"Sok"_s);
+    return Kliknij(okno, u"Zapisz"_s);
+  });
+  bool przyjety = false;
+  bool bezFormularza = true;
+  std::thread robotnik([&] {
+    przyjety = towar.Edytuj();
+    TDmVLTAsortyment asortyment(sesja);
+    asortyment.Nowy();
+    bezFormularza = asortyment.Edytuj();
+    przekazanie.Zamknij();
+  });
+  przekazanie.ObsluzDoZamkniecia();
+  robotnik.join();
+  EXPECT_TRUE(przyjety);
+  EXPECT_EQ(towar.Nazwa(), u"Sok"_s);
+  EXPECT_FALSE(bezFormularza);
+}
+
+}  // namespace
