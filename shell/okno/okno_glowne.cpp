@@ -1,0 +1,333 @@
+#include "shell/okno/okno_glowne.h"
+
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QScreen>
+
+#include "exchange/czytnik.h"
+#include "model/kontekst.h"
+#include "platform/liczby.h"
+#include "platform/wyjatek.h"
+#include "shell/dialogi/dialogi.h"
+#include "shell/kontrolki/pasek_przyciskow.h"
+#include "shell/okno/strony.h"
+#include "shell/okno/wybor_pliku.h"
+#include "shell/przebieg/wykonanie_przebiegu.h"
+#include "shell/rozmowa.h"
+#include "ui_okno_glowne.h"
+#include "ustawienia/kontrola_struktury.h"
+#include "ustawienia/magazyn_ustawien.h"
+#include "ustawienia/pozycje_stanow.h"
+#include "ustawienia/reguly_kontrolek.h"
+#include "ustawienia/rodzaje_przebiegow.h"
+#include "ustawienia/wspolzaleznosci.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using Ikona = Rozmowa::Ikona;
+
+QString Napis(std::u16string_view tekst) {
+  return QStringView(tekst).toString();
+}
+
+QLatin1String Nazwa(std::string_view nazwa) {
+  return QLatin1String(QByteArrayView(nazwa));
+}
+
+// The one local file that is dragged; empty when it is anything else.
+QString PrzeciaganyPlik(const QMimeData& dane) {
+  const QList<QUrl> adresy = dane.urls();
+  return adresy.size() == 1 ? adresy.constFirst().toLocalFile() : QString();
+}
+
+// What the run would say of the file first of all.
+std::optional<Komunikat> OdmowaPliku(const StrukturaPliku& struktura, const QString& plik) {
+  const std::unique_ptr<Czytnik> czytnik = UtworzCzytnik(struktura);
+  if (auto odmowa = czytnik->Otworz(plik)) return odmowa;
+  return czytnik->SprawdzPola();
+}
+
+}  // namespace
+
+Tfrm_main::Tfrm_main(Rozmowa& rozmowa, StartOkna start)
+    : m_start(std::move(start)), m_kontekst{rozmowa}, m_ui(std::make_unique<Ui::Tfrm_main>()) {
+  m_ui->setupUi(this);
+  m_tytul = windowTitle();
+  setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                 Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
+  setAcceptDrops(true);
+  DodajStrony();
+  PodlaczPolecenia();
+  m_powiazania = std::make_unique<Powiazania>(*this, m_kontekst.ustawienia);
+  m_powiazania->PoZmianie = [this](const QString& kontrolka) { PoZmianie(kontrolka); };
+}
+
+Tfrm_main::~Tfrm_main() = default;
+
+void Tfrm_main::DodajStrony() {
+  for (const OpisStrony& opis : TabelaStron()) {
+    QWidget* const strona = opis.utworz();
+    const int numer = m_ui->PageControl->addTab(strona, strona->windowTitle());
+    auto* const pasek = strona->findChild<TMStatusButtonBar*>(Nazwa(opis.pasek));
+    for (const PrzyciskStrony& p : opis.przyciski)
+      if (!p.nazwa.empty()) pasek->Dodaj(Napis(p.nazwa), Napis(p.tekst), Napis(p.klawisz));
+    pasek->Dodaj(u"Wyjscie"_s, u"Wyjście"_s, u"Esc"_s);
+    pasek->ButtonClick = [this, &opis, numer](const TMStatusButton& przycisk) {
+      if (m_ui->PageControl->currentIndex() != numer) return;
+      if (przycisk.IsTheSameName(u"Wyjscie")) return Wyjscie(numer);
+      for (const PrzyciskStrony& p : opis.przyciski)
+        if (przycisk.IsTheSameName(p.nazwa)) findChild<QAction*>(Nazwa(p.pozycjaMenu))->trigger();
+    };
+  }
+}
+
+void Tfrm_main::PodlaczPolecenia() {
+  using std::bind_front;
+  const struct {
+    QAction* pozycja;
+    std::function<void()> wykonaj;
+  } polecenia[] = {
+      {m_ui->ImportTowMenu, bind_front(&Tfrm_main::Przeprowadz, this, 0)},
+      {m_ui->EksportTowMenu, bind_front(&Tfrm_main::Przeprowadz, this, 1)},
+      {m_ui->ImportKontrMenu, bind_front(&Tfrm_main::Przeprowadz, this, 2)},
+      {m_ui->EksportKontrMenu, bind_front(&Tfrm_main::Przeprowadz, this, 3)},
+      {m_ui->StrukturaplikuimportuTowMenu, bind_front(&Tfrm_main::EdytujStruktureStrony, this, 0)},
+      {m_ui->StrukturaplikuimportuKontrMenu, bind_front(&Tfrm_main::EdytujStruktureStrony, this, 2)},
+      {m_ui->ZapisDoBazy, bind_front(&Tfrm_main::ZapisDoBazyClick, this)},
+      {m_ui->EksportDoPlikuZorvik, bind_front(&Tfrm_main::EksportDoPlikuZorvikClick, this)},
+      {m_ui->ImportZPlikuZorvik, bind_front(&Tfrm_main::ImportZPlikuZorvikClick, this)},
+      {m_ui->OProgramie, bind_front(&Tfrm_main::OProgramieClick, this)},
+  };
+  for (const auto& polecenie : polecenia)
+    connect(polecenie.pozycja, &QAction::triggered, this,
+            [this, wykonaj = polecenie.wykonaj] { Wykonaj(wykonaj); });
+}
+
+void Tfrm_main::Wykonaj(const std::function<void()>& polecenie) {
+  if (auto* const pole = qobject_cast<QAbstractSpinBox*>(focusWidget())) pole->interpretText();
+  try {
+    polecenie();
+  } catch (const EMException& blad) {
+    m_kontekst.rozmowa.PokazBlad(this, blad);
+  }
+}
+
+bool Tfrm_main::FormShow() {
+  try {
+    if (!Polacz()) return false;
+    setWindowTitle(m_tytul + u" ("_s + m_kontekst.baza.Nazwa() + u')');
+    WypelnijPozycjeStanow();
+    WczytajUstawienia();
+  } catch (const EMException& blad) {
+    m_kontekst.rozmowa.PokazBlad(this, blad);
+  }
+  if (!m_kontekst.baza.Polaczona()) return false;
+  Pokaz();
+  adjustSize();
+  move(screen()->availableGeometry().center() - rect().center());
+  show();
+  return true;
+}
+
+// A remembered database that cannot be reached does not lock the person out: another one may be named.
+bool Tfrm_main::Polacz() {
+  TVLTBazaDanych& baza = m_kontekst.baza;
+  const auto polacz = [&] {
+    try {
+      baza.Polacz();
+      m_kontekst.parametry.Wczytaj(baza);
+    } catch (...) {
+      baza.Odlacz();
+      throw;
+    }
+  };
+  if (m_start.baza) {
+    baza.UstawPolaczenie(*m_start.baza);
+    polacz();
+    return true;
+  }
+  if (baza.WczytajDomyslnePolaczenie()) try {
+      polacz();
+      return true;
+    } catch (const EMException& blad) {
+      m_kontekst.rozmowa.PokazBlad(this, blad);
+    }
+  while (const auto parametry = ZapytajOPolaczenie(this, m_kontekst.rozmowa, m_start.utworzBaze)) {
+    baza.UstawPolaczenie(*parametry);
+    try {
+      polacz();
+    } catch (const EMException& blad) {
+      m_kontekst.rozmowa.PokazBlad(this, blad);
+      continue;
+    }
+    if (const auto powod = parametry->Zapamietaj())
+      PokazKomunikaty({{u"UWAGA"_s, u"Nie udało się zapamiętać połączenia w pliku "_s +
+                                        ParametryPolaczenia::PlikDomyslnych() + u'\n' + *powod}});
+    return true;
+  }
+  return false;
+}
+
+void Tfrm_main::WczytajUstawienia() {
+  PokazKomunikaty(magazyn_ustawien::WczytajUstawienia({.katalogStartowy = m_start.katalogStartowy,
+                                                       .baza = &m_kontekst.baza,
+                                                       .plikKonfiguracji = m_start.plikKonfiguracji},
+                                                      m_kontekst.ustawienia)
+                      .komunikaty);
+}
+
+void Tfrm_main::WypelnijPozycjeStanow() {
+  KontekstSesji sesja{m_kontekst.baza, m_kontekst.parametry};
+  const auto wypelnij = [this](QLatin1String nazwa, const QStringList& pozycje) {
+    auto* const lista = findChild<QComboBox*>(nazwa);
+    const QSignalBlocker cisza(lista);
+    lista->clear();
+    lista->addItems(pozycje);
+  };
+  wypelnij("CBImportStanow"_L1, PozycjeImportuStanow(sesja));
+  wypelnij("CBEksportStanow"_L1, PozycjeEksportuStanow(sesja));
+}
+
+void Tfrm_main::Pokaz() {
+  m_powiazania->Pokaz();
+  for (const auto& [kontrolka, dostepna] : wspolzaleznosci::TabelaDostepnosci())
+    findChild<QWidget*>(Nazwa(kontrolka))->setEnabled(dostepna(m_kontekst.ustawienia));
+}
+
+void Tfrm_main::PoZmianie(const QString& kontrolka) {
+  const auto komunikat = wspolzaleznosci::PoZmianieKontrolki(m_kontekst.ustawienia, kontrolka);
+  Pokaz();
+  if (komunikat) PokazKomunikaty({*komunikat});
+}
+
+void Tfrm_main::PokazKomunikaty(const std::vector<Komunikat>& komunikaty) {
+  for (const Komunikat& komunikat : komunikaty)
+    m_kontekst.rozmowa.Powiedz(this, komunikat,
+                               komunikat.naglowek == u"BŁĄD" ? Ikona::Critical : Ikona::Warning);
+}
+
+void Tfrm_main::Wyjscie(int strona) {
+  if (TabelaStron()[static_cast<std::size_t>(strona)].pytaPrzyWyjsciu &&
+      !m_kontekst.rozmowa.CzyTak(this, {u"Uwaga"_s, u"Czy rzeczywiście chcesz opuścić program"_s}))
+    return;
+  close();
+}
+
+const RodzajPrzebiegu* Tfrm_main::Rodzaj(int strona) const {
+  const auto rodzaje = TabelaRodzajowPrzebiegow();
+  const auto numer = static_cast<std::size_t>(strona);
+  return numer < rodzaje.size() ? &rodzaje[numer] : nullptr;
+}
+
+void Tfrm_main::Przeprowadz(int strona) {
+  const RodzajPrzebiegu* const rodzaj = Rodzaj(strona);
+  if (!rodzaj || !SprawdzPrzedImportem(*rodzaj)) return;
+  if (const auto plik = WybierzPlikPrzebiegu(this, m_kontekst.rozmowa, *rodzaj, m_kontekst.ustawienia))
+    UruchomPrzebieg(*rodzaj, *plik);
+}
+
+void Tfrm_main::ImportujUpuszczony(const QString& plik) {
+  const RodzajPrzebiegu* const rodzaj = Rodzaj(m_ui->PageControl->currentIndex());
+  if (rodzaj && SprawdzPrzedImportem(*rodzaj) &&
+      m_kontekst.rozmowa.CzyTak(this, {Napis(rodzaj->tytul), u"Czy importować plik "_s + plik}))
+    UruchomPrzebieg(*rodzaj, plik);
+}
+
+bool Tfrm_main::SprawdzPrzedImportem(const RodzajPrzebiegu& rodzaj) {
+  if (rodzaj.kierunek != Kierunek::Import) return true;
+  const auto odmowa = SprawdzStrukture(m_kontekst.ustawienia.*rodzaj.struktura);
+  if (odmowa) PokazKomunikaty({*odmowa});
+  return !odmowa;
+}
+
+void Tfrm_main::UruchomPrzebieg(const RodzajPrzebiegu& rodzaj, const QString& plik) {
+  Ustawienia& ustawienia = m_kontekst.ustawienia;
+  const StrukturaPliku& struktura = ustawienia.*rodzaj.struktura;
+  if (rodzaj.kierunek == Kierunek::Import)
+    if (const auto odmowa = OdmowaPliku(struktura, plik)) return PokazKomunikaty({*odmowa});
+  ZapamietajPlikPrzebiegu(rodzaj, plik, ustawienia);
+  m_kontekst.parametry.Wczytaj(m_kontekst.baza);
+  const auto wykonaj = [&](const ZadaniePrzebiegu::Otoczenie& otoczenie) {
+    TVLTBazaDanych baza(m_kontekst.baza.Parametry());
+    KontekstSesji sesja{baza, m_kontekst.parametry, otoczenie.fabrykaFormularzy};
+    return rodzaj.wykonaj({.sesja = sesja,
+                           .struktura = struktura,
+                           .plik = plik,
+                           .postep = otoczenie.postep,
+                           .oper = otoczenie.oper,
+                           .stop = otoczenie.stop,
+                           .separatorDziesietny = liczby::SeparatorSystemu(),
+                           .katalogPominietych = m_start.katalogPominietych},
+                          ustawienia, m_kontekst.bufor);
+  };
+  const WynikPrzebiegu wynik =
+      WykonajZOknemPostepu(this, m_kontekst.rozmowa, {Napis(rodzaj.tytulPostepu), wykonaj});
+  if (wynik.koniec == KoniecPrzebiegu::Blad) return;
+  // The run may have made the first warehouse.
+  WypelnijPozycjeStanow();
+  Pokaz();
+}
+
+void Tfrm_main::EdytujStruktureStrony(int strona) {
+  const bool towary = strona == 0;
+  Ustawienia& u = m_kontekst.ustawienia;
+  if (!EdytujStrukture(this, m_kontekst, towary ? u.strukturaTow : u.strukturaKontr,
+                       towary ? u.plikImportuTow : u.plikImportuKontr))
+    return;
+  towary ? wspolzaleznosci::PoZmianieStrukturyTow(u) : wspolzaleznosci::PoZmianieStrukturyKontr(u);
+  Pokaz();
+}
+
+void Tfrm_main::ZapisDoBazyClick() {
+  magazyn_ustawien::ZapiszDoBazy(m_kontekst.baza, m_kontekst.ustawienia);
+  m_kontekst.rozmowa.Powiedz(this, {u"Zapis do bazy"_s, u"Ustawienia zapisano w bazie danych"_s},
+                             Ikona::Information);
+}
+
+void Tfrm_main::EksportDoPlikuZorvikClick() {
+  Ustawienia& u = m_kontekst.ustawienia;
+  const auto plik = WybierzPlikKonfiguracji(this, m_kontekst.rozmowa, Kierunek::Eksport, u);
+  if (!plik) return;
+  u.plikKonfiguracji = *plik;
+  PokazKomunikaty(magazyn_ustawien::EksportujDoPliku(*plik, u));
+}
+
+void Tfrm_main::ImportZPlikuZorvikClick() {
+  Ustawienia& u = m_kontekst.ustawienia;
+  const auto plik = WybierzPlikKonfiguracji(this, m_kontekst.rozmowa, Kierunek::Import, u);
+  if (!plik) return;
+  const auto wynik = magazyn_ustawien::ImportujZPliku(*plik, u);
+  if (wynik.wczytano) u.plikKonfiguracji = *plik;
+  PokazKomunikaty(wynik.komunikaty);
+  PokazKomunikaty(wspolzaleznosci::ZastosujWspolzaleznosci(u));
+  Pokaz();
+}
+
+void Tfrm_main::OProgramieClick() {
+  m_kontekst.rozmowa.Powiedz(
+      this,
+      {u"O programie"_s, u"Zorvik, wersja "_s + QCoreApplication::applicationVersion() + u'\n' + m_tytul},
+      Ikona::Information);
+}
+
+void Tfrm_main::dragEnterEvent(QDragEnterEvent* zdarzenie) {
+  const RodzajPrzebiegu* const rodzaj = Rodzaj(m_ui->PageControl->currentIndex());
+  if (rodzaj && rodzaj->kierunek == Kierunek::Import && !PrzeciaganyPlik(*zdarzenie->mimeData()).isEmpty())
+    zdarzenie->acceptProposedAction();
+}
+
+// The program that the file comes from waits until the drop is over; the questions come after it.
+void Tfrm_main::dropEvent(QDropEvent* zdarzenie) {
+  const QString plik = PrzeciaganyPlik(*zdarzenie->mimeData());
+  zdarzenie->acceptProposedAction();
+  QMetaObject::invokeMethod(
+      this, [this, plik] { Wykonaj([&] { ImportujUpuszczony(plik); }); }, Qt::QueuedConnection);
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QMainWindow>
+
+#include "shell/kontekst_okna.h"
+#include "shell/okno/powiazania.h"
+#include "shell/okno/start_okna.h"
+
+class TMStatusButton;
+struct RodzajPrzebiegu;
+namespace Ui {
+class Tfrm_main;
+}
+
+// The main window: four pages of options, one per kind of run, and the commands. It owns the settings, which
+// its controls show and its runs read, the session that its dialogs share and the goods buffer.
+// Order of calls: construction, FormShow, which shows the window or says that it is not to be shown.
+class Tfrm_main final : public QMainWindow {
+ public:
+  Tfrm_main(Rozmowa& rozmowa, StartOkna start);
+  ~Tfrm_main() override;
+
+  // Connects, loads the settings and shows the window. False: there is no database to work with; the person
+  // knows why.
+  bool FormShow();
+
+  KontekstOkna& Kontekst() { return m_kontekst; }
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* zdarzenie) override;
+  void dropEvent(QDropEvent* zdarzenie) override;
+
+ private:
+  void DodajStrony();
+  void PodlaczPolecenia();
+  // Every command: typing is finished first, an exception is shown.
+  void Wykonaj(const std::function<void()>& polecenie);
+
+  bool Polacz();
+  void WczytajUstawienia();
+  void WypelnijPozycjeStanow();
+  void Pokaz();
+  void PoZmianie(const QString& kontrolka);
+  void PokazKomunikaty(const std::vector<Komunikat>& komunikaty);
+  void Wyjscie(int strona);
+
+  // The kind of run of the page; null for a page without one.
+  const RodzajPrzebiegu* Rodzaj(int strona) const;
+  void Przeprowadz(int strona);
+  void ImportujUpuszczony(const QString& plik);
+  bool SprawdzPrzedImportem(const RodzajPrzebiegu& rodzaj);
+  void UruchomPrzebieg(const RodzajPrzebiegu& rodzaj, const QString& plik);
+  void EdytujStruktureStrony(int strona);
+  void ZapisDoBazyClick();
+  void EksportDoPlikuZorvikClick();
+  void ImportZPlikuZorvikClick();
+  void OProgramieClick();
+
+  StartOkna m_start;
+  KontekstOkna m_kontekst;
+  std::unique_ptr<Ui::Tfrm_main> m_ui;
+  QString m_tytul;
+  std::unique_ptr<Powiazania> m_powiazania;
+};
