@@ -60,10 +60,12 @@ QString Procent(const QString& tekst, TMField* kolumna) {
 }
 
 QString Liczba(const QString& tekst, TMField* kolumna) {
-  const auto liczba = CzytajLiczbe(tekst);
-  if (!liczba || *liczba != std::trunc(*liczba)) return OpisBledu(kZlyFormat);
-  if (std::abs(*liczba) > std::numeric_limits<int>::max()) return OpisBledu(kPozaZakresem);
-  if (kolumna) kolumna->SetInteger(static_cast<long long>(*liczba));
+  const QString cyfry = tekst.trimmed();
+  const auto liczba = cyfry.isEmpty() ? 0 : liczby::Calkowita(cyfry);
+  // Only too long to be read.
+  const bool zaDuza = !liczba && !cyfry.contains(u'.') && liczby::Liczba(cyfry, '.');
+  if (!liczba) return OpisBledu(zaDuza ? kPozaZakresem : kZlyFormat);
+  if (kolumna) kolumna->SetInteger(*liczba);
   return {};
 }
 

@@ -44,7 +44,7 @@ std::vector<KodDodatkowy> TabelaKodow::Kody() const {
     kod.kod = Tekst(i, Kod).trimmed();
     kod.skrot = Tekst(i, Skrot);
     kod.prefPLU = liczby::Calkowita(Tekst(i, PLU).trimmed()).value_or(0);
-    if (!kod.kod.isEmpty() || !kod.skrot.isEmpty()) kody.push_back(kod);
+    if (!kod.kod.isEmpty() || !kod.skrot.isEmpty() || kod.prefPLU != 0) kody.push_back(kod);
   }
   return kody;
 }

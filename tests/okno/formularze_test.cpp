@@ -70,9 +70,8 @@ QString Przykladowy(const OpisPolaFormularza& pole) {
   switch (pole.rodzaj) {
     case RodzajPola::Kwota:
     case RodzajPola::Procent:
-      return Liczba(u"0.29"_s);
     case RodzajPola::Cena:
-      return Liczba(u"12.50"_s);
+      return Liczba(QString::number(pole.kolumna) + u".29"_s);
     case RodzajPola::Data:
       return u"31.12.2030"_s;
     default:
@@ -138,7 +137,7 @@ class TabelaPol : public Formularze {
 TEST_F(TabelaPol, KazdePoleTowaruPiszeSwojaKolumneIWraca) {
   TDmVLTTowar zBazy(sesja, otoczenie.Widok());
   PrzejdzTabele(towar, zBazy, TFmVLTFormularzTowaru::Opis());
-  EXPECT_DOUBLE_EQ(zBazy.Marza(), 0.0029);
+  EXPECT_DOUBLE_EQ(zBazy.Marza(), 0.1629);
   EXPECT_EQ(zBazy.Stawka(), -1);
 }
 
@@ -188,7 +187,7 @@ TEST_F(Formularze, ZlaWartoscJestWskazanaIRekordZostajeNietkniety) {
   };
   for (const Zla& zla :
        {Zla{&towar, "CenaDet", "1,2,3", kFormat}, Zla{&towar, "CenaDet", "1e3", kFormat},
-        Zla{&towar, "CenaDet", "99999999999999999", kZakres}, Zla{&towar, "TermWazn", "1.5", kFormat},
+        Zla{&towar, "CenaDet", "99999999999999999", kZakres}, Zla{&towar, "TermWazn", "1.0", kFormat},
         Zla{&towar, "TermWazn", "3000000000", kZakres}, Zla{&towar, "Marza", "x", kFormat},
         Zla{&kontrahent, "NrSklepu", "A", kFormat},
         Zla{&kontrahent, "TermWaznKarty", "31.02.2030", "Podaj datę w postaci dd.mm.rrrr"}}) {
@@ -285,27 +284,20 @@ TEST_F(Formularze, TabIdzieWKolejnosciPolAEnterZapisuje) {
             " qt_tabwidget_tabbar"_s);
 }
 
-TEST_F(Formularze, NumerSklepuIOsobyKontrahenta) {
-  b.baza.ExecSQL("insert into Kontrahent (Nazwa) values ('Pierwszy')");
-  b.baza.ExecSQL("insert into Sklep (SklepId, NrSklepu) values (1, 7)");
-  kontrahent.UstawNazwa(u"Drugi"_s);
+TEST_F(Formularze, PustyNumerSklepuIOsobyPoJednejWWierszu) {
+  kontrahent.UstawNazwa(u"Sklep"_s);
   kontrahent.UstawNrSklepu(7);
-  kontrahent.UstawOsoby(std::vector{u"Nowak"_s});
-  try {
-    kontrahent.Zapisz();
-    FAIL();
-  } catch (const EVLTWDError& blad) {
-    rozmowa.dialogi.push_back([](QDialog& okno) {
-      EXPECT_NE(BladPrzy(okno, u"NrSklepu"_s), QString());
-      Wpisz(okno, u"NrSklepu"_s, u""_s);
-      Znajdz<QPlainTextEdit>(okno, u"osoby"_s).appendPlainText(u"  Kowalska \n\nNowak"_s);
-      return Kliknij(okno, u"Zapisz"_s);
-    });
-    EXPECT_EQ(PoprawWFormularzu(nullptr, rozmowa, kontrahent, {blad.MacMessage(), blad}),
-              Poprawka::Poprawiono);
-  }
+  kontrahent.UstawOsoby(std::vector{u" Nowak"_s});
+  const auto dopisz = [](QDialog& okno) {
+    Wpisz(okno, u"NrSklepu"_s, u""_s);
+    Znajdz<QPlainTextEdit>(okno, u"osoby"_s).appendPlainText(u"  Kowalska \n\nNowak"_s);
+    return Kliknij(okno, u"Zapisz"_s);
+  };
+  EXPECT_TRUE(Edytuj(kontrahent, [](QDialog& okno) { return Kliknij(okno, u"Zapisz"_s); }));
+  EXPECT_THAT(kontrahent.Osoby(), ElementsAre(u" Nowak"_s));
+  EXPECT_TRUE(Edytuj(kontrahent, dopisz));
   kontrahent.Zapisz();
-  EXPECT_EQ(kontrahent.NrSklepu(), 8);
+  EXPECT_EQ(kontrahent.NrSklepu(), 1);  // none was typed: the next free one
   EXPECT_THAT(kontrahent.Osoby(), ElementsAre(u"Nowak"_s, u"Kowalska"_s));
 }
 
