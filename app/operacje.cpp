@@ -5,6 +5,7 @@
 #include "app/przerwanie.h"
 #include "app/srodowisko.h"
 #include "app/terminal.h"
+#include "contractors/eksport_kontrahentow.h"
 #include "goods/eksport_towarow.h"
 #include "goods/import_towarow.h"
 #include "model/bufor_towarow.h"
@@ -25,6 +26,10 @@ WynikPrzebiegu UruchomImportTowarow(const ParametryPrzebiegu& parametry, Ustawie
 
 WynikPrzebiegu UruchomEksportTowarow(const ParametryPrzebiegu& parametry, Ustawienia& ustawienia) {
   return EksportujTowary(parametry, ustawienia.eksportTow);
+}
+
+WynikPrzebiegu UruchomEksportKontrahentow(const ParametryPrzebiegu& parametry, Ustawienia& ustawienia) {
+  return EksportujKontrahentow(parametry, ustawienia.eksportKontr);
 }
 
 constexpr PozycjaJson kLicznikiEksportu[] = {{u"rekordow", Licznik::Rekordy}};
@@ -53,6 +58,12 @@ const Operacja kOperacje[] = {
      u"Istniejący plik nadpisuje.",
      u"Eksport towarów", Kierunek::Eksport, &Ustawienia::plikEksportuTow, &Ustawienia::strukturaTow,
      kLicznikiEksportu, UruchomEksportTowarow},
+    {u"eksport-kontrahentow", u"eksportuje wybranych kontrahentów z bazy do pliku",
+     u"Bez nazwy pliku eksportuje do pliku z ustawienia ParNazwaPlikuEksportuKontr.\n"
+     u"Istniejący plik nadpisuje. Kogo wysłać, mówią ustawienia od ParGdyOdbiorca\n"
+     u"do ParGdyNieZakladPrChr; dopóki są wyłączone, plik ma tylko nagłówek.",
+     u"Eksport kontrahentów", Kierunek::Eksport, &Ustawienia::plikEksportuKontr, &Ustawienia::strukturaKontr,
+     kLicznikiEksportu, UruchomEksportKontrahentow},
 };
 
 // The run, from the settings to its result; refused when it could not begin.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "exchange/wiersz_eksportu.h"
 #include "platform/baza/sesja.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -20,12 +21,6 @@ std::unordered_map<long long, QString> WczytajNazwy(TVLTBazaDanych& baza, std::s
 }
 
 }  // namespace
-
-bool GinieWBloku(const QString& tekst, QStringView znaki) {
-  if (tekst.isEmpty()) return false;
-  if (tekst.front().isSpace() || tekst.back().isSpace()) return true;
-  return std::any_of(tekst.begin(), tekst.end(), [znaki](QChar znak) { return znaki.contains(znak); });
-}
 
 QString KategoriaEksportu::Blok(const std::vector<std::pair<int, long long>>& wartosci) const {
   QString blok = m_nazwa;

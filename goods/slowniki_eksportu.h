@@ -52,6 +52,3 @@ class SlownikiEksportu {
   Nazwy m_nipy;
   std::unordered_map<long long, KategoriaEksportu> m_kategorie;
 };
-
-// Whether a text cannot stand in a block as it is: it holds one of the characters, or blanks at its ends.
-bool GinieWBloku(const QString& tekst, QStringView znaki);

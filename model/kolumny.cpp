@@ -20,8 +20,8 @@ int CzytajId(const TMField& pole) {
   return pole.IsNull() ? -1 : static_cast<int>(pole.AsInteger());
 }
 
-QDate CzytajDate(const TMField& pole) {
-  return pole.IsNull() ? QDate() : QDate::fromString(pole.AsString().left(kDlugoscDaty), Qt::ISODate);
+QDate CzytajDate(const Wartosc& wartosc) {
+  return wartosc.IsNull() ? QDate() : QDate::fromString(wartosc.AsString().left(kDlugoscDaty), Qt::ISODate);
 }
 
 // Stored times carry no zone: the universal one keeps every hour of the year.

@@ -32,7 +32,7 @@ struct PozycjaPodsumowania {
 // is read, so that a summary never promises more than the database holds.
 class Liczniki {
  public:
-  void Zwieksz(Licznik licznik) { ++m_otwarte[Indeks(licznik)]; }
+  void Zwieksz(Licznik licznik, long long o = 1) { m_otwarte[Indeks(licznik)] += o; }
   void Zatwierdz();
   void Porzuc() { m_otwarte = {}; }
 

@@ -1,5 +1,7 @@
 #include "goods/eksport_towarow.h"
 #include "tests/goods/import_testowy.h"
+#include "tests/wspolne/plik_eksportu.h"
+#include "tests/wspolne/zrzut_bazy.h"
 
 namespace {
 
@@ -50,32 +52,7 @@ class EksportTest : public testing::Test, protected ImportTestowy {
   }
   QString Plik() const { return folder.filePath(u"eksport.txt"_s); }
 
-  // Fields of the lines; the header is line 0.
-  std::vector<QStringList> Linie() const {
-    const QByteArray bajty = Zawartosc(Plik());
-    const QString tekst = windows1250::NaUnicode({bajty.data(), static_cast<std::size_t>(bajty.size())});
-    std::vector<QStringList> linie;
-    EXPECT_TRUE(tekst.endsWith(u"\r\n"_s));
-    for (const QString& linia : tekst.chopped(2).split(u"\r\n"_s)) linie.push_back(linia.split(u'\t'));
-    return linie;
-  }
-
-  // Everything that a goods import could change, in one text.
-  QString Baza() {
-    QString zrzut;
-    for (const std::string tabela :
-         {"Towar", "KodDod", "TowWartosc", "TowDostawca", "Istw", "Asort", "JM", "Kategoria", "KatParam",
-          "Parametr", "ParWartosc", "Vat", "DziennikZmian"}) {
-      QStringList kolumny;
-      for (auto odczyt =
-               b.baza.Otworz("select name from pragma_table_info('" + tabela + "')", {TypPola::Tekst});
-           odczyt.Nastepny();)
-        kolumny << u"coalesce("_s + odczyt[0].AsString() + u",'-')"_s;
-      zrzut += b.Tekst("select group_concat(w, ' ') from (select " +
-                       kolumny.join(u"||'|'||"_s).toStdString() + " as w from " + tabela + " order by 1)");
-    }
-    return zrzut;
-  }
+  std::vector<QStringList> Linie() const { return LinieEksportu(Plik()); }
 
   OpcjeEksportuTowarow eksport;
 };
@@ -163,7 +140,7 @@ TEST_F(EksportTest, ImportTegoSamegoPlikuNicNieZmienia) {
   opcje.cb_KodyZaczynajaceSieOdZera = opcje.cb_KodyZawierajaceLitery = opcje.cb_KodyWazone = true;
   opcje.cb_akceptujKodyWlasneEAN = true;
   opcje.towarZTaSamaNazwa = TowarZTaSamaNazwa::RBDodajTowarZTaSamaNazwa;
-  const QString przed = Baza();
+  const QStringList przed = ZrzutBazy(b.baza);
   for (const char znak : {'.', ','}) {
     SCOPED_TRACE(znak);
     separator = znak;
@@ -172,7 +149,7 @@ TEST_F(EksportTest, ImportTegoSamegoPlikuNicNieZmienia) {
         {sesja, struktura, Plik(), postep, *oper, stop, separator, folder.path()}, opcje, bufor);
     EXPECT_EQ(wynik.liczniki[Licznik::Rekordy], 3);
     EXPECT_EQ(wynik.liczniki[Licznik::BezZmian], 3) << Pominiete().join(u" # "_s).toStdString();
-    EXPECT_EQ(Baza(), przed);
+    EXPECT_EQ(RozniceZrzutow(przed, ZrzutBazy(b.baza)), QStringList());
   }
 }
 
@@ -234,40 +211,17 @@ TEST_F(EksportTest, OdmawiaPlikuKtoregoNieWolnoNadpisac) {
 }
 
 TEST_F(EksportTest, BladNigdyNieKonczySieZakonczeniem) {
-  const auto blad = [&](const WynikPrzebiegu& wynik, const QString& tekst) {
-    EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Blad);
-    EXPECT_FALSE(postep.linie.contains(kKoniec));
-    EXPECT_TRUE(postep.linie.join(u' ').contains(tekst)) << postep.linie.join(u' ').toStdString();
-    EXPECT_TRUE(postep.linie.join(u' ').contains(u"Plik eksportu jest niepełny."_s));
-  };
   // Three goods fill the file when it is closed, a long text does it earlier.
   for (const char* sql :
        {"update Towar set Opis4 = ''", "update Towar set Opis4 = hex(zeroblob(200000)) where TowId = 1"}) {
     b.baza.ExecSQL(sql);
-    const WynikPrzebiegu wynik = Eksportuj(u"/dev/full"_s);
-    blad(wynik, u"Błąd zapisu do pliku /dev/full"_s);
-    EXPECT_EQ(wynik.liczniki[Licznik::Rekordy], 0);
+    SprawdzNiepelny(Eksportuj(u"/dev/full"_s), postep, u"Błąd zapisu do pliku /dev/full"_s);
   }
-  int polecen = 0;
-  b.baza.UstawPodsluch([&](std::string_view) { ++polecen; });
-  Eksportuj();
-  for (int ktore = 1; ktore < polecen; ++ktore) {  // the last one moves the log
-    SCOPED_TRACE(ktore);
-    int numer = 0;
-    b.baza.UstawPodsluch([&](std::string_view) {
-      if (++numer == ktore) throw EBladBazy(RodzajBleduBazy::Inny, u"Błąd próbny"_s, {});
-    });
-    blad(Eksportuj(), u"Błąd próbny"_s);
-  }
+  SprawdzAwariePolecen(b, postep, [&] { return Eksportuj(); });
   // A good that goes after the identifiers were read ends the run; what was written before it stays.
-  b.baza.UstawPodsluch([&](std::string_view sql) {
-    if (!sql.starts_with("select TowId, Kod, Nazwa")) return;
-    TVLTBazaDanych inna;
-    b.Polacz(inna);
-    inna.ExecSQL("delete from Istw where TowId = 2");
-    inna.ExecSQL("delete from Towar where TowId = 2");
-  });
-  blad(Eksportuj(), u"Brak obiektu w bazie danych"_s);
+  WykonajPrzed(b, "select TowId, Kod, Nazwa",
+               {"delete from Istw where TowId = 2", "delete from Towar where TowId = 2"});
+  SprawdzNiepelny(Eksportuj(), postep, u"Brak obiektu w bazie danych"_s);
   EXPECT_EQ(Linie().size(), 2u);
 }
 
