@@ -11,7 +11,7 @@ enum class Licznik {
   Dodane,
   Poprawione,
   Pominiete,
-  BezZmian,  // identical with the database; part of the skipped ones
+  BezZmian,  // identical with the database; goods: part of the skipped ones
   Asortymenty,
   Jednostki,
   Stawki,
