@@ -6,6 +6,7 @@
 #include "app/srodowisko.h"
 #include "app/terminal.h"
 #include "contractors/eksport_kontrahentow.h"
+#include "contractors/import_kontrahentow.h"
 #include "goods/eksport_towarow.h"
 #include "goods/import_towarow.h"
 #include "model/bufor_towarow.h"
@@ -28,11 +29,21 @@ WynikPrzebiegu UruchomEksportTowarow(const ParametryPrzebiegu& parametry, Ustawi
   return EksportujTowary(parametry, ustawienia.eksportTow);
 }
 
+WynikPrzebiegu UruchomImportKontrahentow(const ParametryPrzebiegu& parametry, Ustawienia& ustawienia) {
+  return ImportujKontrahentow(parametry, ustawienia.importKontr);
+}
+
 WynikPrzebiegu UruchomEksportKontrahentow(const ParametryPrzebiegu& parametry, Ustawienia& ustawienia) {
   return EksportujKontrahentow(parametry, ustawienia.eksportKontr);
 }
 
 constexpr PozycjaJson kLicznikiEksportu[] = {{u"rekordow", Licznik::Rekordy}};
+
+constexpr PozycjaJson kLicznikiKontrahentow[] = {
+    {u"rekordow", Licznik::Rekordy},        {u"dodanych", Licznik::Dodane},
+    {u"poprawionych", Licznik::Poprawione}, {u"pominietych", Licznik::Pominiete},
+    {u"bezZmian", Licznik::BezZmian},
+};
 
 constexpr PozycjaJson kLicznikiTowarow[] = {
     {u"rekordow", Licznik::Rekordy},
@@ -58,6 +69,11 @@ const Operacja kOperacje[] = {
      u"Istniejący plik nadpisuje.",
      u"Eksport towarów", Kierunek::Eksport, &Ustawienia::plikEksportuTow, &Ustawienia::strukturaTow,
      kLicznikiEksportu, UruchomEksportTowarow},
+    {u"import-kontrahentow", u"importuje kontrahentów z pliku do bazy",
+     u"Bez nazwy pliku importuje plik z ustawienia ParNazwaPlikuImportuKontr.\n"
+     u"Dodaje nowych, gdy ParNowyKontr=1, poprawia istniejących, gdy ParAktualKontr=1.",
+     u"Import kontrahentów", Kierunek::Import, &Ustawienia::plikImportuKontr, &Ustawienia::strukturaKontr,
+     kLicznikiKontrahentow, UruchomImportKontrahentow, false},
     {u"eksport-kontrahentow", u"eksportuje wybranych kontrahentów z bazy do pliku",
      u"Bez nazwy pliku eksportuje do pliku z ustawienia ParNazwaPlikuEksportuKontr.\n"
      u"Istniejący plik nadpisuje. Kogo wysłać, mówią ustawienia od ParGdyOdbiorca\n"
@@ -114,7 +130,9 @@ QString Podsumowanie(const Operacja& operacja, const OpisKonca& koniec, const Wy
   tekst += u" po %1 s. Rekordów: %2"_s.arg(QString::number(wynik.sekund, 'f', 1).replace(u'.', u','))
                .arg(ile(Licznik::Rekordy));
   if (operacja.kierunek == Kierunek::Eksport) return tekst + u".\n"_s;
-  tekst += u", dodanych: %1, poprawionych: %2, pominiętych: %3 (w tym bez zmian: %4).\n"_s
+  tekst += (operacja.bezZmianWsrodPominietych
+                ? u", dodanych: %1, poprawionych: %2, pominiętych: %3 (w tym bez zmian: %4).\n"_s
+                : u", dodanych: %1, poprawionych: %2, pominiętych: %3, bez zmian: %4.\n"_s)
                .arg(ile(Licznik::Dodane))
                .arg(ile(Licznik::Poprawione))
                .arg(ile(Licznik::Pominiete))

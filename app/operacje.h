@@ -24,6 +24,7 @@ struct Operacja {
   StrukturaPliku Ustawienia::*struktura;
   std::span<const PozycjaJson> liczniki;
   WynikPrzebiegu (*uruchom)(const ParametryPrzebiegu&, Ustawienia&);
+  bool bezZmianWsrodPominietych = true;  // imports
 };
 
 std::span<const Operacja> TabelaOperacji();
