@@ -154,6 +154,22 @@ TEST(WierszPolecen, DokumentacjaZnaKazdeUstawienie) {
     EXPECT_TRUE(opis.contains(u'`' + linia.left(35).trimmed() + u'`')) << linia.toStdString();
 }
 
+// Whatever a database or another file has set before, nothing but names of files and of a page stays open.
+TEST(WierszPolecen, KonfiguracjaPonownegoImportuUstalaWszystko) {
+  const QString plik = QStringLiteral(ZORVIK_ZRODLA "/docs/ponowny-import.cfg");
+  TMConfig konfiguracja;
+  EXPECT_EQ(plik_konfiguracji::Wczytaj(plik, konfiguracja), std::nullopt);
+  const Wynik wynik = Stanowisko().Uruchom({u"ustawienia"_s, u"--konfiguracja"_s, plik});
+  EXPECT_EQ(wynik.bledy, QString());
+  for (const QString& linia : wynik.wyjscie.split(u"\r\n"_s, Qt::SkipEmptyParts)) {
+    const QString klucz = linia.left(35).trimmed();
+    // A configuration file cannot carry a name of more than 30 characters; updating contractors resets it.
+    const bool wolny =
+        klucz.startsWith(u"ParNazwaPliku"_s) || klucz == u"ParActivePageIndex"_s || klucz.size() > 30;
+    EXPECT_EQ(konfiguracja.Tekst(klucz), wolny ? QString() : linia.mid(35)) << klucz.toStdString();
+  }
+}
+
 TEST(WierszPolecen, NowaBazaNieNadpisuje) {
   const Stanowisko s;
   const QByteArray przed = s.Odczytaj(u"baza.db"_s);
