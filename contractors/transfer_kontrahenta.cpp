@@ -1,6 +1,5 @@
 #include "contractors/transfer_kontrahenta.h"
 
-#include <algorithm>
 #include <span>
 #include <vector>
 
@@ -50,18 +49,32 @@ Odmowa Kwota(const Przenoszone& p) {
   return std::nullopt;
 }
 
-// Digits only, so many of them; 0, which no date has, for anything else.
-int CzescDaty(QStringView tekst, qsizetype najmniej, qsizetype najwiecej) {
-  const bool cyfry =
-      std::all_of(tekst.begin(), tekst.end(), [](QChar znak) { return znak >= u'0' && znak <= u'9'; });
-  return cyfry && tekst.size() >= najmniej && tekst.size() <= najwiecej ? tekst.toInt() : 0;
+// Takes a number of so many digits off the front; 0, which no date has, when there is none.
+int WezCyfry(QStringView& tekst, qsizetype najmniej, qsizetype najwiecej) {
+  int liczba = 0;
+  qsizetype cyfr = 0;
+  for (; cyfr < tekst.size() && tekst[cyfr] >= u'0' && tekst[cyfr] <= u'9'; ++cyfr) {
+    if (cyfr == najwiecej) return 0;
+    liczba = liczba * 10 + (tekst[cyfr].unicode() - u'0');
+  }
+  tekst = tekst.mid(cyfr);
+  return cyfr < najmniej ? 0 : liczba;
+}
+
+bool WezKropke(QStringView& tekst) {
+  if (!tekst.startsWith(u'.')) return false;
+  tekst = tekst.mid(1);
+  return true;
 }
 
 // day.month.year; invalid for anything else.
 QDate Data(QStringView tekst) {
-  const auto czesci = tekst.split(u'.');
-  if (czesci.size() != 3) return {};
-  return QDate(CzescDaty(czesci[2], 4, 4), CzescDaty(czesci[1], 1, 2), CzescDaty(czesci[0], 1, 2));
+  const int dzien = WezCyfry(tekst, 1, 2);
+  if (!WezKropke(tekst)) return {};
+  const int miesiac = WezCyfry(tekst, 1, 2);
+  if (!WezKropke(tekst)) return {};
+  const int rok = WezCyfry(tekst, 4, 4);
+  return tekst.isEmpty() ? QDate(rok, miesiac, dzien) : QDate();
 }
 
 Odmowa TerminKarty(const Przenoszone& p) {

@@ -13,8 +13,9 @@ bool Cyfra(QChar znak) {
 }  // namespace
 
 QString NormalizujNip(QStringView nip) {
-  QString cyfry;
-  std::copy_if(nip.begin(), nip.end(), std::back_inserter(cyfry), Cyfra);
+  QString cyfry(nip.size(), Qt::Uninitialized);
+  const auto koniec = std::copy_if(nip.begin(), nip.end(), cyfry.begin(), Cyfra);
+  cyfry.truncate(koniec - cyfry.begin());
   return cyfry;
 }
 

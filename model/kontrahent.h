@@ -119,7 +119,7 @@ class TDmVLTKontrahent final : public TDmVLTElement {
 
   bool BylSklepem() const;
   void Sprawdz();
-  std::vector<Parametr> ParametryZapisu() const;
+  std::vector<Parametr>& ParametryZapisu();
   void ZapiszOsoby(int id) const;
   void ZapiszSklep(int id);
   void WstawSklep(int id);
@@ -128,6 +128,7 @@ class TDmVLTKontrahent final : public TDmVLTElement {
 
   std::vector<QString> m_osoby;
   std::vector<QString> m_osobyZBazy;
+  std::vector<Parametr> m_parametry;  // kept for the next save
   // Of the save in hand: the number under which it stores the shop, and whether it made the shop's row.
   long long m_nrSklepu = 0;
   bool m_nowySklep = false;
