@@ -111,6 +111,7 @@ void TKMQuery::CzytajWiersze() {
     Append();
     std::vector<TMField>& wiersz = m_wiersze.back();
     for (std::size_t i = 0; i < wiersz.size(); ++i) wiersz[i].Wczytaj(odczyt[i]);
+    if (m_tylkoPierwszy) break;
   }
   m_biezacy = m_wiersze.empty() ? -1 : 0;
 }

@@ -103,6 +103,8 @@ class TKMQuery final : public TMCustomDataSet {
   void SetParam(const char* nazwa, Wartosc wartosc);
   // With open-empty on, Open gives an empty dataset without asking the database.
   void SetOpenEmpty(bool pusty) { m_otwierajPusty = pusty; }
+  // Open reads the first row only: for selects by a key, which have no other.
+  void SetTylkoPierwszy(bool tylko) { m_tylkoPierwszy = tylko; }
   // Throws EBladBazy of kind Polaczenie when the dataset is not bound; after any failure it is closed.
   void Open();
   void Close();
@@ -122,4 +124,5 @@ class TKMQuery final : public TMCustomDataSet {
   std::vector<Parametr> m_parametry;
   std::vector<TypPola> m_typy;
   bool m_otwierajPusty = false;
+  bool m_tylkoPierwszy = false;
 };
