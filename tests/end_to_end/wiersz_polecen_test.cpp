@@ -47,8 +47,8 @@ TEST(WierszPolecen, PomocWszedzie) {
   const Wynik ogolna = s.Uruchom(Slowa("--help"));
   EXPECT_EQ(ogolna.status, 0);
   EXPECT_EQ(ogolna.bledy, QString());
-  for (const char* polecenie :
-       {"nowa-baza", "ustawienia", "import-towarow", "eksport-towarow", "eksport-kontrahentow"}) {
+  for (const char* polecenie : {"nowa-baza", "ustawienia", "import-towarow", "eksport-towarow",
+                                "import-kontrahentow", "eksport-kontrahentow"}) {
     EXPECT_TRUE(ogolna.wyjscie.contains(QString::fromUtf8(polecenie)));
     const Wynik pomoc = s.Uruchom({QString::fromUtf8(polecenie), u"--help"_s});
     EXPECT_EQ(pomoc.status, 0);
