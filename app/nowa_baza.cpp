@@ -28,8 +28,8 @@ bool ZajmijNazwe(const QString& sciezka) {
   return false;
 }
 
-void Usun(const QString& sciezka) {
-  for (const QString& przyrostek : {u""_s, u"-wal"_s, u"-shm"_s}) QFile::remove(sciezka + przyrostek);
+void Usun(const ParametryPolaczenia& parametry) {
+  for (const QString& plik : parametry.Pliki()) QFile::remove(plik);
 }
 
 void Zapelnij(TVLTBazaDanych& baza, bool demo) {
@@ -57,7 +57,7 @@ StatusWyjscia WykonajNowaBaza(const Argumenty& argumenty) {
   } catch (const EMException& blad) {
     Pokaz(KomunikatBledu(blad));
     baza.Odlacz();
-    Usun(sciezka);
+    Usun(*parametry);
     return StatusWyjscia::Blad;
   }
   terminal::Wypisz(

@@ -1,5 +1,7 @@
 #include "app/operacje.h"
 
+#include <QFileInfo>
+
 #include "app/argumenty.h"
 #include "app/postep_terminala.h"
 #include "app/przerwanie.h"
@@ -137,7 +139,8 @@ QString Podsumowanie(const Operacja& operacja, const OpisKonca& koniec, const Wy
                .arg(ile(Licznik::Poprawione))
                .arg(ile(Licznik::Pominiete))
                .arg(ile(Licznik::BezZmian));
-  if (!wynik.plikPominietych.isEmpty()) tekst += u"Pominięte rekordy: %1\n"_s.arg(wynik.plikPominietych);
+  if (QFileInfo(wynik.plikPominietych).size() > 0)
+    tekst += u"Pominięte rekordy: %1\n"_s.arg(wynik.plikPominietych);
   return tekst;
 }
 

@@ -49,7 +49,8 @@ std::optional<Komunikat> PrzebiegEksportu::OtworzPlik() {
     for (const std::u16string_view nazwa : kPlikiPominietych)
       if (TenSamPlik(plik, QDir(katalog).filePath(Tekst(nazwa))))
         return Odmowa(plik, u"pominiętych rekordów"_s);
-  if (TenSamPlik(plik, Parametry().sesja.baza.Parametry().cel)) return Odmowa(plik, u"bazy danych"_s);
+  for (const QString& plikBazy : Parametry().sesja.baza.Parametry().Pliki())
+    if (TenSamPlik(plik, plikBazy)) return Odmowa(plik, u"bazy danych"_s);
   if (!m_zapis.Otworz(plik)) return KomunikatBladOtwarcia(plik);
   return std::nullopt;
 }

@@ -4,6 +4,10 @@
 #include <QFile>
 #include <QStandardPaths>
 
+QStringList ParametryPolaczenia::Pliki() const {
+  return {cel, cel + QLatin1String("-wal"), cel + QLatin1String("-shm"), cel + QLatin1String("-journal")};
+}
+
 std::optional<ParametryPolaczenia> ParametryPolaczenia::ZTekstu(const QString& tekst) {
   constexpr QLatin1String kPrzedrostek("sqlite:");
   QString cel = tekst.trimmed();

@@ -198,6 +198,7 @@ TEST_F(EksportTest, OdmawiaPlikuKtoregoNieWolnoNadpisac) {
       {folder.filePath(u"dowiązanie"_s), u"jest plikiem pominiętych rekordów"_s},
       {folder.filePath(u"POMINIECI.TXT"_s), u"jest plikiem pominiętych rekordów"_s},
       {b.Sciezka(), u"jest plikiem bazy danych"_s},
+      {b.Sciezka() + u"-wal"_s, u"jest plikiem bazy danych"_s},
       {folder.path(), u"Błąd otwarcia pliku"_s},
       {QString(), u"Błąd otwarcia pliku"_s}};
   for (const auto& [plik, odmowa] : przypadki) {
