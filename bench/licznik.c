@@ -1,6 +1,7 @@
-/* Loaded before the other libraries (LD_PRELOAD): counts the calls that wait for the disk and looks how much
-   SQLite keeps of the database in memory when it is closed. Leaves both numbers (calls, bytes) in the file
-   named by LICZNIK_PLIK when the program ends. */
+/* Loaded before the other libraries (LD_PRELOAD). Counts the calls that wait for the disk, looks how much
+   SQLite keeps of the database in memory when it is closed, and how much memory the program took at most (its
+   parent learns another number: what the parent itself held at the fork counts there). Leaves the numbers
+   (calls, bytes, KB) in the file named by LICZNIK_PLIK when the program ends. */
 #include <dlfcn.h>
 #include <sqlite3.h>
 #include <stdatomic.h>
@@ -28,10 +29,20 @@ int sqlite3_close(sqlite3* baza) {
   return ((int (*)(sqlite3*))dlsym(RTLD_NEXT, "sqlite3_close"))(baza);
 }
 
+static long najwiecej_kb(void) {
+  long kb = 0;
+  char linia[256];
+  FILE* status = fopen("/proc/self/status", "r");
+  while (status != NULL && fgets(linia, sizeof linia, status) != NULL)
+    if (sscanf(linia, "VmHWM: %ld", &kb) == 1) break;
+  if (status != NULL) fclose(status);
+  return kb;
+}
+
 __attribute__((destructor)) static void zapisz(void) {
   const char* nazwa = getenv("LICZNIK_PLIK");
   FILE* plik = nazwa ? fopen(nazwa, "w") : NULL;
   if (plik == NULL) return;
-  fprintf(plik, "%ld %ld\n", fsyncow, stron);
+  fprintf(plik, "%ld %ld %ld\n", fsyncow, stron, najwiecej_kb());
   fclose(plik);
 }

@@ -43,13 +43,12 @@ Przebieg Warsztat::Wykonaj(const Zadanie& z, const std::vector<std::string>& sro
 }
 
 Zuzycie Warsztat::ZorvikZLicznikiem(const Zadanie& zadanie) const {
-  constexpr double kMb = 1024.0 * 1024;
-  const Przebieg przebieg =
-      Wykonaj(zadanie, {"LD_PRELOAD=" + Program("liblicznik.so"), "LICZNIK_PLIK=" + Sciezka("licznik.txt")});
-  long oczekiwan = 0, bajtowStron = 0;
-  std::ifstream(Sciezka("licznik.txt")) >> oczekiwan >> bajtowStron;
-  if (bajtowStron < 1) throw std::runtime_error("Licznik nie zadziałał");
-  return {oczekiwan, static_cast<double>(przebieg.pamiecKb) / 1024, static_cast<double>(bajtowStron) / kMb};
+  Wykonaj(zadanie, {"LD_PRELOAD=" + Program("liblicznik.so"), "LICZNIK_PLIK=" + Sciezka("licznik.txt")});
+  long oczekiwan = 0;
+  double stronyB = 0, pamiecKb = 0;
+  std::ifstream(Sciezka("licznik.txt")) >> oczekiwan >> stronyB >> pamiecKb;
+  if (stronyB <= 0 || pamiecKb <= 0) throw std::runtime_error("Licznik nie zadziałał");
+  return {oczekiwan, pamiecKb / 1024, stronyB / 1024 / 1024};
 }
 
 double Warsztat::Wzorzec(const std::string& tryb, const std::string& baza, const std::string& plik) const {
