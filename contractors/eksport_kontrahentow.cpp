@@ -17,7 +17,7 @@ constexpr OpisEksportu kOpisEksportu{
 // The conditions of an export. The boxes for a tax number that is not known and for what is no protected
 // workplace decide nothing: their opposites alone let every contractor through, or none.
 bool DoWyslania(const DaneKontrahenta& k, const OpcjeEksportuKontrahentow& o) {
-  using P = DaneKontrahenta;
+  using P = KolumnaKontrahenta;
   const bool typ = (k.Flaga(P::Odbiorca) && o.cb_gdyOdbiorca) || (k.Flaga(P::Dostawca) && o.cb_gdyDostawca) ||
                    (k.Flaga(P::Producent) && o.cb_gdyProducent) || (k.sklep && o.cb_gdySklep);
   const bool kontakty = k.Flaga(P::Staly) ? o.cb_gdyStale : o.cb_gdyTymczasowe;
@@ -45,8 +45,8 @@ class PrzebiegEksportuKontrahentow final : public PrzebiegEksportu {
 
   QString NazwaRekordu() const override {
     const DaneKontrahenta& kontrahent = m_odczyt->Biezacy();
-    return (kontrahent[DaneKontrahenta::NIP].AsString() + u' ' +
-            kontrahent[DaneKontrahenta::Nazwa].AsString())
+    return (kontrahent[KolumnaKontrahenta::NIP].AsString() + u' ' +
+            kontrahent[KolumnaKontrahenta::Nazwa].AsString())
         .trimmed();
   }
 

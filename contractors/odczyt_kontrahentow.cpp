@@ -1,11 +1,14 @@
 #include "contractors/odczyt_kontrahentow.h"
 
+#include <span>
+
 #include "model/bledy.h"
 #include "model/zbieracz_osob.h"
 
 namespace {
 
-constexpr OpisPola kKontrahent[] = {ZORVIK_DANE_KONTRAHENTA(ZORVIK_OPIS)};
+constexpr OpisPola kPola[] = {ZORVIK_POLA_KONTRAHENTA(ZORVIK_OPIS)};
+constexpr auto kKontrahent = std::span(kPola).first(KolumnaKontrahenta::Zmiana);
 constexpr OpisPola kSklep[] = {{"SklepId", TypPola::Calkowite}};
 constexpr OpisPola kOsoba[] = {{"KontrId", TypPola::Calkowite}, {"Nazwisko", TypPola::Tekst}};
 

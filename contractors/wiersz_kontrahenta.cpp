@@ -8,24 +8,24 @@
 
 namespace {
 
-using P = DaneKontrahenta;
+using P = KolumnaKontrahenta;
 
-template <P::Kolumna Kolumna>
+template <P::Numer Kolumna>
 void Tekst(const WierszKontrahenta& w) {
   w.pola.Tekst(w.kontrahent[Kolumna].AsString());
 }
 
-template <P::Kolumna Kolumna>
+template <P::Numer Kolumna>
 void Flaga(const WierszKontrahenta& w) {
   w.pola.Calkowita(w.kontrahent.Flaga(Kolumna) ? 1 : 0);
 }
 
-template <P::Kolumna Kolumna>
+template <P::Numer Kolumna>
 void Calkowita(const WierszKontrahenta& w) {
   w.pola.Calkowita(w.kontrahent[Kolumna].AsInteger());
 }
 
-template <P::Kolumna Kolumna>
+template <P::Numer Kolumna>
 void Liczba(const WierszKontrahenta& w) {
   w.pola.Liczba(w.kontrahent[Kolumna].AsFloat());
 }
@@ -58,15 +58,15 @@ void TerminKarty(const WierszKontrahenta& w) {
 // Every contractor's persons, whatever its type.
 void Osoby(const WierszKontrahenta& w) {
   QString blok;
-  bool znakiBloku = false;
+  std::u16string_view powod;
   if (w.opcje.cb_wysylajOsobyUprawnione)
     for (const QString& osoba : w.kontrahent.osoby) {
       blok += blok.isEmpty() ? u'(' : u'|';
       blok += osoba;
-      znakiBloku |= GinieWBloku(osoba, u"(|)");
+      if (GinieWBloku(osoba, u"|")) powod = kZnakiBloku;
     }
   if (!blok.isEmpty()) blok += u')';
-  w.pola.Blok(blok, znakiBloku);
+  w.pola.Blok(blok, powod);
 }
 
 constexpr KolumnaEksportu<WierszKontrahenta> kKolumny[] = {

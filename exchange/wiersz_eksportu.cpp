@@ -28,9 +28,9 @@ void WierszEksportu::Nazwa(const QString& nazwa) {
   if (OdstepNaBrzegu(nazwa)) m_powod = u"odstęp na brzegu";
 }
 
-void WierszEksportu::Blok(const QString& blok, bool znakiBloku) {
+void WierszEksportu::Blok(const QString& blok, std::u16string_view powod) {
   Tekst(blok);
-  if (znakiBloku) m_powod = u"znaki bloku w nazwie";
+  if (!powod.empty()) m_powod = powod;
 }
 
 void WierszEksportu::Liczba(double liczba) {

@@ -17,8 +17,9 @@ class WierszEksportu {
   void Tekst(const QString& tekst);
   // A text that an import takes without the blanks around it.
   void Nazwa(const QString& nazwa);
-  // A text made of names; `znakiBloku`: one of them could not stand in it as it is.
-  void Blok(const QString& blok, bool znakiBloku);
+  // A text made of several; `powod`: why an import would not take it apart into the same, empty when it
+  // would.
+  void Blok(const QString& blok, std::u16string_view powod);
   void Liczba(double liczba);
   void Calkowita(long long liczba);
   // Plain ASCII that comes back as it is.
@@ -41,6 +42,8 @@ struct KolumnaEksportu {
   void (*wpisz)(const Wiersz&);
 };
 
+// Why a block with such a name does not come back.
+inline constexpr std::u16string_view kZnakiBloku = u"znaki bloku w nazwie";
 // Whether a name cannot stand in a block as it is: it holds one of the characters, or blanks at its ends.
 bool GinieWBloku(const QString& nazwa, QStringView znaki);
 

@@ -48,7 +48,7 @@ class PrzebiegEksportuTowarow final : public PrzebiegEksportu {
 
   QString NazwaRekordu() const override {
     const Odczyt& towar = *m_odczyt->Biezacy().wiersz;
-    return towar[PoleEksportu::Kod].AsString() + u' ' + towar[PoleEksportu::Nazwa].AsString();
+    return (towar[PoleEksportu::Kod].AsString() + u' ' + towar[PoleEksportu::Nazwa].AsString()).trimmed();
   }
 
   void PoRekordach() override { m_odczyt.reset(); }

@@ -69,6 +69,7 @@ void Kod(const WierszTowaru& w) {
   const QString kod = w.opcje.cb_eksportBezKodow ? QString() : Pole(w, P::Kod).AsString();
   w.pola.Nazwa(kod);
   if (ZaczynaKomentarz(kod)) w.pola.UstawPowod(u"kod czytany jako komentarz");
+  if (kod.isEmpty() && !w.opcje.cb_eksportBezKodow) w.pola.UstawPowod(u"brak kodu");
 }
 
 void Typ(const WierszTowaru& w) {
@@ -87,21 +88,22 @@ void Jednostka(const WierszTowaru& w) {
 
 void KodyDodatkoweTowaru(const WierszTowaru& w) {
   QString blok;
-  bool znakiBloku = false;
+  std::u16string_view powod;
   if (!w.opcje.cb_eksportBezKodow)
     for (const KodDodatkowy& kod : w.towar.kody) {
       if (!blok.isEmpty()) blok += u';';
       blok += u'(' + kod.kod + u'|' + kod.skrot + u'|' + QString::number(kod.prefPLU) + u')';
-      znakiBloku |= GinieWBloku(kod.kod, u"(|)") || GinieWBloku(kod.skrot, u"(|)");
+      if (kod.skrot.isEmpty()) powod = u"kod dodatkowy bez skrótu";
+      if (GinieWBloku(kod.kod, u"(|)") || GinieWBloku(kod.skrot, u"(|)")) powod = kZnakiBloku;
     }
-  w.pola.Blok(blok, znakiBloku);
+  w.pola.Blok(blok, powod);
 }
 
 void Kategoria(const WierszTowaru& w) {
   const KategoriaEksportu* kategoria =
       w.opcje.cb_eksportBezKategorii ? nullptr : w.slowniki.Kategoria(Pole(w, P::KatId).AsInteger());
   w.pola.Blok(kategoria ? kategoria->Blok(w.towar.wartosci) : QString(),
-              kategoria && kategoria->ZnakiBloku());
+              kategoria && !kategoria->Wroci() ? u"kategoria czytana inaczej" : u"");
 }
 
 void Stan(const WierszTowaru& w) {
@@ -111,22 +113,27 @@ void Stan(const WierszTowaru& w) {
     w.pola.Ascii({});
 }
 
+constexpr std::u16string_view kCudzyNip = u"NIP nie wskaże tego kontrahenta";
+
 void NipProducenta(const WierszTowaru& w) {
-  w.pola.Nazwa(w.slowniki.Nip(Pole(w, P::Producent).AsInteger()));
+  const NipKontrahenta& producent = w.slowniki.Nip(Pole(w, P::Producent).AsInteger());
+  w.pola.Nazwa(producent.nip);
+  if (!producent.wskazuje) w.pola.UstawPowod(kCudzyNip);
 }
 
 void NipyDostawcow(const WierszTowaru& w) {
   QString blok;
-  bool znakiBloku = false;
+  std::u16string_view powod;
   for (const int kontrId : w.towar.dostawcy) {
-    const QString& nip = w.slowniki.Nip(kontrId);
-    if (nip.isEmpty()) continue;
+    const NipKontrahenta& dostawca = w.slowniki.Nip(kontrId);
+    if (dostawca.nip.isEmpty()) continue;
     blok += blok.isEmpty() ? u'(' : u'|';
-    blok += nip;
-    znakiBloku |= GinieWBloku(nip, u"(|;)");
+    blok += dostawca.nip;
+    if (!dostawca.wskazuje) powod = kCudzyNip;
+    if (GinieWBloku(dostawca.nip, u"(|;)")) powod = kZnakiBloku;
   }
   if (!blok.isEmpty()) blok += u')';
-  w.pola.Blok(blok, znakiBloku);
+  w.pola.Blok(blok, powod);
 }
 
 constexpr KolumnaEksportu<WierszTowaru> kKolumny[] = {

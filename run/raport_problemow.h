@@ -18,9 +18,9 @@ inline constexpr std::u16string_view kPominieciKontrahenci = u"POMINIECI.TXT";
 inline constexpr std::u16string_view kPlikiPominietych[] = {kPominieteTowary, kPominieciKontrahenci};
 
 // The skipped-records file of a run: one line per problem, "code | name | message" or, for contractors, "tax
-// number | name | message", in Windows-1250. Lines
-// belong to the open batch: they are written when it commits and forgotten when it is lost. Order of calls:
-// Otworz; for every record NowyRekord, then Zglos as often as needed; Zatwierdz or Porzuc; Zamknij.
+// number | name | message", in Windows-1250. Lines belong to the open batch: they are written when it commits
+// and forgotten when it is lost. Order of calls: Otworz; for every record NowyRekord, then Zglos as often as
+// needed; Zatwierdz or Porzuc; Zamknij.
 class RaportProblemow {
  public:
   RaportProblemow(IPostep& postep, Liczniki& liczniki) : m_postep(postep), m_liczniki(liczniki) {}

@@ -154,10 +154,12 @@ TEST_F(EksportTest, ImportTegoSamegoPlikuNicNieZmienia) {
 }
 
 TEST_F(EksportTest, MowiOTymCoNieWroci) {
-  const struct {
+  struct Przypadek {
     const char* sql;
     QString powod;  // empty: a character was lost
-  } przypadki[] = {
+  };
+  const QString kCudzyNip = u"NIP nie wskaże tego kontrahenta"_s;
+  const Przypadek przypadki[] = {
       {"update Towar set Opis1 = 'a' || char(9) || 'b' where TowId = 3", u"tabulator"_s},
       {"update Towar set Indeks2 = char(13) || char(10) where TowId = 3", u"koniec wiersza"_s},
       {"update Towar set Skrot = ' a' where TowId = 3", u"odstęp na brzegu"_s},
@@ -165,14 +167,28 @@ TEST_F(EksportTest, MowiOTymCoNieWroci) {
       {"update Towar set Kod = '//1' where TowId = 3", u"kod czytany jako komentarz"_s},
       {"insert into KodDod (TowId, Kolejnosc, Kod) values (3, 1, '1|2')", u"znaki bloku w nazwie"_s},
       {"update Towar set Opis3 = '€Ω' where TowId = 3", u""_s},
-      {"update Towar set KatId = 2 where TowId = 3", u"znaki bloku w nazwie"_s},
+      {"update Towar set Kod = '' where TowId = 3", u"brak kodu"_s},
+      {"insert into KodDod (TowId, Kolejnosc, Kod) values (3, 1, '12')", u"kod dodatkowy bez skrótu"_s},
+      {"update Towar set KatId = 2 where TowId = 3", u"kategoria czytana inaczej"_s},
+      {"insert into KatParam values (3, 4, 0)", u"kategoria czytana inaczej"_s},  // a list without values
+      {"insert into KatParam values (3, 5, 0)", u"kategoria czytana inaczej"_s},  // one like a range
+      {"insert into KatParam values (3, 6, 0)", u"kategoria czytana inaczej"_s},  // a value with blanks
+      {"insert into KatParam values (3, 3, 0)", u"kategoria czytana inaczej"_s},  // of an unknown type
+      {"update Towar set Producent = 5 where TowId = 3", kCudzyNip},
+      {"insert into TowDostawca values (3, 2, 0), (3, 6, 1)", kCudzyNip},
   };
   for (const auto& p : przypadki) {
     SCOPED_TRACE(p.sql);
     b.baza.ExecSQL("savepoint p");
-    b.baza.ExecSQL("insert into Kategoria (Nazwa) values ('a:b')");
-    b.baza.ExecSQL(p.sql);
-    const QString towar = b.Tekst("select Kod || ' Ćma' from Towar where TowId = 3");
+    // What a case refers to; the good has a category and a producer that come back.
+    for (const char* sql :
+         {"insert into Kategoria (Nazwa) values ('a:b'), ('Ser')",
+          "insert into Parametr (Nazwa, Typ, Od, Do) values ('P', 0, 0, 0), ('Z', 0, 0, 0), ('B', 0, 0, 0)",
+          "insert into ParWartosc values (5, 0, '1..5'), (6, 0, 'a'), (6, 1, ' b')",
+          "insert into Kontrahent (Nazwa, NIP) values ('N', 'brak'), ('T', '22-2')",
+          "update Towar set KatId = 3, Producent = 1 where TowId = 3", p.sql})
+      b.baza.ExecSQL(sql);
+    const QString towar = b.Tekst("select trim(Kod || ' Ćma') from Towar where TowId = 3");
     Eksportuj();
     b.baza.ExecSQL("rollback to p");
     b.baza.ExecSQL("release p");
