@@ -38,7 +38,7 @@ std::string Cyfry(std::uint64_t numer, std::size_t ile) {
 }
 
 std::string Nip(std::uint64_t i) {
-  const std::string c = Cyfry(5'250'000'000 + i * 7, 10);
+  std::string c = Cyfry(5'250'000'000 + i * 7, 10);
   switch (i % 3) {
     case 0:
       return c;

@@ -67,26 +67,31 @@ void DodajPamiec(const Seria& mala, const Seria& duza, const char* czego, Tabela
 }  // namespace
 
 const OpisEksportu& EksportTowarow() {
-  static const OpisEksportu opis{"eksport-towarow", "towarów",         {{"ParEksportStanow", "1"}},
-                                 ImportTowarow(),   DopiszDaneTowarow, 3};
+  static const OpisEksportu opis{.operacja = "eksport-towarow",
+                                 .czego = "towarów",
+                                 .ustawienia = {{"ParEksportStanow", "1"}},
+                                 .import = ImportTowarow(),
+                                 .uzupelnijBaze = DopiszDaneTowarow,
+                                 .granica = 3};
   return opis;
 }
 
+// Every contractor with everything that belongs to it.
 const OpisEksportu& EksportKontrahentow() {
-  static const OpisEksportu opis{"eksport-kontrahentow",
-                                 "kontrahentów",
-                                 {{"ParGdyOdbiorca", "1"},
-                                  {"ParGdyDostawca", "1"},
-                                  {"ParGdyProducent", "1"},
-                                  {"ParGdySklep", "1"},
-                                  {"ParGdyStale", "1"},
-                                  {"ParGdyTymczasowe", "1"},
-                                  {"ParGdyZnamyNIP", "1"},
-                                  {"ParGdyZakladPrChr", "1"},
-                                  {"ParWysylajOsobyUpr", "1"}},
-                                 ImportKontrahentow(),
-                                 nullptr,
-                                 3};
+  static const OpisEksportu opis{.operacja = "eksport-kontrahentow",
+                                 .czego = "kontrahentów",
+                                 .ustawienia = {{"ParGdyOdbiorca", "1"},
+                                                {"ParGdyDostawca", "1"},
+                                                {"ParGdyProducent", "1"},
+                                                {"ParGdySklep", "1"},
+                                                {"ParGdyStale", "1"},
+                                                {"ParGdyTymczasowe", "1"},
+                                                {"ParGdyZnamyNIP", "1"},
+                                                {"ParGdyZakladPrChr", "1"},
+                                                {"ParWysylajOsobyUpr", "1"}},
+                                 .import = ImportKontrahentow(),
+                                 .uzupelnijBaze = nullptr,
+                                 .granica = 3};
   return opis;
 }
 

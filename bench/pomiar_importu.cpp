@@ -97,26 +97,28 @@ void ZapiszRozdzielanyTowarow(const std::string& sciezka, int ile, bool zmienion
 }  // namespace
 
 const OpisImportu& ImportTowarow() {
-  static const OpisImportu opis{Rekordy::Towary,
-                                "import-towarow",
-                                "towarów",
-                                ZapiszRozdzielanyTowarow,
-                                UstawieniaImportuTowarow(TypPliku::Rozdzielany),
-                                3,
-                                1.5,
-                                3};
+  static const OpisImportu opis{.rekordy = Rekordy::Towary,
+                                .operacja = "import-towarow",
+                                .czego = "towarów",
+                                .zapiszPlik = ZapiszRozdzielanyTowarow,
+                                .ustawienia = UstawieniaImportuTowarow(TypPliku::Rozdzielany),
+                                .granicaDodawania = 3,
+                                .granicaIdentycznych = 1.5,
+                                .granicaPoprawiania = 3};
   return opis;
 }
 
+// A plain program adds a contractor at half the cost of a good (one index, no stock); the limit for those
+// found identical, a multiple of it, allows for that.
 const OpisImportu& ImportKontrahentow() {
-  static const OpisImportu opis{Rekordy::Kontrahenci,
-                                "import-kontrahentow",
-                                "kontrahentów",
-                                ZapiszPlikKontrahentow,
-                                UstawieniaImportuKontrahentow(),
-                                4,
-                                1.5,
-                                4};
+  static const OpisImportu opis{.rekordy = Rekordy::Kontrahenci,
+                                .operacja = "import-kontrahentow",
+                                .czego = "kontrahentów",
+                                .zapiszPlik = ZapiszPlikKontrahentow,
+                                .ustawienia = UstawieniaImportuKontrahentow(),
+                                .granicaDodawania = 4,
+                                .granicaIdentycznych = 2,
+                                .granicaPoprawiania = 4};
   return opis;
 }
 

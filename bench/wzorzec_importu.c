@@ -153,12 +153,13 @@ static void przepisz(const char* nazwa, int poprawianie, const char* tylko) {
   if (poprawianie) wczytaj_nipy();
 
   while (fgets(linia, sizeof linia, plik) != NULL) {
+    int ile = podziel(linia, wartosci);
+    if (ile == 0) continue;
     int nr = tabela(linia[0]);
     const Tabela* t = &tabele[nr];
     if (polecenia[nr] == NULL)
       polecenia[nr] = poprawianie && t->poprawiana ? przygotuj_update(t, tylko) : przygotuj_insert(t);
     sqlite3_stmt* polecenie = polecenia[nr];
-    int ile = podziel(linia, wartosci);
     for (int i = 0; i < ile; ++i) zwiaz(polecenie, i + 1, wartosci[i]);
     if (t->glowna && poprawianie) klucz = znajdz(t->litera, wartosci[0] + 1);
     if (t->klucz && (!t->glowna || poprawianie)) sprawdz(sqlite3_bind_int64(polecenie, PAR_KLUCZ, klucz));
