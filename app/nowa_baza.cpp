@@ -23,8 +23,8 @@ std::optional<Komunikat> ZajmijNazwe(const QString& sciezka) {
                                    : u"Nie można utworzyć pliku %1\n%2"_s.arg(sciezka, plik.errorString())};
 }
 
-void Usun(const QString& sciezka) {
-  for (const QString& przyrostek : {u""_s, u"-wal"_s, u"-shm"_s}) QFile::remove(sciezka + przyrostek);
+void Usun(const ParametryPolaczenia& parametry) {
+  for (const QString& plik : parametry.Pliki()) QFile::remove(plik);
 }
 
 void Zapelnij(TVLTBazaDanych& baza, bool demo) {
@@ -48,7 +48,7 @@ WynikNowejBazy UtworzNowaBaze(ParametryPolaczenia parametry, bool demo) {
     baza.Odlacz();
   } catch (const EMException& blad) {
     baza.Odlacz();
-    Usun(parametry.cel);
+    Usun(parametry);
     return {StatusWyjscia::Blad, KomunikatBledu(blad)};
   }
   return {};

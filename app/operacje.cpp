@@ -1,33 +1,31 @@
 #include "app/operacje.h"
 
+#include <QFileInfo>
+
 #include "app/argumenty.h"
 #include "app/postep_terminala.h"
 #include "app/przerwanie.h"
 #include "app/srodowisko.h"
 #include "app/terminal.h"
-#include "goods/eksport_towarow.h"
-#include "goods/import_towarow.h"
 #include "model/bufor_towarow.h"
 #include "model/kontekst.h"
 #include "platform/liczby.h"
 #include "run/operator.h"
 #include "run/przebieg.h"
 #include "ustawienia/kontrola_struktury.h"
+#include "ustawienia/rodzaje_przebiegow.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-WynikPrzebiegu UruchomImportTowarow(const ParametryPrzebiegu& parametry, Ustawienia& ustawienia) {
-  TVLTBuforTowarow bufor;
-  return ImportujTowary(parametry, ustawienia.importTow, bufor);
-}
-
-WynikPrzebiegu UruchomEksportTowarow(const ParametryPrzebiegu& parametry, Ustawienia& ustawienia) {
-  return EksportujTowary(parametry, ustawienia.eksportTow);
-}
-
 constexpr PozycjaJson kLicznikiEksportu[] = {{u"rekordow", Licznik::Rekordy}};
+
+constexpr PozycjaJson kLicznikiKontrahentow[] = {
+    {u"rekordow", Licznik::Rekordy},        {u"dodanych", Licznik::Dodane},
+    {u"poprawionych", Licznik::Poprawione}, {u"pominietych", Licznik::Pominiete},
+    {u"bezZmian", Licznik::BezZmian},
+};
 
 constexpr PozycjaJson kLicznikiTowarow[] = {
     {u"rekordow", Licznik::Rekordy},
@@ -43,16 +41,25 @@ constexpr PozycjaJson kLicznikiTowarow[] = {
     {u"formatowKodowWazonych", Licznik::FormatyKodowWazonych},
 };
 
+// The run kinds by their place in the table of them.
+enum Rodzaj : std::size_t { kImportTowarow, kEksportTowarow, kImportKontrahentow, kEksportKontrahentow };
+
 const Operacja kOperacje[] = {
-    {u"import-towarow", u"importuje towary z pliku do bazy",
-     u"Bez nazwy pliku importuje plik z ustawienia ParNazwaPlikuImportuTow.", u"Import towarów",
-     Kierunek::Import, &Ustawienia::plikImportuTow, &Ustawienia::strukturaTow, kLicznikiTowarow,
-     UruchomImportTowarow},
-    {u"eksport-towarow", u"eksportuje wszystkie towary z bazy do pliku",
+    {TabelaRodzajowPrzebiegow()[kImportTowarow], u"importuje towary z pliku do bazy",
+     u"Bez nazwy pliku importuje plik z ustawienia ParNazwaPlikuImportuTow.", kLicznikiTowarow},
+    {TabelaRodzajowPrzebiegow()[kEksportTowarow], u"eksportuje wszystkie towary z bazy do pliku",
      u"Bez nazwy pliku eksportuje do pliku z ustawienia ParNazwaPlikuEksportuTow.\n"
      u"Istniejący plik nadpisuje.",
-     u"Eksport towarów", Kierunek::Eksport, &Ustawienia::plikEksportuTow, &Ustawienia::strukturaTow,
-     kLicznikiEksportu, UruchomEksportTowarow},
+     kLicznikiEksportu},
+    {TabelaRodzajowPrzebiegow()[kImportKontrahentow], u"importuje kontrahentów z pliku do bazy",
+     u"Bez nazwy pliku importuje plik z ustawienia ParNazwaPlikuImportuKontr.\n"
+     u"Dodaje nowych, gdy ParNowyKontr=1, poprawia istniejących, gdy ParAktualKontr=1.",
+     kLicznikiKontrahentow, false},
+    {TabelaRodzajowPrzebiegow()[kEksportKontrahentow], u"eksportuje wybranych kontrahentów z bazy do pliku",
+     u"Bez nazwy pliku eksportuje do pliku z ustawienia ParNazwaPlikuEksportuKontr.\n"
+     u"Istniejący plik nadpisuje. Kogo wysłać, mówią ustawienia od ParGdyOdbiorca\n"
+     u"do ParGdyNieZakladPrChr; dopóki są wyłączone, plik ma tylko nagłówek.",
+     kLicznikiEksportu},
 };
 
 // The run, from the settings to its result; refused when it could not begin.
@@ -61,8 +68,9 @@ WynikPrzebiegu Przeprowadz(const Operacja& operacja, const Argumenty& argumenty,
   Srodowisko srodowisko;
   if (!Przygotuj(argumenty, PotrzebaBazy::Konieczna, pokaz, srodowisko)) return {};
   Ustawienia& ustawienia = srodowisko.ustawienia;
-  const StrukturaPliku& struktura = ustawienia.*operacja.struktura;
-  const auto odmowa = operacja.kierunek == Kierunek::Import ? SprawdzStrukture(struktura) : std::nullopt;
+  const RodzajPrzebiegu& rodzaj = operacja.rodzaj;
+  const StrukturaPliku& struktura = ustawienia.*rodzaj.struktura;
+  const auto odmowa = rodzaj.kierunek == Kierunek::Import ? SprawdzStrukture(struktura) : std::nullopt;
   if (odmowa) {
     pokaz(*odmowa);
     return {};
@@ -70,16 +78,17 @@ WynikPrzebiegu Przeprowadz(const Operacja& operacja, const Argumenty& argumenty,
 
   OperatorNieobecny oper(postep, argumenty.liczbaPol);
   KontekstSesji sesja{srodowisko.baza, srodowisko.parametry};
-  return operacja.uruchom(
+  TVLTBuforTowarow bufor;
+  return rodzaj.wykonaj(
       {.sesja = sesja,
        .struktura = struktura,
-       .plik = argumenty.plik.value_or(ustawienia.*operacja.plik),
+       .plik = argumenty.plik.value_or(ustawienia.*rodzaj.plik),
        .postep = postep,
        .oper = oper,
        .stop = przerwanie::Zazadane(),
        .separatorDziesietny = argumenty.separatorDziesietny.value_or(liczby::SeparatorSystemu()),
        .katalogPominietych = argumenty.pominiete.value_or(QString())},
-      ustawienia);
+      ustawienia, bufor);
 }
 
 struct OpisKonca {
@@ -97,18 +106,21 @@ constexpr OpisKonca kKonce[] = {
 };
 
 QString Podsumowanie(const Operacja& operacja, const OpisKonca& koniec, const WynikPrzebiegu& wynik) {
-  QString tekst = u"%1: %2"_s.arg(Napis(operacja.tytul), Napis(koniec.dlaLudzi));
+  QString tekst = u"%1: %2"_s.arg(Napis(operacja.rodzaj.tytul), Napis(koniec.dlaLudzi));
   if (wynik.koniec == KoniecPrzebiegu::Odmowa) return tekst + u'\n';
   const auto ile = [&](Licznik licznik) { return wynik.liczniki[licznik]; };
   tekst += u" po %1 s. Rekordów: %2"_s.arg(QString::number(wynik.sekund, 'f', 1).replace(u'.', u','))
                .arg(ile(Licznik::Rekordy));
-  if (operacja.kierunek == Kierunek::Eksport) return tekst + u".\n"_s;
-  tekst += u", dodanych: %1, poprawionych: %2, pominiętych: %3 (w tym bez zmian: %4).\n"_s
+  if (operacja.rodzaj.kierunek == Kierunek::Eksport) return tekst + u".\n"_s;
+  tekst += (operacja.bezZmianWsrodPominietych
+                ? u", dodanych: %1, poprawionych: %2, pominiętych: %3 (w tym bez zmian: %4).\n"_s
+                : u", dodanych: %1, poprawionych: %2, pominiętych: %3, bez zmian: %4.\n"_s)
                .arg(ile(Licznik::Dodane))
                .arg(ile(Licznik::Poprawione))
                .arg(ile(Licznik::Pominiete))
                .arg(ile(Licznik::BezZmian));
-  if (!wynik.plikPominietych.isEmpty()) tekst += u"Pominięte rekordy: %1\n"_s.arg(wynik.plikPominietych);
+  if (QFileInfo(wynik.plikPominietych).size() > 0)
+    tekst += u"Pominięte rekordy: %1\n"_s.arg(wynik.plikPominietych);
   return tekst;
 }
 
@@ -124,7 +136,7 @@ StatusWyjscia WykonajOperacje(const Operacja& operacja, const Argumenty& argumen
   const OpisKonca& koniec = kKonce[static_cast<std::size_t>(wynik.koniec)];
   if (argumenty.json)
     terminal::WypiszBajty(
-        WynikJson(operacja.nazwa, koniec.nazwa, operacja.liczniki, wynik, postep.Pokazane()));
+        WynikJson(operacja.rodzaj.nazwa, koniec.nazwa, operacja.liczniki, wynik, postep.Pokazane()));
   else
     terminal::Wypisz(Podsumowanie(operacja, koniec, wynik));
   return koniec.status;

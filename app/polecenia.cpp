@@ -7,6 +7,7 @@
 #include "app/operacje.h"
 #include "app/srodowisko.h"
 #include "app/terminal.h"
+#include "ustawienia/rodzaje_przebiegow.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,7 +25,7 @@ std::vector<PolecenieProgramu> UtworzPolecenia() {
        GrupaOpcji::Ogolne | GrupaOpcji::Ustawienia, WykonajUstawienia},
   };
   for (const Operacja& operacja : TabelaOperacji())
-    polecenia.push_back({operacja.nazwa, ArgumentPliku::Opcjonalny, operacja.opis, operacja.szczegoly,
+    polecenia.push_back({operacja.rodzaj.nazwa, ArgumentPliku::Opcjonalny, operacja.opis, operacja.szczegoly,
                          GrupaOpcji::Ogolne | GrupaOpcji::Ustawienia | GrupaOpcji::Przebieg,
                          [&operacja](const Argumenty& a) { return WykonajOperacje(operacja, a); }});
   return polecenia;

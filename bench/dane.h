@@ -4,8 +4,18 @@
 
 #include "exchange/struktura_pliku.h"
 
-// Writes a goods file of so many records in Windows-1250: valid EAN-13 codes and names that do not repeat,
-// every fifth record with an additional code, 200 assortments, 8 units. The same call gives the same bytes;
-// `noweCeny` changes both prices of every record and nothing else. Throws std::runtime_error when the file
-// cannot be written.
+// Files for the measured imports, in Windows-1250. The same call gives the same bytes. Throw
+// std::runtime_error when the file cannot be written.
+
+// Goods: valid EAN-13 codes and names that do not repeat, every fifth record with an additional code, 200
+// assortments, 8 units. `noweCeny` changes both prices of every record and nothing else.
 void ZapiszPlikTowarow(const std::string& sciezka, int ile, TypPliku typ, bool noweCeny);
+
+// Contractors in the own layout: tax numbers that do not repeat, written in three ways, suppliers, producers
+// and customers, every third of them with two persons and every fourth with a card, every hundredth a shop.
+// `nowyKredyt` changes the credit limit of every record and nothing else.
+void ZapiszPlikKontrahentow(const std::string& sciezka, int ile, bool nowyKredyt);
+
+// Gives the goods of a database what their files do not carry: descriptions, margins, a category with
+// parameters of both kinds, more codes, a producer, suppliers and stock in three warehouses.
+void DopiszDaneTowarow(const std::string& baza);

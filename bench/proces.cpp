@@ -5,7 +5,6 @@
 #include <stdexcept>
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -44,10 +43,8 @@ Przebieg Uruchom(const std::vector<std::string>& polecenie, const std::vector<st
   }
   ::close(potok[0]);
   int status = 0;
-  rusage zuzycie{};
-  ::wait4(pid, &status, 0, &zuzycie);
+  ::waitpid(pid, &status, 0);
   przebieg.sekund = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-  przebieg.pamiecKb = zuzycie.ru_maxrss;
   if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
     std::string opis = "Nie powiodło się:";
     for (const std::string& a : polecenie) opis += ' ' + a;

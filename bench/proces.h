@@ -6,7 +6,6 @@
 // What one run of a program took.
 struct Przebieg {
   double sekund = 0;  // from start to end, by the clock on the wall
-  long pamiecKb = 0;  // the most it held in memory
   std::string wyjscie;
 };
 

@@ -1,6 +1,6 @@
 #include "bench/uklad.h"
 
-#include <utility>
+#include <iterator>
 
 namespace {
 
@@ -45,8 +45,8 @@ StrukturaPliku Struktura(TypPliku typ) {
   return struktura;
 }
 
-std::string PlikKonfiguracji(TypPliku typ) {
-  std::vector<std::pair<std::string, std::string>> ustawienia = {
+Ustawienia UstawieniaImportuTowarow(TypPliku typ) {
+  Ustawienia ustawienia = {
       {"ParTypPlikuTow", std::to_string(static_cast<int>(typ))},   {"ParPlTypeTow", "0"},
       {"ParSeparatorTow", typ == TypPliku::Zorvik ? "tab" : ";"},  {"ParKwalifikatorTekstuTow", "0"},
       {"ParNieAnalPierwTow", typ == TypPliku::Zorvik ? "1" : "0"}, {"ParSprawdzCyfreKontrolna", "1"},
@@ -57,9 +57,18 @@ std::string PlikKonfiguracji(TypPliku typ) {
   ustawienia.emplace_back("ParIloscOpisowVAT", std::to_string(std::size(kOpisyVat)));
   numer = 0;
   for (const char* opis : kOpisyVat) ustawienia.emplace_back("ParOpisVAT" + std::to_string(numer++), opis);
+  return ustawienia;
+}
 
+Ustawienia UstawieniaImportuKontrahentow() {
+  return {{"ParTypPlikuKontr", "0"},        {"ParSeparatorKontr", "tab"}, {"ParNieAnalPierwKontr", "1"},
+          {"ParAktualKontr", "1"},          {"ParNowyKontr", "1"},        {"ParPominKontrBezNIPu", "1"},
+          {"ParPominBoTakiNIPJuzJest", "1"}};
+}
+
+std::string PlikKonfiguracji(const Ustawienia& ustawienia) {
   std::string plik;
-  for (auto& [nazwa, wartosc] : ustawienia) {
+  for (auto [nazwa, wartosc] : ustawienia) {
     nazwa.resize(35, ' ');
     plik += nazwa + wartosc + "\r\n";
   }

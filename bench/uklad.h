@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "exchange/struktura_pliku.h"
@@ -14,5 +15,11 @@ struct Kolumna {
 const std::vector<Kolumna>& Kolumny();
 
 StrukturaPliku Struktura(TypPliku typ);
-// The same structure and the options of the run as a configuration file.
-std::string PlikKonfiguracji(TypPliku typ);
+
+// Settings of zorvik-cli, name and value.
+using Ustawienia = std::vector<std::pair<std::string, std::string>>;
+// The structure above and the options of the run.
+Ustawienia UstawieniaImportuTowarow(TypPliku typ);
+// Found contractors are updated, the others added.
+Ustawienia UstawieniaImportuKontrahentow();
+std::string PlikKonfiguracji(const Ustawienia& ustawienia);

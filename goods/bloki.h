@@ -40,10 +40,14 @@ struct ParametrZBloku {
   std::vector<QString> wartosci;
   int od = 0;
   int doo = 0;
+
+  friend bool operator==(const ParametrZBloku&, const ParametrZBloku&) = default;
 };
 struct BlokKategorii {
   QString kategoria;
   std::vector<ParametrZBloku> parametry;
+
+  friend bool operator==(const BlokKategorii&, const BlokKategorii&) = default;
 };
 WynikBloku<BlokKategorii> CzytajBlokKategorii(QStringView blok);
 

@@ -15,7 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr OpisPrzebiegu kOpis{{}, u"zamykanie pliku eksportu", u"Eksport zakończono", {}, kPlikNiepelny};
-constexpr OpisEksportu kOpisEksportu{u"przygotowanie bufora towarów", u"eksport bazy towarów"};
+constexpr OpisEksportu kOpisEksportu{u"przygotowanie bufora towarów", u"eksport bazy towarów",
+                                     "select TowId from Towar order by TowId"};
 
 class PrzebiegEksportuTowarow final : public PrzebiegEksportu {
  public:
@@ -23,15 +24,6 @@ class PrzebiegEksportuTowarow final : public PrzebiegEksportu {
       : PrzebiegEksportu(parametry, kOpis, kOpisEksportu), m_opcje(opcje) {}
 
  protected:
-  std::vector<int> Identyfikatory() override {
-    std::vector<int> identyfikatory;
-    for (auto odczyt =
-             Parametry().sesja.baza.Otworz("select TowId from Towar order by TowId", {TypPola::Calkowite});
-         odczyt.Nastepny();)
-      identyfikatory.push_back(static_cast<int>(odczyt[0].AsInteger()));
-    return identyfikatory;
-  }
-
   // The goods first: what is read after their first row comes from the same moment of the database, the
   // dictionaries included.
   void PrzedRekordami() override {
@@ -41,18 +33,22 @@ class PrzebiegEksportuTowarow final : public PrzebiegEksportu {
   }
 
   void Naglowek(ZapisRekordow& zapis) override {
-    for (const KolumnaEksportu& kolumna : KolumnyTowaru()) zapis.Pole(kolumna.naglowek);
+    for (const auto& kolumna : KolumnyTowaru()) zapis.Pole(kolumna.naglowek);
   }
 
-  std::u16string_view Rekord(int id, ZapisRekordow& zapis) override {
-    WierszTowaru wiersz{m_odczyt->Wczytaj(id), m_opcje, *m_slowniki, Parametry().separatorDziesietny, zapis};
-    for (const KolumnaEksportu& kolumna : KolumnyTowaru()) kolumna.wpisz(wiersz);
-    return wiersz.powod;
+  bool Wczytaj(int id) override {
+    m_odczyt->Wczytaj(id);
+    return true;
+  }
+
+  void Rekord(WierszEksportu& pola) override {
+    const WierszTowaru wiersz{m_odczyt->Biezacy(), m_opcje, *m_slowniki, pola};
+    for (const auto& kolumna : KolumnyTowaru()) kolumna.wpisz(wiersz);
   }
 
   QString NazwaRekordu() const override {
     const Odczyt& towar = *m_odczyt->Biezacy().wiersz;
-    return towar[PoleEksportu::Kod].AsString() + u' ' + towar[PoleEksportu::Nazwa].AsString();
+    return (towar[PoleEksportu::Kod].AsString() + u' ' + towar[PoleEksportu::Nazwa].AsString()).trimmed();
   }
 
   void PoRekordach() override { m_odczyt.reset(); }

@@ -64,7 +64,9 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
  public:
   PrzebiegImportuTowarow(const ParametryPrzebiegu& parametry, const OpcjeImportuTowarow& opcje,
                          TVLTBuforTowarow& bufor)
-      : PrzebiegImportu(parametry, kOpis), m_opcje(opcje), m_bufor(bufor) {}
+      : PrzebiegImportu(parametry, kOpis, {PoleTowaru::Kod, PoleTowaru::Nazwa}),
+        m_opcje(opcje),
+        m_bufor(bufor) {}
 
  protected:
   bool PrzygotujBufory() override { return PrzygotujBuforTowarow() && PrzygotujBuforNip(); }
@@ -95,10 +97,9 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
  private:
   bool PrzygotujBuforTowarow() {
     if (m_bufor.Gotowy()) return true;
-    Postep().Faza(u"przygotowanie bufora towarów"_s);
-    if (!m_bufor.Napelnij(Parametry().sesja.baza, PostepBufora())) return false;
-    Postep().Gotowe();
-    return true;
+    return FazaBufora(u"przygotowanie bufora towarów"_s, 0, [this](const PostepBufora& postep) {
+      return m_bufor.Napelnij(Parametry().sesja.baza, postep);
+    });
   }
 
   bool PrzygotujBuforNip() {
@@ -106,18 +107,9 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
     const auto uzywane = [&](int pole) { return struktura.CzyOferowane(pole) && Plik().NiesiePole(pole); };
     if (!uzywane(PoleTowaru::NipProducenta) && !uzywane(PoleTowaru::NipyDostawcow)) return true;
     TVLTBazaDanych& baza = Parametry().sesja.baza;
-    Postep().Faza(u"przygotowanie bufora NIP-ów"_s, TVLTBuforNip::IloscKontrahentow(baza));
     m_nipy.emplace();
-    if (!m_nipy->Napelnij(baza, PostepBufora())) return false;
-    Postep().Gotowe();
-    return true;
-  }
-
-  std::function<bool(int)> PostepBufora() {
-    return [this, dlawik = DlawikPostepu()](int przeczytanych) mutable {
-      if (dlawik.Przepusc()) Postep().Pozycja(przeczytanych);
-      return !Stop();
-    };
+    return FazaBufora(u"przygotowanie bufora NIP-ów"_s, TVLTBuforNip::IloscKontrahentow(baza),
+                      [&](const PostepBufora& postep) { return m_nipy->Napelnij(baza, postep); });
   }
 
   // Inside the transaction nobody else writes, so that what is looked up in memory from here on holds.

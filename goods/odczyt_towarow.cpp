@@ -1,7 +1,5 @@
 #include "goods/odczyt_towarow.h"
 
-#include <string>
-
 #include "model/bledy.h"
 #include "model/stawki_vat.h"
 
@@ -10,15 +8,9 @@ namespace {
 constexpr int kBezStanow = 0;
 constexpr int kWszystkieMagazyny = 1;
 
-Odczyt OtworzTowary(TVLTBazaDanych& baza) {
-#define ZORVIK_POLE(nazwa, typ) #nazwa ", "
-  std::string sql = "select " ZORVIK_POLA_EKSPORTU(ZORVIK_POLE);
+#define ZORVIK_POLE(nazwa, typ) {#nazwa, TypPola::typ},
+constexpr OpisPola kPola[] = {ZORVIK_POLA_EKSPORTU(ZORVIK_POLE)};
 #undef ZORVIK_POLE
-  sql.resize(sql.size() - 2);
-#define ZORVIK_POLE(nazwa, typ) TypPola::typ,
-  return baza.Otworz(sql + " from Towar order by TowId", {ZORVIK_POLA_EKSPORTU(ZORVIK_POLE)});
-#undef ZORVIK_POLE
-}
 
 std::optional<StrumienSzczegolow> OtworzStany(TVLTBazaDanych& baza, int stany) {
   constexpr auto kId = TypPola::Calkowite;
@@ -34,7 +26,7 @@ std::optional<StrumienSzczegolow> OtworzStany(TVLTBazaDanych& baza, int stany) {
 }  // namespace
 
 OdczytTowarow::OdczytTowarow(TVLTBazaDanych& baza, int stany)
-    : m_towary(OtworzTowary(baza)),
+    : m_towary(baza, "Towar", kPola),
       m_kody(baza.Otworz("select TowId, Kod, Skrot, PrefPLU from KodDod order by TowId, Kolejnosc",
                          {TypPola::Calkowite, TypPola::Tekst, TypPola::Tekst, TypPola::Calkowite})),
       m_wartosci(baza.Otworz("select TowId, ParId, Wartosc from TowWartosc order by TowId, ParId",

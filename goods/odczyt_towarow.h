@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "model/kody_dodatkowe.h"
-#include "platform/baza/sesja.h"
+#include "model/strumien_szczegolow.h"
 
 // Columns of table Towar that an export needs, in the order of the select.
 #define ZORVIK_POLA_EKSPORTU(POLE) \
@@ -53,27 +53,6 @@ struct DaneTowaru {
   std::vector<std::pair<int, long long>> wartosci;  // ParId, value
   std::vector<int> dostawcy;                        // contractors in their order
   std::optional<double> stan;                       // nothing when no stock was asked for
-};
-
-// Rows of a running select whose first column is the identifier of a good, by rising identifiers, taken good
-// by good.
-class StrumienSzczegolow {
- public:
-  explicit StrumienSzczegolow(Odczyt odczyt) : m_odczyt(std::move(odczyt)), m_jest(m_odczyt.Nastepny()) {}
-
-  // Moves to the rows of the good, past those of lower identifiers; false when it has none (left).
-  bool Siegnij(int towId) {
-    while (m_jest && Id() < towId) Dalej();
-    return m_jest && Id() == towId;
-  }
-  void Dalej() { m_jest = m_odczyt.Nastepny(); }
-  const Odczyt& Wiersz() const { return m_odczyt; }
-
- private:
-  long long Id() const { return m_odczyt[0].AsInteger(); }
-
-  Odczyt m_odczyt;
-  bool m_jest;
 };
 
 // Reads goods by rising identifier: each table once, side by side, so that neither the number of statements

@@ -32,7 +32,7 @@ RekordTowaru::RekordTowaru(KontekstImportu& import)
       m_zapis(import, m_towar) {}
 
 PoRekordzie RekordTowaru::Przetworz(const LiniaRekordu& linia) {
-  const PolaRekordu pola(linia, m_import.separator);
+  const PolaRekordu pola(linia, RodzajRekordu::Towary, m_import.separator);
   m_kod = {};
   m_kod.kod = pola.Trim(PoleTowaru::Kod);
   m_nazwa = pola.Trim(PoleTowaru::Nazwa);

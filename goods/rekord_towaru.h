@@ -6,8 +6,8 @@
 
 #include <QString>
 
+#include "exchange/pola_rekordu.h"
 #include "goods/kontrola_kodu.h"
-#include "goods/pola_rekordu.h"
 #include "goods/zapis_towaru.h"
 #include "model/towar.h"
 #include "run/przebieg.h"

@@ -2,6 +2,11 @@
 
 #include <algorithm>
 
+#include <QSet>
+#include <QStringList>
+
+#include "goods/bloki.h"
+#include "model/bufor_nip.h"
 #include "platform/baza/sesja.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -20,12 +25,6 @@ std::unordered_map<long long, QString> WczytajNazwy(TVLTBazaDanych& baza, std::s
 }
 
 }  // namespace
-
-bool GinieWBloku(const QString& tekst, QStringView znaki) {
-  if (tekst.isEmpty()) return false;
-  if (tekst.front().isSpace() || tekst.back().isSpace()) return true;
-  return std::any_of(tekst.begin(), tekst.end(), [znaki](QChar znak) { return znaki.contains(znak); });
-}
 
 QString KategoriaEksportu::Blok(const std::vector<std::pair<int, long long>>& wartosci) const {
   QString blok = m_nazwa;
@@ -47,65 +46,72 @@ QString KategoriaEksportu::Blok(const std::vector<std::pair<int, long long>>& wa
 
 SlownikiEksportu::SlownikiEksportu(TVLTBazaDanych& baza)
     : m_asortymenty(WczytajNazwy(baza, "select AsId, Nazwa from Asort")),
-      m_jednostki(WczytajNazwy(baza, "select JMId, Nazwa from JM")),
-      m_nipy(WczytajNazwy(baza, "select KontrId, NIP from Kontrahent where NIP <> ''")) {
-  for (auto& [kontrId, nip] : m_nipy) nip = nip.trimmed();
+      m_jednostki(WczytajNazwy(baza, "select JMId, Nazwa from JM")) {
+  WczytajNipy(baza);
   WczytajKategorie(baza);
 }
 
-void SlownikiEksportu::WczytajKategorie(TVLTBazaDanych& baza) {
-  struct Wartosci {
-    QString polaczone;
-    bool znakiBloku = false;
-  };
-  std::unordered_map<long long, Wartosci> listy;
-  for (auto odczyt = baza.Otworz("select ParId, Wartosc from ParWartosc order by ParId, Kolejnosc",
+void SlownikiEksportu::WczytajNipy(TVLTBazaDanych& baza) {
+  QSet<QString> zajete;
+  for (auto odczyt = baza.Otworz("select KontrId, NIP from Kontrahent where NIP <> '' order by KontrId",
                                  {TypPola::Calkowite, TypPola::Tekst});
        odczyt.Nastepny();) {
-    const auto [lista, nowa] = listy.try_emplace(odczyt[0].AsInteger());
-    const QString wartosc = odczyt[1].AsString();
-    if (!nowa) lista->second.polaczone += u'|';
-    lista->second.polaczone += wartosc;
-    lista->second.znakiBloku |= GinieWBloku(wartosc, u"(|)");
+    const QString nip = odczyt[1].AsString().trimmed();
+    if (nip.isEmpty()) continue;
+    const QString cyfry = NormalizujNip(nip);
+    const bool wskazuje = !cyfry.isEmpty() && !zajete.contains(cyfry);
+    zajete.insert(cyfry);
+    m_nipy.emplace(odczyt[0].AsInteger(), NipKontrahenta{nip, wskazuje});
   }
-  for (auto& [katId, nazwa] : WczytajNazwy(baza, "select KatId, Nazwa from Kategoria")) {
-    KategoriaEksportu& kategoria = m_kategorie[katId];
-    kategoria.m_nazwa = nazwa;
-    kategoria.m_znakiBloku = GinieWBloku(nazwa, u"(:)");
-  }
+}
+
+void SlownikiEksportu::WczytajKategorie(TVLTBazaDanych& baza) {
+  std::unordered_map<long long, std::vector<QString>> listy;
+  for (auto odczyt = baza.Otworz("select ParId, Wartosc from ParWartosc order by ParId, Kolejnosc",
+                                 {TypPola::Calkowite, TypPola::Tekst});
+       odczyt.Nastepny();)
+    listy[odczyt[0].AsInteger()].push_back(odczyt[1].AsString());
+  // What an import has to read of the blocks without stored values.
+  std::unordered_map<long long, BlokKategorii> wzorce;
+  for (auto& [katId, nazwa] : WczytajNazwy(baza, "select KatId, Nazwa from Kategoria"))
+    m_kategorie[katId].m_nazwa = wzorce[katId].kategoria = nazwa;
   for (auto odczyt =
            baza.Otworz("select K.KatId, P.ParId, P.Nazwa, P.Typ, P.Od, P.Do from KatParam K, Parametr P"
                        " where K.ParId = P.ParId order by K.KatId, K.Kolejnosc, K.ParId",
                        {TypPola::Calkowite, TypPola::Calkowite, TypPola::Tekst, TypPola::Calkowite,
                         TypPola::Dziesietne, TypPola::Dziesietne});
        odczyt.Nastepny();) {
-    KategoriaEksportu& kategoria = m_kategorie[odczyt[0].AsInteger()];
+    auto& parametry = m_kategorie[odczyt[0].AsInteger()].m_parametry;
     const int parId = static_cast<int>(odczyt[1].AsInteger());
-    const QString nazwa = odczyt[2].AsString();
-    kategoria.m_znakiBloku |= GinieWBloku(nazwa, u"()");
+    ParametrZBloku wzor;
+    wzor.nazwa = odczyt[2].AsString();
+    const QString przed = wzor.nazwa + u'(';
     switch (odczyt[3].AsInteger()) {
       case kLista: {
-        const Wartosci& lista = listy[parId];
-        kategoria.m_znakiBloku |= lista.znakiBloku;
+        wzor.n = 1;
+        wzor.wartosci = listy[parId];
         // Stored from 0, written from 1.
-        kategoria.m_parametry.push_back({parId, nazwa + u'(', 1, u':' + lista.polaczone + u')'});
+        const QStringList wartosci(wzor.wartosci.begin(), wzor.wartosci.end());
+        parametry.push_back({parId, przed, 1, u':' + wartosci.join(u'|') + u')'});
         break;
       }
       case kZakres:
-        kategoria.m_parametry.push_back({parId, nazwa + u'(', 0,
-                                         u':' + QString::number(odczyt[4].AsInteger()) + u".."_s +
-                                             QString::number(odczyt[5].AsInteger()) + u')'});
+        wzor.typ = ParametrZBloku::Typ::Zakres;
+        wzor.od = static_cast<int>(odczyt[4].AsInteger());
+        wzor.doo = static_cast<int>(odczyt[5].AsInteger());
+        parametry.push_back({parId, przed, 0,
+                             u':' + QString::number(odczyt[4].AsInteger()) + u".."_s +
+                                 QString::number(odczyt[5].AsInteger()) + u')'});
         break;
       default:
-        kategoria.m_parametry.push_back({parId, nazwa + u'(', kBezLiczby, u")"_s});
+        parametry.push_back({parId, przed, kBezLiczby, u")"_s});
     }
+    wzorce[odczyt[0].AsInteger()].parametry.push_back(std::move(wzor));
   }
-}
-
-const QString& SlownikiEksportu::Nazwa(const Nazwy& nazwy, long long id) {
-  static const QString pusta;
-  const auto nazwa = nazwy.find(id);
-  return nazwa == nazwy.end() ? pusta : nazwa->second;
+  for (auto& [katId, kategoria] : m_kategorie) {
+    const auto odczytany = CzytajBlokKategorii(kategoria.Blok({}));
+    kategoria.m_wroci = !odczytany.blad && odczytany.wartosc == wzorce[katId];
+  }
 }
 
 const KategoriaEksportu* SlownikiEksportu::Kategoria(long long katId) const {

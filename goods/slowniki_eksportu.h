@@ -13,8 +13,8 @@ class KategoriaEksportu {
  public:
   // "Category: par(n:a|b);par(n:lo..hi)"; a parameter without a value counts as 0.
   QString Blok(const std::vector<std::pair<int, long long>>& wartosci) const;
-  // A name holds a character that ends it when the block is read.
-  bool ZnakiBloku() const { return m_znakiBloku; }
+  // Whether an import reads the block as what it was made of.
+  bool Wroci() const { return m_wroci; }
 
  private:
   friend class SlownikiEksportu;
@@ -26,7 +26,14 @@ class KategoriaEksportu {
   };
   QString m_nazwa;
   std::vector<Parametr> m_parametry;
-  bool m_znakiBloku = false;
+  bool m_wroci = true;
+};
+
+// A contractor's tax number, trimmed, and whether an import finds this contractor by it: the number has
+// digits, and no contractor before has the same.
+struct NipKontrahenta {
+  QString nip;
+  bool wskazuje = true;
 };
 
 // What goods refer to by identifier, read once for a whole export.
@@ -35,23 +42,26 @@ class SlownikiEksportu {
   explicit SlownikiEksportu(TVLTBazaDanych& baza);
 
   // Empty for an identifier that nobody has.
-  const QString& Asortyment(long long asId) const { return Nazwa(m_asortymenty, asId); }
-  const QString& Jednostka(long long jmId) const { return Nazwa(m_jednostki, jmId); }
-  // Tax number of a contractor, trimmed.
-  const QString& Nip(long long kontrId) const { return Nazwa(m_nipy, kontrId); }
+  const QString& Asortyment(long long asId) const { return Wpis(m_asortymenty, asId); }
+  const QString& Jednostka(long long jmId) const { return Wpis(m_jednostki, jmId); }
+  const NipKontrahenta& Nip(long long kontrId) const { return Wpis(m_nipy, kontrId); }
   // None for an identifier that nobody has.
   const KategoriaEksportu* Kategoria(long long katId) const;
 
  private:
-  using Nazwy = std::unordered_map<long long, QString>;
-  static const QString& Nazwa(const Nazwy& nazwy, long long id);
+  template <typename T>
+  using Slownik = std::unordered_map<long long, T>;
+  template <typename T>
+  static const T& Wpis(const Slownik<T>& slownik, long long id) {
+    static const T pusty{};
+    const auto wpis = slownik.find(id);
+    return wpis == slownik.end() ? pusty : wpis->second;
+  }
+  void WczytajNipy(TVLTBazaDanych& baza);
   void WczytajKategorie(TVLTBazaDanych& baza);
 
-  Nazwy m_asortymenty;
-  Nazwy m_jednostki;
-  Nazwy m_nipy;
-  std::unordered_map<long long, KategoriaEksportu> m_kategorie;
+  Slownik<QString> m_asortymenty;
+  Slownik<QString> m_jednostki;
+  Slownik<NipKontrahenta> m_nipy;
+  Slownik<KategoriaEksportu> m_kategorie;
 };
-
-// Whether a text cannot stand in a block as it is: it holds one of the characters, or blanks at its ends.
-bool GinieWBloku(const QString& tekst, QStringView znaki);

@@ -4,11 +4,11 @@
 #include <cmath>
 #include <vector>
 
+#include "exchange/pola_rekordu.h"
 #include "goods/bloki.h"
 #include "goods/kontekst_importu.h"
 #include "goods/nazwy_jednostek.h"
 #include "goods/opcje_towarow.h"
-#include "goods/pola_rekordu.h"
 #include "goods/rozpoznawanie_slownikow.h"
 #include "model/bufor_nip.h"
 #include "model/reguly_kodow.h"

@@ -3,7 +3,6 @@
 #include <cstdint>
 
 #include "exchange/format_liczb.h"
-#include "exchange/zapis_rekordow.h"
 #include "goods/odczyt_towarow.h"
 #include "goods/opcje_towarow.h"
 #include "goods/slowniki_eksportu.h"
@@ -21,144 +20,123 @@ const Wartosc& Pole(const WierszTowaru& w, P::Numer pole) {
   return (*w.towar.wiersz)[pole];
 }
 
-void WpiszTekst(WierszTowaru& w, const QString& tekst) {
-  w.zapis.Pole(tekst);
-  if (tekst.isEmpty()) return;
-  for (const QChar znak : tekst) {
-    if (znak == u'\t') w.powod = u"tabulator";
-    if (znak == u'\n' || znak == u'\r') w.powod = u"koniec wiersza";
-  }
-}
-
-// A text that an import takes without the blanks around it.
-void WpiszNazwe(WierszTowaru& w, const QString& nazwa) {
-  WpiszTekst(w, nazwa);
-  if (!nazwa.isEmpty() && (nazwa.front().isSpace() || nazwa.back().isSpace())) w.powod = u"odstęp na brzegu";
-}
-
-void WpiszLiczbe(WierszTowaru& w, double liczba) {
-  w.zapis.PoleAscii(FormatLiczby(liczba, w.separatorDziesietny));
-}
-
-void WpiszCalkowita(WierszTowaru& w, long long liczba) {
-  w.zapis.PoleAscii(std::to_string(liczba));
+template <P::Numer Numer>
+void Tekst(const WierszTowaru& w) {
+  w.pola.Tekst(Pole(w, Numer).AsString());
 }
 
 template <P::Numer Numer>
-void Tekst(WierszTowaru& w) {
-  WpiszTekst(w, Pole(w, Numer).AsString());
+void Nazwa(const WierszTowaru& w) {
+  w.pola.Nazwa(Pole(w, Numer).AsString());
 }
 
 template <P::Numer Numer>
-void Nazwa(WierszTowaru& w) {
-  WpiszNazwe(w, Pole(w, Numer).AsString());
+void Liczba(const WierszTowaru& w) {
+  w.pola.Liczba(Pole(w, Numer).AsFloat());
 }
 
 template <P::Numer Numer>
-void Liczba(WierszTowaru& w) {
-  WpiszLiczbe(w, Pole(w, Numer).AsFloat());
-}
-
-template <P::Numer Numer>
-void Calkowita(WierszTowaru& w) {
-  WpiszCalkowita(w, Pole(w, Numer).AsInteger());
+void Calkowita(const WierszTowaru& w) {
+  w.pola.Calkowita(Pole(w, Numer).AsInteger());
 }
 
 // A fraction in the database, a percentage in the file.
 template <P::Numer Numer>
-void Procent(WierszTowaru& w) {
+void Procent(const WierszTowaru& w) {
   if (w.opcje.cb_eksportBezMarz)
-    w.zapis.PoleAscii(kLiczbaNiewysylana);
+    w.pola.Ascii(kLiczbaNiewysylana);
   else
-    WpiszLiczbe(w, Pole(w, Numer).AsFloat() * 100);
+    w.pola.Liczba(Pole(w, Numer).AsFloat() * 100);
 }
 
 // Prices are stored net. The rate is looked at as 16 bits without a sign, so that the exempt one is 65535 and
 // adds nothing.
 template <P::Numer Numer, PoziomCeny Opcje::*Poziom>
-void Cena(WierszTowaru& w) {
+void Cena(const WierszTowaru& w) {
   if (w.opcje.cb_eksportBezCen) {
-    w.zapis.PoleAscii(kLiczbaNiewysylana);
+    w.pola.Ascii(kLiczbaNiewysylana);
     return;
   }
   const double netto = Pole(w, Numer).AsFloat();
   const auto stawka = static_cast<std::uint16_t>(Pole(w, P::Stawka).AsInteger());
   const bool brutto = w.opcje.*Poziom != PoziomCeny::Netto && stawka > 0 && stawka < 65535;
-  WpiszLiczbe(w, brutto ? Zaokraglij(netto * (1 + stawka * 0.0001), 2) : netto);
+  w.pola.Liczba(brutto ? Zaokraglij(netto * (1 + stawka * 0.0001), 2) : netto);
 }
 constexpr auto kZakup = &Opcje::cb_poziomCenyZakupuEksp;
 constexpr auto kSprzedaz = &Opcje::cb_poziomCenSprzedazyEksp;
 
-void Kod(WierszTowaru& w) {
+void Kod(const WierszTowaru& w) {
   const QString kod = w.opcje.cb_eksportBezKodow ? QString() : Pole(w, P::Kod).AsString();
-  WpiszNazwe(w, kod);
-  if (kod.startsWith(u'#') || kod.startsWith(u"//"_s)) w.powod = u"kod czytany jako komentarz";
+  w.pola.Nazwa(kod);
+  if (ZaczynaKomentarz(kod)) w.pola.UstawPowod(u"kod czytany jako komentarz");
+  if (kod.isEmpty() && !w.opcje.cb_eksportBezKodow) w.pola.UstawPowod(u"brak kodu");
 }
 
-void Typ(WierszTowaru& w) {
+void Typ(const WierszTowaru& w) {
   const long long typ = Pole(w, P::TypTowaru).AsInteger();
   const bool znany = typ >= static_cast<int>(TypTowaru::Towar) && typ <= static_cast<int>(TypTowaru::Usluga);
-  WpiszCalkowita(w, znany ? typ : 0);
+  w.pola.Calkowita(znany ? typ : 0);
 }
 
-void Asortyment(WierszTowaru& w) {
-  WpiszNazwe(w, w.slowniki.Asortyment(Pole(w, P::AsId).AsInteger()));
+void Asortyment(const WierszTowaru& w) {
+  w.pola.Nazwa(w.slowniki.Asortyment(Pole(w, P::AsId).AsInteger()));
 }
 
-void Jednostka(WierszTowaru& w) {
-  WpiszNazwe(w, w.slowniki.Jednostka(Pole(w, P::JMId).AsInteger()));
+void Jednostka(const WierszTowaru& w) {
+  w.pola.Nazwa(w.slowniki.Jednostka(Pole(w, P::JMId).AsInteger()));
 }
 
-void WpiszBlok(WierszTowaru& w, const QString& blok, bool znakiBloku) {
-  WpiszTekst(w, blok);
-  if (znakiBloku) w.powod = u"znaki bloku w nazwie";
-}
-
-void KodyDodatkoweTowaru(WierszTowaru& w) {
+void KodyDodatkoweTowaru(const WierszTowaru& w) {
   QString blok;
-  bool znakiBloku = false;
+  std::u16string_view powod;
   if (!w.opcje.cb_eksportBezKodow)
     for (const KodDodatkowy& kod : w.towar.kody) {
       if (!blok.isEmpty()) blok += u';';
       blok += u'(' + kod.kod + u'|' + kod.skrot + u'|' + QString::number(kod.prefPLU) + u')';
-      znakiBloku |= GinieWBloku(kod.kod, u"(|)") || GinieWBloku(kod.skrot, u"(|)");
+      if (kod.skrot.isEmpty()) powod = u"kod dodatkowy bez skrótu";
+      if (GinieWBloku(kod.kod, u"(|)") || GinieWBloku(kod.skrot, u"(|)")) powod = kZnakiBloku;
     }
-  WpiszBlok(w, blok, znakiBloku);
+  w.pola.Blok(blok, powod);
 }
 
-void Kategoria(WierszTowaru& w) {
+void Kategoria(const WierszTowaru& w) {
   const KategoriaEksportu* kategoria =
       w.opcje.cb_eksportBezKategorii ? nullptr : w.slowniki.Kategoria(Pole(w, P::KatId).AsInteger());
-  WpiszBlok(w, kategoria ? kategoria->Blok(w.towar.wartosci) : QString(),
-            kategoria && kategoria->ZnakiBloku());
+  w.pola.Blok(kategoria ? kategoria->Blok(w.towar.wartosci) : QString(),
+              kategoria && !kategoria->Wroci() ? u"kategoria czytana inaczej" : u"");
 }
 
-void Stan(WierszTowaru& w) {
+void Stan(const WierszTowaru& w) {
   if (w.towar.stan)
-    WpiszLiczbe(w, *w.towar.stan);
+    w.pola.Liczba(*w.towar.stan);
   else
-    w.zapis.PoleAscii({});
+    w.pola.Ascii({});
 }
 
-void NipProducenta(WierszTowaru& w) {
-  WpiszNazwe(w, w.slowniki.Nip(Pole(w, P::Producent).AsInteger()));
+constexpr std::u16string_view kCudzyNip = u"NIP nie wskaże tego kontrahenta";
+
+void NipProducenta(const WierszTowaru& w) {
+  const NipKontrahenta& producent = w.slowniki.Nip(Pole(w, P::Producent).AsInteger());
+  w.pola.Nazwa(producent.nip);
+  if (!producent.wskazuje) w.pola.UstawPowod(kCudzyNip);
 }
 
-void NipyDostawcow(WierszTowaru& w) {
+void NipyDostawcow(const WierszTowaru& w) {
   QString blok;
-  bool znakiBloku = false;
+  std::u16string_view powod;
   for (const int kontrId : w.towar.dostawcy) {
-    const QString& nip = w.slowniki.Nip(kontrId);
-    if (nip.isEmpty()) continue;
+    const NipKontrahenta& dostawca = w.slowniki.Nip(kontrId);
+    if (dostawca.nip.isEmpty()) continue;
     blok += blok.isEmpty() ? u'(' : u'|';
-    blok += nip;
-    znakiBloku |= GinieWBloku(nip, u"(|;)");
+    blok += dostawca.nip;
+    if (!dostawca.wskazuje) powod = kCudzyNip;
+    if (GinieWBloku(dostawca.nip, u"(|;)")) powod = kZnakiBloku;
   }
   if (!blok.isEmpty()) blok += u')';
-  WpiszBlok(w, blok, znakiBloku);
+  w.pola.Blok(blok, powod);
 }
 
-constexpr KolumnaEksportu kKolumny[] = {
+constexpr KolumnaEksportu<WierszTowaru> kKolumny[] = {
     {u"Kod towaru", Kod},
     {u"Nazwa towaru", Nazwa<P::Nazwa>},
     {u"Skrót (nazwa na kasach)", Nazwa<P::Skrot>},
@@ -196,6 +174,6 @@ static_assert(std::size(kKolumny) == 32);
 
 }  // namespace
 
-std::span<const KolumnaEksportu> KolumnyTowaru() {
+std::span<const KolumnaEksportu<WierszTowaru>> KolumnyTowaru() {
   return kKolumny;
 }

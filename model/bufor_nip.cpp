@@ -13,8 +13,9 @@ bool Cyfra(QChar znak) {
 }  // namespace
 
 QString NormalizujNip(QStringView nip) {
-  QString cyfry;
-  std::copy_if(nip.begin(), nip.end(), std::back_inserter(cyfry), Cyfra);
+  QString cyfry(nip.size(), Qt::Uninitialized);
+  const auto koniec = std::copy_if(nip.begin(), nip.end(), cyfry.begin(), Cyfra);
+  cyfry.truncate(koniec - cyfry.begin());
   return cyfry;
 }
 
@@ -24,18 +25,25 @@ int TVLTBuforNip::IloscKontrahentow(TVLTBazaDanych& baza) {
 }
 
 bool TVLTBuforNip::Napelnij(TVLTBazaDanych& baza, const Postep& postep) {
-  m_kontrahenci.clear();
+  Wyczysc();
+  m_znacznik = baza.ZnacznikObcychZmian();
   int ilosc = 0;
-  for (auto odczyt = baza.Otworz("select KontrId, NIP from Kontrahent order by KontrId",
-                                 {TypPola::Calkowite, TypPola::Tekst});
+  for (auto odczyt = baza.Otworz("select KontrId, NIP, Ulica, Miasto from Kontrahent order by KontrId",
+                                 {TypPola::Calkowite, TypPola::Tekst, TypPola::Tekst, TypPola::Tekst});
        odczyt.Nastepny();) {
-    Dodaj(static_cast<int>(odczyt[0].AsInteger()), odczyt[1].AsString());
+    const bool adres = m_zawartosc == Zawartosc::NipyIAdresy;
+    Dodaj(static_cast<int>(odczyt[0].AsInteger()), odczyt[1].AsString(),
+          adres ? odczyt[2].AsString() : QString(), adres ? odczyt[3].AsString() : QString());
     if (++ilosc % kCoIlePostep == 0 && postep && !postep(ilosc)) {
-      m_kontrahenci.clear();
+      Wyczysc();
       return false;
     }
   }
   return true;
+}
+
+void TVLTBuforNip::Odswiez(TVLTBazaDanych& baza) {
+  if (baza.ZnacznikObcychZmian() != m_znacznik) Napelnij(baza);
 }
 
 std::span<const int> TVLTBuforNip::Kontrahenci(QStringView nip) const {
@@ -49,9 +57,25 @@ int TVLTBuforNip::Znajdz(QStringView nip) const {
   return kontrahenci.empty() ? -1 : kontrahenci.front();
 }
 
-void TVLTBuforNip::Dodaj(int kontrId, QStringView nip) {
+bool TVLTBuforNip::MaAdres(QStringView nip, const QString& ulica, const QString& miasto) const {
+  return m_adresy.contains(KluczAdresu(NormalizujNip(nip), ulica, miasto));
+}
+
+void TVLTBuforNip::Dodaj(int kontrId, QStringView nip, const QString& ulica, const QString& miasto) {
   const QString cyfry = NormalizujNip(nip);
+  if (m_zawartosc == Zawartosc::NipyIAdresy) m_adresy.insert(KluczAdresu(cyfry, ulica, miasto));
   if (cyfry.isEmpty()) return;
   std::vector<int>& kontrahenci = m_kontrahenci[cyfry];
   kontrahenci.insert(std::lower_bound(kontrahenci.begin(), kontrahenci.end(), kontrId), kontrId);
+}
+
+// The street's length keeps a street apart from the city behind it.
+QString TVLTBuforNip::KluczAdresu(const QString& cyfry, const QString& ulica, const QString& miasto) {
+  if (cyfry.isEmpty()) return u'|' + ulica + miasto;
+  return cyfry + u'|' + QString::number(ulica.size()) + u'|' + ulica + miasto;
+}
+
+void TVLTBuforNip::Wyczysc() {
+  m_kontrahenci.clear();
+  m_adresy.clear();
 }

@@ -6,7 +6,9 @@
 #include "platform/baza/transakcja.h"
 
 TDmVLTElement::TDmVLTElement(KontekstSesji& context, std::span<const OpisPola> pola)
-    : Query(pola), Context(context) {}
+    : Query(pola), Context(context) {
+  Query.SetTylkoPierwszy(true);
+}
 
 // Subclasses clear their details with their own members; the base only gives the query back.
 TDmVLTElement::~TDmVLTElement() {

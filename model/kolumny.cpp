@@ -1,5 +1,7 @@
 #include "model/kolumny.h"
 
+#include <cstdio>
+
 #include <QAnyStringView>
 
 #include "model/bledy.h"
@@ -20,8 +22,8 @@ int CzytajId(const TMField& pole) {
   return pole.IsNull() ? -1 : static_cast<int>(pole.AsInteger());
 }
 
-QDate CzytajDate(const TMField& pole) {
-  return pole.IsNull() ? QDate() : QDate::fromString(pole.AsString().left(kDlugoscDaty), Qt::ISODate);
+QDate CzytajDate(const Wartosc& wartosc) {
+  return wartosc.IsNull() ? QDate() : QDate::fromString(wartosc.AsString().left(kDlugoscDaty), Qt::ISODate);
 }
 
 // Stored times carry no zone: the universal one keeps every hour of the year.
@@ -57,11 +59,15 @@ void PiszTekst(TMField& pole, const QString& tekst) {
 }
 
 void PiszDate(TMField& pole, const QDate& data) {
-  if (CzytajDate(pole) == data) return;
-  if (data.isValid())
-    pole.SetString(data.toString(Qt::ISODate) + QStringLiteral(" 00:00:00"));
-  else
-    pole.Clear();
+  if (!data.isValid()) {
+    if (CzytajDate(pole).isValid()) pole.Clear();
+    return;
+  }
+  std::array<char, 32> tekst{};
+  std::snprintf(tekst.data(), tekst.size(), "%04d-%02d-%02d 00:00:00", data.year(), data.month(), data.day());
+  // The day is compared as text first: reading it costs many times as much.
+  if (pole.Value().AsUtf8().starts_with(std::string_view(tekst.data(), kDlugoscDaty))) return;
+  if (CzytajDate(pole) != data) pole.SetString(QString::fromLatin1(tekst.data()));
 }
 
 void PiszCzas(TMField& pole, const QDateTime& czas) {

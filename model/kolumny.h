@@ -32,7 +32,10 @@ inline constexpr TypPola Zegar = TypPola::Czas;
 
 bool RownyTekst(const Wartosc& wartosc, const QString& tekst);
 int CzytajId(const TMField& pole);
-QDate CzytajDate(const TMField& pole);
+QDate CzytajDate(const Wartosc& wartosc);
+inline QDate CzytajDate(const TMField& pole) {
+  return CzytajDate(pole.Value());
+}
 QDateTime CzytajCzas(const TMField& pole);
 void PiszId(TMField& pole, int id);
 void PiszLiczbe(TMField& pole, long long liczba);

@@ -1,11 +1,10 @@
 #include "model/kontrahent.h"
 
-#include <QSet>
-
 #include "model/bledy.h"
 #include "model/kontekst.h"
 #include "model/tabele_dziennika.h"
 #include "model/zakresy.h"
+#include "model/zbieracz_osob.h"
 #include "platform/baza/dialekt.h"
 #include "platform/baza/sesja.h"
 #include "platform/baza/transakcja.h"
@@ -42,21 +41,6 @@ const std::vector<Wartosc>& NowyWiersz() {
   }();
   return wiersz;
 }
-
-// Non-empty persons in order, each once.
-class ZbieraczOsob {
- public:
-  explicit ZbieraczOsob(std::vector<QString>& osoby) : m_osoby(osoby) { m_osoby.clear(); }
-  void Dodaj(const QString& osoba) {
-    const qsizetype ile = m_widziane.size();
-    if (osoba.trimmed().isEmpty() || (m_widziane.insert(osoba), m_widziane.size() == ile)) return;
-    m_osoby.push_back(osoba);
-  }
-
- private:
-  std::vector<QString>& m_osoby;
-  QSet<QString> m_widziane;
-};
 
 }  // namespace
 

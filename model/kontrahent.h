@@ -70,10 +70,9 @@ struct KolumnaKontrahenta {
 // One contractor with its shop row and the persons authorised to receive invoices.
 // - Reading one takes two selects: the row with the shop's columns, and the persons.
 // - Zapisz refuses before its first write: EVLTWDError 2839 without a name, 2860 when another shop has the
-// shop's
-//   number (the detail names that shop), 2006 for a number outside its column; 2001 when the row is gone.
-//   EBladBazy always passes unchanged: no value of a file can cause one. After a failure the record is as it
-//   was and can be saved again.
+//   number of this one (the detail names that shop), 2006 for a number outside its column; 2001 when the row
+//   is gone. EBladBazy always passes unchanged: no value of a file can cause one. After a failure the record
+//   is as it was and can be saved again.
 class TDmVLTKontrahent final : public TDmVLTElement {
  public:
   explicit TDmVLTKontrahent(KontekstSesji& context);
@@ -119,7 +118,7 @@ class TDmVLTKontrahent final : public TDmVLTElement {
 
   bool BylSklepem() const;
   void Sprawdz();
-  std::vector<Parametr> ParametryZapisu() const;
+  std::vector<Parametr>& ParametryZapisu();
   void ZapiszOsoby(int id) const;
   void ZapiszSklep(int id);
   void WstawSklep(int id);
@@ -128,6 +127,7 @@ class TDmVLTKontrahent final : public TDmVLTElement {
 
   std::vector<QString> m_osoby;
   std::vector<QString> m_osobyZBazy;
+  std::vector<Parametr> m_parametry;  // kept for the next save
   // Of the save in hand: the number under which it stores the shop, and whether it made the shop's row.
   long long m_nrSklepu = 0;
   bool m_nowySklep = false;

@@ -90,6 +90,21 @@ constexpr OpisZmiany kOpisyZmian[] = {
     {K::MaxKredyt, u"kredyt"}, {K::KodKarty, u"kod karty"},         {K::PoziomRabatu, u"poziom rabatu"},
     {K::Aktywny, u"aktywny"},  {K::NrSklepu, u"numer sklepu"}};
 
+// What the change log says of a save: a title and, behind a colon, its parts.
+class OpisWpisu {
+ public:
+  explicit OpisWpisu(QStringView tytul) : m_tekst(tytul.toString()) {}
+  void Dopisz(std::initializer_list<QStringView> czesc) {
+    m_tekst += std::exchange(m_lacznik, u", ");
+    for (const QStringView tekst : czesc) m_tekst += tekst;
+  }
+  QString Tekst() const { return m_tekst; }
+
+ private:
+  QString m_tekst;
+  QStringView m_lacznik = u": ";
+};
+
 }  // namespace
 
 int TDmVLTKontrahent::InsertRecord() {
@@ -106,7 +121,7 @@ int TDmVLTKontrahent::InsertRecord() {
 void TDmVLTKontrahent::UpdateRecord(int id) {
   Sprawdz();
   static const std::string sql = Update(Query);
-  auto parametry = ParametryZapisu();
+  std::vector<Parametr>& parametry = ParametryZapisu();
   parametry.push_back({"KontrId", id});
   if (Context.baza.ExecSQL(sql, parametry) == 0) throw EVLTWDError(2001);
   Context.baza.ExecSQL("delete from Osoba where KontrId = :KontrId", {{"KontrId", id}});
@@ -153,14 +168,14 @@ void TDmVLTKontrahent::Sprawdz() {
   if (!LiczbaWZakresie(m_nrSklepu)) throw EVLTWDError(2006);
 }
 
-std::vector<Parametr> TDmVLTKontrahent::ParametryZapisu() const {
-  std::vector<Parametr> parametry;
-  parametry.reserve(kZapisywane.size() + 1);
-  for (const auto pole : kZapisywane) {
-    const TMField& field = Query.Field(pole);
-    parametry.push_back({field.FieldName(), field.Value()});
+std::vector<Parametr>& TDmVLTKontrahent::ParametryZapisu() {
+  m_parametry.resize(kZapisywane.size());
+  for (std::size_t i = 0; i < kZapisywane.size(); ++i) {
+    const TMField& pole = Query.Field(kZapisywane[i]);
+    m_parametry[i].nazwa = pole.FieldName();
+    m_parametry[i].wartosc = pole.Value();
   }
-  return parametry;
+  return m_parametry;
 }
 
 void TDmVLTKontrahent::ZapiszOsoby(int id) const {
@@ -203,36 +218,24 @@ void TDmVLTKontrahent::WstawSklep(int id) {
 
 // Nowy kontrahent: dostawca, sklep, karta '123'
 QString TDmVLTKontrahent::OpisNowego() const {
-  QString opis = QStringLiteral("Nowy kontrahent");
-  QString lacznik = QStringLiteral(": ");
-  const auto dopisz = [&](const QString& tekst) {
-    opis += lacznik + tekst;
-    lacznik = QStringLiteral(", ");
-  };
+  OpisWpisu opis(u"Nowy kontrahent");
   for (const TypKontrahenta& typ : kTypy)
-    if (JestTypem(typ.pole, Query.Field(typ.pole).Value())) dopisz(QString::fromUtf16(typ.nazwa));
-  if (const QString karta = KodKarty(); !karta.isEmpty()) dopisz(QStringLiteral("karta '") + karta + u'\'');
-  return opis;
+    if (JestTypem(typ.pole, Query.Field(typ.pole).Value())) opis.Dopisz({typ.nazwa});
+  if (const QString karta = KodKarty(); !karta.isEmpty()) opis.Dopisz({u"karta '", karta, u"'"});
+  return opis.Tekst();
 }
 
 // Zmiana kontrahenta: nazwa z 'A' na 'B', dostawca: nie
 QString TDmVLTKontrahent::OpisZmian() const {
-  QString opis = QStringLiteral("Zmiana kontrahenta");
-  QString lacznik = QStringLiteral(": ");
-  const auto dopisz = [&](const QString& tekst) {
-    opis += lacznik + tekst;
-    lacznik = QStringLiteral(", ");
-  };
+  OpisWpisu opis(u"Zmiana kontrahenta");
   for (const OpisZmiany& zmiana : kOpisyZmian)
     if (const TMField& pole = Query.Field(zmiana.pole); pole.Zmienione())
-      dopisz(QString::fromUtf16(zmiana.nazwa) + QStringLiteral(" z '") + pole.OldValue().AsString() +
-             QStringLiteral("' na '") + pole.AsString() + u'\'');
+      opis.Dopisz({zmiana.nazwa, u" z '", pole.OldValue().AsString(), u"' na '", pole.AsString(), u"'"});
   for (const TypKontrahenta& typ : kTypy) {
     const TMField& pole = Query.Field(typ.pole);
     const bool jest = JestTypem(typ.pole, pole.Value());
-    if (jest != JestTypem(typ.pole, pole.OldValue()))
-      dopisz(QString::fromUtf16(typ.nazwa) + (jest ? QStringLiteral(": tak") : QStringLiteral(": nie")));
+    if (jest != JestTypem(typ.pole, pole.OldValue())) opis.Dopisz({typ.nazwa, jest ? u": tak" : u": nie"});
   }
-  if (m_osoby != m_osobyZBazy) dopisz(QStringLiteral("osoby uprawnione"));
-  return opis;
+  if (m_osoby != m_osobyZBazy) opis.Dopisz({u"osoby uprawnione"});
+  return opis.Tekst();
 }

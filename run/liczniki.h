@@ -11,7 +11,7 @@ enum class Licznik {
   Dodane,
   Poprawione,
   Pominiete,
-  BezZmian,  // identical with the database; part of the skipped ones
+  BezZmian,  // identical with the database; goods: part of the skipped ones
   Asortymenty,
   Jednostki,
   Stawki,
@@ -32,7 +32,7 @@ struct PozycjaPodsumowania {
 // is read, so that a summary never promises more than the database holds.
 class Liczniki {
  public:
-  void Zwieksz(Licznik licznik) { ++m_otwarte[Indeks(licznik)]; }
+  void Zwieksz(Licznik licznik, long long o = 1) { m_otwarte[Indeks(licznik)] += o; }
   void Zatwierdz();
   void Porzuc() { m_otwarte = {}; }
 

@@ -49,7 +49,8 @@ std::optional<Komunikat> PrzebiegEksportu::OtworzPlik() {
     for (const std::u16string_view nazwa : kPlikiPominietych)
       if (TenSamPlik(plik, QDir(katalog).filePath(Tekst(nazwa))))
         return Odmowa(plik, u"pominiętych rekordów"_s);
-  if (TenSamPlik(plik, Parametry().sesja.baza.Parametry().cel)) return Odmowa(plik, u"bazy danych"_s);
+  for (const QString& plikBazy : Parametry().sesja.baza.Parametry().Pliki())
+    if (TenSamPlik(plik, plikBazy)) return Odmowa(plik, u"bazy danych"_s);
   if (!m_zapis.Otworz(plik)) return KomunikatBladOtwarcia(plik);
   return std::nullopt;
 }
@@ -57,7 +58,9 @@ std::optional<Komunikat> PrzebiegEksportu::OtworzPlik() {
 std::optional<KoniecPrzebiegu> PrzebiegEksportu::Przygotuj() {
   const bool faza = !m_opisEksportu.przygotowanie.empty();
   if (faza) Postep().Faza(Tekst(m_opisEksportu.przygotowanie));
-  m_identyfikatory = Identyfikatory();
+  for (auto odczyt = Parametry().sesja.baza.Otworz(m_opisEksportu.identyfikatory, {TypPola::Calkowite});
+       odczyt.Nastepny();)
+    m_identyfikatory.push_back(static_cast<int>(odczyt[0].AsInteger()));
   if (faza) Postep().Gotowe();
   return std::nullopt;
 }
@@ -67,21 +70,21 @@ KoniecPrzebiegu PrzebiegEksportu::Cialo() {
   PrzedRekordami();
   Naglowek(m_zapis);
   if (!m_zapis.ZapiszRekord()) return BladZapisu();
+  long long przejrzanych = 0;
   long long zapisanych = 0;
   DlawikPostepu dlawik;
   const auto pokazNumer = [&] {
-    Postep().Pozycja(zapisanych);
+    Postep().Pozycja(przejrzanych);
     Postep().DopiszLiczbe(zapisanych);
   };
   bool stop = false;
   for (const int id : m_identyfikatory) {
     if ((stop = Stop())) break;
-    const std::u16string_view powod = Rekord(id, m_zapis);
-    if (!m_zapis.ZapiszRekord()) return BladZapisu();
-    if (m_zapis.BrakujacychZnakow() > 0) m_brakujaceZnaki.Dodaj(NazwaRekordu());
-    if (!powod.empty()) m_niezwrotne.Dodaj(NazwaRekordu() + u" ("_s + Tekst(powod) + u')');
-    m_liczniki.Zwieksz(Licznik::Rekordy);
-    ++zapisanych;
+    if (Wczytaj(id)) {
+      if (!ZapiszRekord()) return BladZapisu();
+      ++zapisanych;
+    }
+    ++przejrzanych;
     if (dlawik.Przepusc()) pokazNumer();
   }
   PoRekordach();
@@ -89,11 +92,21 @@ KoniecPrzebiegu PrzebiegEksportu::Cialo() {
   Postep().Gotowe();
   // The end of the run is told by what the file took to its last byte.
   if (!m_zapis.Zamknij()) return BladZapisu();
+  m_liczniki.Zwieksz(Licznik::Rekordy, zapisanych);
   return stop ? PrzerwanoPrzezOperatora() : KoniecPrzebiegu::Zakonczono;
 }
 
+bool PrzebiegEksportu::ZapiszRekord() {
+  WierszEksportu wiersz(m_zapis, Parametry().separatorDziesietny);
+  Rekord(wiersz);
+  if (!m_zapis.ZapiszRekord()) return false;
+  if (m_zapis.BrakujacychZnakow() > 0) m_brakujaceZnaki.Dodaj(NazwaRekordu());
+  if (const auto powod = wiersz.Powod(); !powod.empty())
+    m_niezwrotne.Dodaj(NazwaRekordu() + u" ("_s + Tekst(powod) + u')');
+  return true;
+}
+
 KoniecPrzebiegu PrzebiegEksportu::BladZapisu() {
-  m_liczniki.Porzuc();
   const Komunikat blad = KomunikatBleduZapisu();
   OglosBlad(blad.naglowek, blad.tekst);
   return KoniecPrzebiegu::Blad;

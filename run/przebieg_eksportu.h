@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include "exchange/wiersz_eksportu.h"
 #include "exchange/zapis_rekordow.h"
 #include "run/przebieg.h"
 
@@ -12,6 +13,7 @@
 struct OpisEksportu {
   std::u16string_view przygotowanie;  // phase in which the identifiers are read; empty: none is shown
   std::u16string_view eksport;        // phase of the body
+  std::string_view identyfikatory;    // the select that gives them, rising
 };
 
 // The fault's companion in every export: nothing in the database has changed, but the file is not whole.
@@ -27,17 +29,16 @@ class PrzebiegEksportu : public Przebieg {
       : Przebieg(parametry, opis), m_opisEksportu(opisEksportu) {}
 
  protected:
-  virtual std::vector<int> Identyfikatory() = 0;
   // Just before the first record.
   virtual void PrzedRekordami() = 0;
   // The fields of the header line.
   virtual void Naglowek(ZapisRekordow& zapis) = 0;
-  // The fields of one record; the reason why it will not come back from the file as it is, empty when it
-  // will.
-  virtual std::u16string_view Rekord(int id, ZapisRekordow& zapis) = 0;
-  // What a person calls the record written last.
+  // Reads the next record; false when it is not to be sent.
+  virtual bool Wczytaj(int id) = 0;
+  // The fields of the record that was read.
+  virtual void Rekord(WierszEksportu& pola) = 0;
+  // What a person calls it.
   virtual QString NazwaRekordu() const = 0;
-
   // Just after the last record: gives back the running selects.
   virtual void PoRekordach() = 0;
 
@@ -56,6 +57,7 @@ class PrzebiegEksportu : public Przebieg {
     void Dodaj(const QString& rekord);
   };
 
+  // False when the file took no more.
   bool ZapiszRekord();
   KoniecPrzebiegu BladZapisu();
   Komunikat KomunikatBleduZapisu() const;

@@ -1,12 +1,14 @@
 #include "run/przebieg_importu.h"
 
 #include "exchange/czytnik.h"
+#include "exchange/pola_rekordu.h"
 #include "run/pytanie_o_liczbe_pol.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-PrzebiegImportu::PrzebiegImportu(const ParametryPrzebiegu& parametry, const OpisPrzebiegu& opis)
-    : Przebieg(parametry, opis), m_czytnik(UtworzCzytnik(parametry.struktura)) {}
+PrzebiegImportu::PrzebiegImportu(const ParametryPrzebiegu& parametry, const OpisPrzebiegu& opis,
+                                 PolaNazwy polaNazwy)
+    : Przebieg(parametry, opis), m_polaNazwy(polaNazwy), m_czytnik(UtworzCzytnik(parametry.struktura)) {}
 
 PrzebiegImportu::~PrzebiegImportu() = default;
 
@@ -22,6 +24,18 @@ void PrzebiegImportu::ZamknijPlik() {
 std::optional<KoniecPrzebiegu> PrzebiegImportu::Przygotuj() {
   if (!PrzygotujBufory()) return PrzerwanoPrzezOperatora();
   return PrzejrzyjPlik();
+}
+
+bool PrzebiegImportu::FazaBufora(const QString& tekst, long long maksimum,
+                                 const std::function<bool(const PostepBufora&)>& napelnij) {
+  Postep().Faza(tekst, maksimum);
+  DlawikPostepu dlawik;
+  const bool pelny = napelnij([&](int przeczytanych) {
+    if (dlawik.Przepusc()) Postep().Pozycja(przeczytanych);
+    return !Stop();
+  });
+  if (pelny) Postep().Gotowe();
+  return pelny;
 }
 
 std::optional<KoniecPrzebiegu> PrzebiegImportu::PrzejrzyjPlik() {
@@ -93,8 +107,7 @@ KoniecPrzebiegu PrzebiegImportu::Cialo() {
 }
 
 void PrzebiegImportu::PominRekord() {
-  LiniaRekordu linia = m_czytnik->Linia();
-  const QString pole0 = linia.Tekst();
-  m_raport.NowyRekord(pole0, linia.Tekst());
+  const PolaRekordu pola(m_czytnik->Linia(), Parametry().struktura.rodzaj, Parametry().separatorDziesietny);
+  m_raport.NowyRekord(pola.Tekst(m_polaNazwy.pierwsze), pola.Tekst(m_polaNazwy.drugie));
   m_raport.Zglos(m_czytnik->SprawdzLiczbePol()->Pytanie().tekst);
 }

@@ -1,15 +1,22 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "run/przebieg.h"
 
 class Czytnik;
 
+// The two fields, by catalogue number, that name a record in the report.
+struct PolaNazwy {
+  int pierwsze;
+  int drugie;
+};
+
 // A run that reads a file record by record: looks it through, counts, then hands every record on.
 class PrzebiegImportu : public Przebieg {
  public:
-  PrzebiegImportu(const ParametryPrzebiegu& parametry, const OpisPrzebiegu& opis);
+  PrzebiegImportu(const ParametryPrzebiegu& parametry, const OpisPrzebiegu& opis, PolaNazwy polaNazwy);
   ~PrzebiegImportu() override;
 
  protected:
@@ -19,6 +26,11 @@ class PrzebiegImportu : public Przebieg {
   virtual void PrzedRekordami() = 0;
   // Deals with one record inside the open batch. Stop ends the run at the operator's wish.
   virtual PoRekordzie Rekord(Czytnik& czytnik) = 0;
+
+  // Fills a buffer as a phase of its own, with `maksimum` as the end of its bar. False: stopped.
+  using PostepBufora = std::function<bool(int przeczytanych)>;
+  bool FazaBufora(const QString& tekst, long long maksimum,
+                  const std::function<bool(const PostepBufora&)>& napelnij);
 
   std::optional<Komunikat> OtworzPlik() override;
   std::optional<KoniecPrzebiegu> Przygotuj() final;
@@ -31,6 +43,7 @@ class PrzebiegImportu : public Przebieg {
   std::optional<KoniecPrzebiegu> PrzejrzyjPlik();
   void PominRekord();
 
+  const PolaNazwy m_polaNazwy;
   std::unique_ptr<Czytnik> m_czytnik;
   long long m_rekordow = 0;
 };

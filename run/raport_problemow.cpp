@@ -46,15 +46,15 @@ std::optional<Komunikat> RaportProblemow::Otworz(const QString& katalog, const Q
   return KomunikatBladOtwarcia(std::exchange(m_sciezka, {}));
 }
 
-void RaportProblemow::NowyRekord(const QString& pole0, const QString& pole1) {
-  m_pole0 = pole0;
-  m_pole1 = pole1;
+void RaportProblemow::NowyRekord(const QString& pierwszy, const QString& drugi) {
+  m_pierwszy = pierwszy;
+  m_drugi = drugi;
   m_policzony = false;
 }
 
 void RaportProblemow::Zglos(const QString& komunikat, bool liczony) {
   if (!m_linie.empty()) m_linie += "\r\n";
-  windows1250::Dopisz(m_pole0.trimmed() + u" | "_s + m_pole1.trimmed() + u" | "_s + komunikat, m_linie);
+  windows1250::Dopisz(m_pierwszy.trimmed() + u" | "_s + m_drugi.trimmed() + u" | "_s + komunikat, m_linie);
   if (!liczony || m_policzony) return;
   m_policzony = true;
   m_liczniki.Zwieksz(Licznik::Pominiete);

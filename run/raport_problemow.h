@@ -17,9 +17,10 @@ inline constexpr std::u16string_view kPominieteTowary = u"POMINIETE.TXT";
 inline constexpr std::u16string_view kPominieciKontrahenci = u"POMINIECI.TXT";
 inline constexpr std::u16string_view kPlikiPominietych[] = {kPominieteTowary, kPominieciKontrahenci};
 
-// The skipped-records file of a run: one line "code | name | message" per problem, in Windows-1250. Lines
-// belong to the open batch: they are written when it commits and forgotten when it is lost. Order of calls:
-// Otworz; for every record NowyRekord, then Zglos as often as needed; Zatwierdz or Porzuc; Zamknij.
+// The skipped-records file of a run: one line per problem, "code | name | message" or, for contractors, "tax
+// number | name | message", in Windows-1250. Lines belong to the open batch: they are written when it commits
+// and forgotten when it is lost. Order of calls: Otworz; for every record NowyRekord, then Zglos as often as
+// needed; Zatwierdz or Porzuc; Zamknij.
 class RaportProblemow {
  public:
   RaportProblemow(IPostep& postep, Liczniki& liczniki) : m_postep(postep), m_liczniki(liczniki) {}
@@ -32,8 +33,8 @@ class RaportProblemow {
   // "C:\" on Windows, the user's data folder elsewhere.
   static QString KatalogZapasowy();
 
-  // Texts of field 0 and field 1, which begin every line of this record.
-  void NowyRekord(const QString& pole0, const QString& pole1);
+  // The two texts that begin every line of this record.
+  void NowyRekord(const QString& pierwszy, const QString& drugi);
   // Adds a line. A counted problem raises the skipped counter, once per record however many problems it has.
   void Zglos(const QString& komunikat, bool liczony = true);
   // Whether a problem of the record in hand has been counted.
@@ -53,7 +54,7 @@ class RaportProblemow {
   Liczniki& m_liczniki;
   TMFile m_plik;
   QString m_sciezka;
-  QString m_pole0, m_pole1;
+  QString m_pierwszy, m_drugi;
   bool m_policzony = false;
   bool m_bladOgloszony = false;
   std::string m_linie;  // of the open batch, as bytes of the file; the last line end is added by the file

@@ -12,6 +12,10 @@ constexpr QLatin1String kPrzedrostek("sqlite:");
 
 }  // namespace
 
+QStringList ParametryPolaczenia::Pliki() const {
+  return {cel, cel + QLatin1String("-wal"), cel + QLatin1String("-shm"), cel + QLatin1String("-journal")};
+}
+
 std::optional<ParametryPolaczenia> ParametryPolaczenia::ZTekstu(const QString& tekst) {
   QString cel = tekst.trimmed();
   if (cel.startsWith(kPrzedrostek, Qt::CaseInsensitive)) {

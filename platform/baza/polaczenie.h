@@ -3,6 +3,7 @@
 #include <optional>
 
 #include <QString>
+#include <QStringList>
 
 // Where a database is and how it is reached.
 struct ParametryPolaczenia {
@@ -12,6 +13,10 @@ struct ParametryPolaczenia {
   QString cel;                  // path of the database file
   bool tworz = false;           // create the file when it is missing; otherwise a missing file is an error
   int limitBlokadySekund = 15;  // how long to wait for somebody else's lock
+
+  // The files that make up an embedded database, whether or not they exist at the moment: the database and
+  // what SQLite keeps beside it.
+  QStringList Pliki() const;
 
   // Reads "PATH" or "sqlite:PATH"; nothing for an empty text or a kind that is not supported.
   static std::optional<ParametryPolaczenia> ZTekstu(const QString& tekst);

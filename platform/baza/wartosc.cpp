@@ -1,5 +1,6 @@
 #include "platform/baza/wartosc.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -9,6 +10,14 @@ Liczba LiczbaZTekstu(const std::string& tekst) {
   Liczba liczba{};
   std::from_chars(tekst.data(), tekst.data() + tekst.size(), liczba);
   return liczba;
+}
+
+// "%.15g", the most digits that every double has. Adding 0 takes the sign off a negative zero.
+std::string TekstZLiczby(double liczba) {
+  std::array<char, 32> bufor;
+  const auto koniec =
+      std::to_chars(bufor.data(), bufor.data() + bufor.size(), liczba + 0.0, std::chars_format::general, 15);
+  return {bufor.data(), koniec.ptr};
 }
 }  // namespace
 
@@ -42,7 +51,7 @@ QString Wartosc::AsString() const {
     case TypPola::Calkowite:
       return QString::number(m_calkowita);
     case TypPola::Dziesietne:
-      return QString::number(m_dziesietna, 'g', 15);
+      return QString::fromStdString(TekstZLiczby(m_dziesietna));
     default:
       return QString::fromStdString(m_tekst);
   }
@@ -72,7 +81,7 @@ void Wartosc::SetFloat(double wartosc) {
       m_dziesietna = wartosc;
       break;
     default:
-      m_tekst = QString::number(wartosc, 'g', 15).toStdString();
+      m_tekst = TekstZLiczby(wartosc);
   }
 }
 

@@ -9,7 +9,13 @@
 // A value that stays the same costs no copy of the old one: most fields of an import do.
 void TMField::Przyjmij(Wartosc nowa) {
   if (nowa == m_wartosc) return;
-  if (!m_stara) m_stara = std::make_unique<Wartosc>(std::move(m_wartosc));
+  if (!m_zmienione) {
+    if (m_stara)
+      *m_stara = std::move(m_wartosc);
+    else
+      m_stara = std::make_unique<Wartosc>(std::move(m_wartosc));
+    m_zmienione = true;
+  }
   m_wartosc = std::move(nowa);
 }
 
@@ -36,12 +42,17 @@ void TMField::Clear() {
 }
 
 bool TMField::Zmienione() const {
-  return m_stara && !(*m_stara == m_wartosc);
+  return m_zmienione && !(*m_stara == m_wartosc);
 }
 
 void TMField::Wczytaj(const Wartosc& wartosc) {
   m_wartosc = wartosc;
-  m_stara.reset();
+  m_zmienione = false;
+}
+
+void TMField::Oproznij() {
+  m_wartosc.Clear();
+  m_zmienione = false;
 }
 
 TMCustomDataSet::TMCustomDataSet(std::span<const OpisPola> pola) : m_opisy(pola) {}
@@ -52,9 +63,11 @@ void TMCustomDataSet::MoveTo(int indeks) {
 }
 
 void TMCustomDataSet::Append() {
-  std::vector<TMField>& wiersz = m_wiersze.emplace_back();
+  std::vector<TMField>& wiersz = m_wiersze.emplace_back(std::move(m_wolny));
+  m_wolny.clear();
   wiersz.reserve(m_opisy.size());
-  for (const OpisPola& opis : m_opisy) wiersz.emplace_back(opis);
+  for (TMField& pole : wiersz) pole.Oproznij();
+  for (std::size_t i = wiersz.size(); i < m_opisy.size(); ++i) wiersz.emplace_back(m_opisy[i]);
   m_biezacy = RecordCount() - 1;
   m_zmianyWierszy = true;
 }
@@ -95,14 +108,10 @@ void TKMQuery::Open() {
 void TKMQuery::CzytajWiersze() {
   Odczyt odczyt = m_baza->Otworz(m_sql, m_typy, m_parametry);
   while (odczyt.Nastepny()) {
-    if (m_wolny.empty()) {
-      Append();
-    } else {
-      m_wiersze.push_back(std::move(m_wolny));
-      m_wolny.clear();
-    }
+    Append();
     std::vector<TMField>& wiersz = m_wiersze.back();
     for (std::size_t i = 0; i < wiersz.size(); ++i) wiersz[i].Wczytaj(odczyt[i]);
+    if (m_tylkoPierwszy) break;
   }
   m_biezacy = m_wiersze.empty() ? -1 : 0;
 }
@@ -129,6 +138,6 @@ bool TKMQuery::GetUpdatesPending() const {
 
 void TKMQuery::ZatwierdzZmiany() {
   for (std::vector<TMField>& wiersz : m_wiersze)
-    for (TMField& pole : wiersz) pole.m_stara.reset();
+    for (TMField& pole : wiersz) pole.m_zmienione = false;
   m_zmianyWierszy = false;
 }

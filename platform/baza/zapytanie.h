@@ -36,16 +36,20 @@ class TMField {
 
   bool Zmienione() const;
   // The value as read; the current one when nothing was changed.
-  const Wartosc& OldValue() const { return m_stara ? *m_stara : m_wartosc; }
+  const Wartosc& OldValue() const { return m_zmienione ? *m_stara : m_wartosc; }
 
  private:
+  friend class TMCustomDataSet;
   friend class TKMQuery;
   void Przyjmij(Wartosc nowa);
   void Wczytaj(const Wartosc& wartosc);
+  void Oproznij();
 
   const OpisPola* m_opis;
   Wartosc m_wartosc;
+  // The old value's place stays for the next row.
   std::unique_ptr<Wartosc> m_stara;
+  bool m_zmienione = false;
 };
 
 // A dataset: a select with declared columns, its rows in memory and a cursor. Call order: PowiazQuery on the
@@ -82,6 +86,8 @@ class TMCustomDataSet {
  protected:
   std::span<const OpisPola> m_opisy;
   std::vector<std::vector<TMField>> m_wiersze;
+  // The first row of the last reading, used again: one record object holds one row after another.
+  std::vector<TMField> m_wolny;
   int m_biezacy = -1;
   bool m_aktywny = false;
   bool m_zmianyWierszy = false;
@@ -97,6 +103,8 @@ class TKMQuery final : public TMCustomDataSet {
   void SetParam(const char* nazwa, Wartosc wartosc);
   // With open-empty on, Open gives an empty dataset without asking the database.
   void SetOpenEmpty(bool pusty) { m_otwierajPusty = pusty; }
+  // Open reads the first row only: for selects by a key, which have no other.
+  void SetTylkoPierwszy(bool tylko) { m_tylkoPierwszy = tylko; }
   // Throws EBladBazy of kind Polaczenie when the dataset is not bound; after any failure it is closed.
   void Open();
   void Close();
@@ -115,7 +123,6 @@ class TKMQuery final : public TMCustomDataSet {
   std::string m_sql;
   std::vector<Parametr> m_parametry;
   std::vector<TypPola> m_typy;
-  // The first row of the last reading, used again: one record object reads one row after another.
-  std::vector<TMField> m_wolny;
   bool m_otwierajPusty = false;
+  bool m_tylkoPierwszy = false;
 };

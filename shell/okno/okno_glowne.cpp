@@ -9,6 +9,8 @@
 #include <QMimeData>
 #include <QScreen>
 
+#include <ui_okno_glowne.h>
+
 #include "exchange/czytnik.h"
 #include "model/kontekst.h"
 #include "platform/liczby.h"
@@ -19,7 +21,6 @@
 #include "shell/okno/wybor_pliku.h"
 #include "shell/przebieg/wykonanie_przebiegu.h"
 #include "shell/rozmowa.h"
-#include "ui_okno_glowne.h"
 #include "ustawienia/kontrola_struktury.h"
 #include "ustawienia/magazyn_ustawien.h"
 #include "ustawienia/pozycje_stanow.h"

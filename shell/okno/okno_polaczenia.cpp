@@ -4,8 +4,9 @@
 #include <QPushButton>
 #include <QStandardPaths>
 
+#include <ui_okno_polaczenia.h>
+
 #include "shell/rozmowa.h"
-#include "ui_okno_polaczenia.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,9 +1,9 @@
 #include "shell/okno/strony.h"
 
-#include "ui_strona_eksport_kontrahentow.h"
-#include "ui_strona_eksport_towarow.h"
-#include "ui_strona_import_kontrahentow.h"
-#include "ui_strona_import_towarow.h"
+#include <ui_strona_eksport_kontrahentow.h>
+#include <ui_strona_eksport_towarow.h>
+#include <ui_strona_import_kontrahentow.h>
+#include <ui_strona_import_towarow.h>
 
 namespace {
 

@@ -9,11 +9,12 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <ui_okno_pominietych.h>
+
 #include "run/raport_problemow.h"
 #include "shell/dialogi/siatka.h"
 #include "shell/przebieg/model_pominietych.h"
 #include "shell/rozmowa.h"
-#include "ui_okno_pominietych.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -4,9 +4,10 @@
 #include <QShowEvent>
 #include <QTimer>
 
+#include <ui_okno_postepu.h>
+
 #include "shell/przebieg/okno_pominietych.h"
 #include "shell/przebieg/stan_przebiegu.h"
-#include "ui_okno_postepu.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -8,87 +8,140 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "tests/end_to_end/pliki_kontrahentow.h"
 #include "tests/end_to_end/pliki_towarow.h"
 
 namespace {
 
-constexpr int kTowarow = 12000;
+// What an import brings. Only the selects know what a whole record is: each counts what must not be there.
+struct Rodzaj {
+  const char* nazwa;
+  const char16_t* polecenie;
+  QStringList ustawienia;
+  std::string (*plik)(int ile);
+  int ile;
+  std::string_view zapisanych;
+  std::vector<std::string_view> niedozwolone;
+};
 
-// Waits until the run has committed at least `ile` goods.
-void PoczekajNaTowary(const Stanowisko& s, QProcess& proces, int ile) {
-  while (proces.state() == QProcess::Running && s.Towarow() < ile) QThread::msleep(5);
-}
+const Rodzaj kRodzaje[] = {
+    {"Towary",
+     u"import-towarow",
+     {},
+     DuzyPlik,
+     12000,
+     "select cast(count(*) as text) from Towar",
+     {// Every good of the file has one additional code.
+      "select cast(count(*) as text) from Towar t where (select count(*) from KodDod d "
+      "where d.TowId = t.TowId and d.Kod = '591' || substr(t.Kod, 4)) <> 1",
+      "select cast(count(*) as text) from (select Kod from Towar union all select Kod from KodDod) "
+      "group by Kod having count(*) > 1",
+      "select cast(count(*) as text) from Towar group by Skrot having count(*) > 1",
+      "select cast(max(0, count(*) - 7) as text) from Asort where Nazwa like 'Asortyment%'"}},
+    {"Kontrahenci",
+     u"import-kontrahentow",
+     kDodajIPopraw,
+     DuzyPlikKontrahentow,
+     30000,
+     "select cast(count(*) as text) from Kontrahent",
+     {// Every contractor has two persons, a shop and a line of the change log; numbers are there once.
+      "select cast(count(*) as text) from Kontrahent k where"
+      " (select count(*) from Osoba o where o.KontrId = k.KontrId) <> 2"
+      " or k.KontrId not in (select SklepId from Sklep) or k.KontrId not in (select Id1 from DziennikZmian)",
+      "select cast(count(*) as text) from Kontrahent group by NIP having count(*) > 1",
+      "select cast(count(*) as text) from Sklep group by NrSklepu having count(*) > 1"}},
+};
 
-void SprawdzCalosc(const Stanowisko& s) {
-  EXPECT_EQ(s.Zapytaj("pragma integrity_check"), QStringList{u"ok"_s});
-  EXPECT_EQ(s.Zapytaj("select \"table\" from pragma_foreign_key_check"), QStringList());
-  // Every good of the file has one additional code and one stock row per warehouse.
-  EXPECT_EQ(s.Ile("select cast(count(*) as text) from Towar t where (select count(*) from KodDod d "
-                  "where d.TowId = t.TowId and d.Kod = '591' || substr(t.Kod, 4)) <> 1"),
-            0);
-  EXPECT_EQ(
-      s.Ile("select cast(count(*) as text) from (select Kod from Towar union all select Kod from KodDod "
-            ") group by Kod having count(*) > 1"),
-      0);
-  EXPECT_EQ(s.Ile("select cast(count(*) as text) from Towar group by Skrot having count(*) > 1"), 0);
-}
+class Awarie : public testing::TestWithParam<Rodzaj> {
+ protected:
+  int Zapisanych() const { return s.Ile(GetParam().zapisanych); }
+  void ZapiszPlik(int ile = GetParam().ile) const { s.Zapisz(u"plik"_s, GetParam().plik(ile)); }
+  QStringList Slowa() const {
+    return s.SlowaImportu(u"plik"_s, GetParam().ustawienia, QString::fromUtf16(GetParam().polecenie));
+  }
 
-// The same import brings the rest.
-void Dokoncz(const Stanowisko& s) {
-  const int bylo = s.Towarow();
-  const Wynik wynik = s.Import(u"towary"_s);
-  EXPECT_EQ(wynik.status, 0) << wynik.bledy.toStdString();
-  EXPECT_EQ(wynik.Liczba(u"bezZmian"_s), bylo);
-  EXPECT_EQ(wynik.Liczba(u"dodanych"_s), kTowarow - bylo);
-  EXPECT_EQ(s.Towarow(), kTowarow);
-  SprawdzCalosc(s);
-}
+  // Waits until the run has committed at least `ile` records.
+  void PoczekajNaZapisane(QProcess& proces, int ile) const {
+    while (proces.state() == QProcess::Running && Zapisanych() < ile) QThread::msleep(5);
+  }
 
-TEST(Awarie, CtrlCZostawiaToCoZapisano) {
+  void SprawdzCalosc() const {
+    EXPECT_EQ(s.Zapytaj("pragma integrity_check"), QStringList{u"ok"_s});
+    EXPECT_EQ(s.Zapytaj("select \"table\" from pragma_foreign_key_check"), QStringList());
+    for (const std::string_view sql : GetParam().niedozwolone) EXPECT_EQ(s.Ile(sql), 0) << sql;
+  }
+
+  // The same import brings the rest.
+  void Dokoncz() const {
+    const int bylo = Zapisanych();
+    const Wynik wynik = s.Uruchom(Slowa());
+    EXPECT_EQ(wynik.status, 0) << wynik.bledy.toStdString();
+    EXPECT_EQ(wynik.Liczba(u"bezZmian"_s), bylo);
+    EXPECT_EQ(wynik.Liczba(u"dodanych"_s), GetParam().ile - bylo);
+    EXPECT_EQ(Zapisanych(), GetParam().ile);
+    SprawdzCalosc();
+  }
+
+  // The run ends with the reason and says how much is saved; what it says is there.
+  void SprawdzKoniecZBledem(const Wynik& wynik, const QString& powod) const {
+    EXPECT_EQ(wynik.status, 4);
+    EXPECT_EQ(wynik.Koniec(), u"blad"_s);
+    EXPECT_TRUE(wynik.bledy.contains(powod)) << wynik.bledy.toStdString();
+    EXPECT_TRUE(wynik.bledy.contains(u"apisano w bazie"_s)) << wynik.bledy.toStdString();
+    EXPECT_EQ(wynik.Liczba(u"dodanych"_s), Zapisanych());
+    EXPECT_LT(Zapisanych(), GetParam().ile);
+    SprawdzCalosc();
+  }
+
   const Stanowisko s;
-  s.Zapisz(u"towary"_s, DuzyPlik(kTowarow));
-  const auto proces = s.Zacznij(s.SlowaImportu(u"towary"_s));
-  PoczekajNaTowary(s, *proces, 1);
+};
+
+INSTANTIATE_TEST_SUITE_P(Importy, Awarie, testing::ValuesIn(kRodzaje),
+                         [](const auto& rodzaj) { return std::string(rodzaj.param.nazwa); });
+
+TEST_P(Awarie, CtrlCZostawiaToCoZapisano) {
+  ZapiszPlik();
+  const auto proces = s.Zacznij(Slowa());
+  PoczekajNaZapisane(*proces, 1);
   kill(static_cast<pid_t>(proces->processId()), SIGINT);
   kill(static_cast<pid_t>(proces->processId()), SIGINT);
   const Wynik wynik = Stanowisko::Zakoncz(*proces);
   EXPECT_EQ(wynik.status, 5);
   EXPECT_EQ(wynik.Koniec(), u"przerwano"_s);
   EXPECT_TRUE(wynik.bledy.contains(u"Aktualizacja przerwana przez operatora"_s));
-  EXPECT_EQ(wynik.Liczba(u"dodanych"_s), s.Towarow());
-  EXPECT_GT(s.Towarow(), 0);
-  EXPECT_LT(s.Towarow(), kTowarow);
-  Dokoncz(s);
+  EXPECT_EQ(wynik.Liczba(u"dodanych"_s), Zapisanych());
+  EXPECT_GT(Zapisanych(), 0);
+  EXPECT_LT(Zapisanych(), GetParam().ile);
+  Dokoncz();
 }
 
-TEST(Awarie, ZabityProgramNieZostawiaPolowyRekordu) {
-  const Stanowisko s;
-  s.Zapisz(u"towary"_s, DuzyPlik(kTowarow));
-  const auto proces = s.Zacznij(s.SlowaImportu(u"towary"_s));
-  PoczekajNaTowary(s, *proces, 1000);
+TEST_P(Awarie, ZabityProgramNieZostawiaPolowyRekordu) {
+  ZapiszPlik();
+  const auto proces = s.Zacznij(Slowa());
+  PoczekajNaZapisane(*proces, 1000);
   proces->kill();
   proces->waitForFinished();
   ASSERT_EQ(proces->exitStatus(), QProcess::CrashExit);
-  EXPECT_GE(s.Towarow(), 1000);
-  EXPECT_LT(s.Towarow(), kTowarow);
-  SprawdzCalosc(s);
-  Dokoncz(s);
+  EXPECT_GE(Zapisanych(), 1000);
+  EXPECT_LT(Zapisanych(), GetParam().ile);
+  SprawdzCalosc();
+  Dokoncz();
 }
 
-TEST(Awarie, DwaImportyNaRaz) {
-  const Stanowisko s;
-  s.Zapisz(u"towary"_s, DuzyPlik(kTowarow / 4));
-  const auto pierwszy = s.Zacznij(s.SlowaImportu(u"towary"_s));
-  const auto drugi = s.Zacznij(
-      {u"import-towarow"_s, u"towary"_s, u"--baza"_s, u"baza.db"_s, u"--pominiete"_s, u"/"_s, u"--json"_s});
+TEST_P(Awarie, DwaImportyNaRaz) {
+  const int ile = GetParam().ile / 4;
+  ZapiszPlik(ile);
+  const auto pierwszy = s.Zacznij(Slowa());
+  QStringList slowaDrugiego = Slowa();
+  slowaDrugiego.replace(slowaDrugiego.indexOf(u"."_s), u"/"_s);
+  const auto drugi = s.Zacznij(slowaDrugiego);
   const Wynik a = Stanowisko::Zakoncz(*pierwszy);
   const Wynik b = Stanowisko::Zakoncz(*drugi);
   EXPECT_EQ(a.status, 0) << a.bledy.toStdString();
   EXPECT_EQ(b.status, 0) << b.bledy.toStdString();
-  EXPECT_EQ(a.Liczba(u"dodanych"_s) + b.Liczba(u"dodanych"_s), kTowarow / 4);
-  EXPECT_EQ(s.Towarow(), kTowarow / 4);
-  EXPECT_EQ(s.Ile("select cast(count(*) as text) from Asort where Nazwa like 'Asortyment%'"), 7);
-  SprawdzCalosc(s);
+  EXPECT_EQ(a.Liczba(u"dodanych"_s) + b.Liczba(u"dodanych"_s), ile);
+  EXPECT_EQ(Zapisanych(), ile);
+  SprawdzCalosc();
 }
 
 void TylkoDoOdczytu() {
@@ -101,37 +154,24 @@ void MalyDysk() {
   setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-// The run ends with the reason and says how much is saved; what it says is there.
-void SprawdzKoniecZBledem(const Stanowisko& s, const Wynik& wynik, const QString& powod) {
-  EXPECT_EQ(wynik.status, 4);
-  EXPECT_EQ(wynik.Koniec(), u"blad"_s);
-  EXPECT_TRUE(wynik.bledy.contains(powod)) << wynik.bledy.toStdString();
-  EXPECT_TRUE(wynik.bledy.contains(u"apisano w bazie"_s)) << wynik.bledy.toStdString();
-  EXPECT_EQ(wynik.Liczba(u"dodanych"_s), s.Towarow());
-  EXPECT_LT(s.Towarow(), kTowarow);
-  SprawdzCalosc(s);
-}
-
-TEST(Awarie, BazaPelnaZablokowanaTylkoDoOdczytu) {
-  const Stanowisko s;
-  s.Zapisz(u"towary"_s, DuzyPlik(kTowarow));
-  const QStringList slowa = s.SlowaImportu(u"towary"_s);
+TEST_P(Awarie, BazaPelnaZablokowanaTylkoDoOdczytu) {
+  ZapiszPlik();
   const std::string baza = s.Sciezka(u"baza.db"_s).toStdString();
   chmod(baza.c_str(), 0444);
-  SprawdzKoniecZBledem(s, s.Uruchom(slowa, TylkoDoOdczytu), u"tylko do odczytu"_s);
+  SprawdzKoniecZBledem(s.Uruchom(Slowa(), TylkoDoOdczytu), u"tylko do odczytu"_s);
   chmod(baza.c_str(), 0644);
   {
     TVLTBazaDanych inny;
     s.Polacz(inny);
     inny.StartTransakcji();
-    SprawdzKoniecZBledem(s, s.Uruchom(slowa), u"zablokowana"_s);
+    SprawdzKoniecZBledem(s.Uruchom(Slowa()), u"zablokowana"_s);
     inny.WycofTransakcji();
   }
-  SprawdzKoniecZBledem(s, s.Uruchom(slowa, MalyDysk), u"zapisu"_s);
-  Dokoncz(s);
+  SprawdzKoniecZBledem(s.Uruchom(Slowa(), MalyDysk), u"zapisu"_s);
+  Dokoncz();
 }
 
-TEST(Awarie, NiedokonczonaNowaBazaZnika) {
+TEST(NowaBaza, NiedokonczonaZnika) {
   const Stanowisko s;
   const auto ciasno = [] {
     const rlimit limit{20'000, 20'000};

@@ -77,10 +77,10 @@ class Stanowisko {
     return Zakoncz(*Zacznij(slowa, std::move(wDziecku)));
   }
 
-  // A goods import into the database of this place; its skipped-records file comes here too.
-  QStringList SlowaImportu(const QString& plik, const QStringList& dalsze = {}) const {
-    return QStringList{u"import-towarow"_s, plik,   u"--baza"_s, u"baza.db"_s,
-                       u"--pominiete"_s,    u"."_s, u"--json"_s} +
+  // An import into the database of this place; its skipped-records file comes here too.
+  QStringList SlowaImportu(const QString& plik, const QStringList& dalsze = {},
+                           const QString& polecenie = u"import-towarow"_s) const {
+    return QStringList{polecenie, plik, u"--baza"_s, u"baza.db"_s, u"--pominiete"_s, u"."_s, u"--json"_s} +
            dalsze;
   }
   Wynik Import(const QString& plik, const QStringList& dalsze = {}) const {

@@ -47,7 +47,8 @@ TEST(WierszPolecen, PomocWszedzie) {
   const Wynik ogolna = s.Uruchom(Slowa("--help"));
   EXPECT_EQ(ogolna.status, 0);
   EXPECT_EQ(ogolna.bledy, QString());
-  for (const char* polecenie : {"nowa-baza", "ustawienia", "import-towarow", "eksport-towarow"}) {
+  for (const char* polecenie : {"nowa-baza", "ustawienia", "import-towarow", "eksport-towarow",
+                                "import-kontrahentow", "eksport-kontrahentow"}) {
     EXPECT_TRUE(ogolna.wyjscie.contains(QString::fromUtf8(polecenie)));
     const Wynik pomoc = s.Uruchom({QString::fromUtf8(polecenie), u"--help"_s});
     EXPECT_EQ(pomoc.status, 0);
@@ -151,6 +152,22 @@ TEST(WierszPolecen, DokumentacjaZnaKazdeUstawienie) {
   EXPECT_GT(wydruk.count(u'\n'), 100);
   for (const QString& linia : wydruk.split(u'\n', Qt::SkipEmptyParts))
     EXPECT_TRUE(opis.contains(u'`' + linia.left(35).trimmed() + u'`')) << linia.toStdString();
+}
+
+// Whatever a database or another file has set before, nothing but names of files and of a page stays open.
+TEST(WierszPolecen, KonfiguracjaPonownegoImportuUstalaWszystko) {
+  const QString plik = QStringLiteral(ZORVIK_ZRODLA "/docs/ponowny-import.cfg");
+  TMConfig konfiguracja;
+  EXPECT_EQ(plik_konfiguracji::Wczytaj(plik, konfiguracja), std::nullopt);
+  const Wynik wynik = Stanowisko().Uruchom({u"ustawienia"_s, u"--konfiguracja"_s, plik});
+  EXPECT_EQ(wynik.bledy, QString());
+  for (const QString& linia : wynik.wyjscie.split(u"\r\n"_s, Qt::SkipEmptyParts)) {
+    const QString klucz = linia.left(35).trimmed();
+    // A configuration file cannot carry a name of more than 30 characters; updating contractors resets it.
+    const bool wolny =
+        klucz.startsWith(u"ParNazwaPliku"_s) || klucz == u"ParActivePageIndex"_s || klucz.size() > 30;
+    EXPECT_EQ(konfiguracja.Tekst(klucz), wolny ? QString() : linia.mid(35)) << klucz.toStdString();
+  }
 }
 
 TEST(WierszPolecen, NowaBazaNieNadpisuje) {

@@ -1,5 +1,7 @@
 #include "goods/eksport_towarow.h"
 #include "tests/goods/import_testowy.h"
+#include "tests/wspolne/plik_eksportu.h"
+#include "tests/wspolne/zrzut_bazy.h"
 
 namespace {
 
@@ -50,32 +52,7 @@ class EksportTest : public testing::Test, protected ImportTestowy {
   }
   QString Plik() const { return folder.filePath(u"eksport.txt"_s); }
 
-  // Fields of the lines; the header is line 0.
-  std::vector<QStringList> Linie() const {
-    const QByteArray bajty = Zawartosc(Plik());
-    const QString tekst = windows1250::NaUnicode({bajty.data(), static_cast<std::size_t>(bajty.size())});
-    std::vector<QStringList> linie;
-    EXPECT_TRUE(tekst.endsWith(u"\r\n"_s));
-    for (const QString& linia : tekst.chopped(2).split(u"\r\n"_s)) linie.push_back(linia.split(u'\t'));
-    return linie;
-  }
-
-  // Everything that a goods import could change, in one text.
-  QString Baza() {
-    QString zrzut;
-    for (const std::string tabela :
-         {"Towar", "KodDod", "TowWartosc", "TowDostawca", "Istw", "Asort", "JM", "Kategoria", "KatParam",
-          "Parametr", "ParWartosc", "Vat", "DziennikZmian"}) {
-      QStringList kolumny;
-      for (auto odczyt =
-               b.baza.Otworz("select name from pragma_table_info('" + tabela + "')", {TypPola::Tekst});
-           odczyt.Nastepny();)
-        kolumny << u"coalesce("_s + odczyt[0].AsString() + u",'-')"_s;
-      zrzut += b.Tekst("select group_concat(w, ' ') from (select " +
-                       kolumny.join(u"||'|'||"_s).toStdString() + " as w from " + tabela + " order by 1)");
-    }
-    return zrzut;
-  }
+  std::vector<QStringList> Linie() const { return LinieEksportu(Plik()); }
 
   OpcjeEksportuTowarow eksport;
 };
@@ -163,7 +140,7 @@ TEST_F(EksportTest, ImportTegoSamegoPlikuNicNieZmienia) {
   opcje.cb_KodyZaczynajaceSieOdZera = opcje.cb_KodyZawierajaceLitery = opcje.cb_KodyWazone = true;
   opcje.cb_akceptujKodyWlasneEAN = true;
   opcje.towarZTaSamaNazwa = TowarZTaSamaNazwa::RBDodajTowarZTaSamaNazwa;
-  const QString przed = Baza();
+  const QStringList przed = ZrzutBazy(b.baza);
   for (const char znak : {'.', ','}) {
     SCOPED_TRACE(znak);
     separator = znak;
@@ -172,15 +149,17 @@ TEST_F(EksportTest, ImportTegoSamegoPlikuNicNieZmienia) {
         {sesja, struktura, Plik(), postep, *oper, stop, separator, folder.path()}, opcje, bufor);
     EXPECT_EQ(wynik.liczniki[Licznik::Rekordy], 3);
     EXPECT_EQ(wynik.liczniki[Licznik::BezZmian], 3) << Pominiete().join(u" # "_s).toStdString();
-    EXPECT_EQ(Baza(), przed);
+    EXPECT_EQ(RozniceZrzutow(przed, ZrzutBazy(b.baza)), QStringList());
   }
 }
 
 TEST_F(EksportTest, MowiOTymCoNieWroci) {
-  const struct {
+  struct Przypadek {
     const char* sql;
     QString powod;  // empty: a character was lost
-  } przypadki[] = {
+  };
+  const QString kCudzyNip = u"NIP nie wskaże tego kontrahenta"_s;
+  const Przypadek przypadki[] = {
       {"update Towar set Opis1 = 'a' || char(9) || 'b' where TowId = 3", u"tabulator"_s},
       {"update Towar set Indeks2 = char(13) || char(10) where TowId = 3", u"koniec wiersza"_s},
       {"update Towar set Skrot = ' a' where TowId = 3", u"odstęp na brzegu"_s},
@@ -188,14 +167,28 @@ TEST_F(EksportTest, MowiOTymCoNieWroci) {
       {"update Towar set Kod = '//1' where TowId = 3", u"kod czytany jako komentarz"_s},
       {"insert into KodDod (TowId, Kolejnosc, Kod) values (3, 1, '1|2')", u"znaki bloku w nazwie"_s},
       {"update Towar set Opis3 = '€Ω' where TowId = 3", u""_s},
-      {"update Towar set KatId = 2 where TowId = 3", u"znaki bloku w nazwie"_s},
+      {"update Towar set Kod = '' where TowId = 3", u"brak kodu"_s},
+      {"insert into KodDod (TowId, Kolejnosc, Kod) values (3, 1, '12')", u"kod dodatkowy bez skrótu"_s},
+      {"update Towar set KatId = 2 where TowId = 3", u"kategoria czytana inaczej"_s},
+      {"insert into KatParam values (3, 4, 0)", u"kategoria czytana inaczej"_s},  // a list without values
+      {"insert into KatParam values (3, 5, 0)", u"kategoria czytana inaczej"_s},  // one like a range
+      {"insert into KatParam values (3, 6, 0)", u"kategoria czytana inaczej"_s},  // a value with blanks
+      {"insert into KatParam values (3, 3, 0)", u"kategoria czytana inaczej"_s},  // of an unknown type
+      {"update Towar set Producent = 5 where TowId = 3", kCudzyNip},
+      {"insert into TowDostawca values (3, 2, 0), (3, 6, 1)", kCudzyNip},
   };
   for (const auto& p : przypadki) {
     SCOPED_TRACE(p.sql);
     b.baza.ExecSQL("savepoint p");
-    b.baza.ExecSQL("insert into Kategoria (Nazwa) values ('a:b')");
-    b.baza.ExecSQL(p.sql);
-    const QString towar = b.Tekst("select Kod || ' Ćma' from Towar where TowId = 3");
+    // What a case refers to; the good has a category and a producer that come back.
+    for (const char* sql :
+         {"insert into Kategoria (Nazwa) values ('a:b'), ('Ser')",
+          "insert into Parametr (Nazwa, Typ, Od, Do) values ('P', 0, 0, 0), ('Z', 0, 0, 0), ('B', 0, 0, 0)",
+          "insert into ParWartosc values (5, 0, '1..5'), (6, 0, 'a'), (6, 1, ' b')",
+          "insert into Kontrahent (Nazwa, NIP) values ('N', 'brak'), ('T', '22-2')",
+          "update Towar set KatId = 3, Producent = 1 where TowId = 3", p.sql})
+      b.baza.ExecSQL(sql);
+    const QString towar = b.Tekst("select trim(Kod || ' Ćma') from Towar where TowId = 3");
     Eksportuj();
     b.baza.ExecSQL("rollback to p");
     b.baza.ExecSQL("release p");
@@ -221,6 +214,7 @@ TEST_F(EksportTest, OdmawiaPlikuKtoregoNieWolnoNadpisac) {
       {folder.filePath(u"dowiązanie"_s), u"jest plikiem pominiętych rekordów"_s},
       {folder.filePath(u"POMINIECI.TXT"_s), u"jest plikiem pominiętych rekordów"_s},
       {b.Sciezka(), u"jest plikiem bazy danych"_s},
+      {b.Sciezka() + u"-wal"_s, u"jest plikiem bazy danych"_s},
       {folder.path(), u"Błąd otwarcia pliku"_s},
       {QString(), u"Błąd otwarcia pliku"_s}};
   for (const auto& [plik, odmowa] : przypadki) {
@@ -234,40 +228,17 @@ TEST_F(EksportTest, OdmawiaPlikuKtoregoNieWolnoNadpisac) {
 }
 
 TEST_F(EksportTest, BladNigdyNieKonczySieZakonczeniem) {
-  const auto blad = [&](const WynikPrzebiegu& wynik, const QString& tekst) {
-    EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Blad);
-    EXPECT_FALSE(postep.linie.contains(kKoniec));
-    EXPECT_TRUE(postep.linie.join(u' ').contains(tekst)) << postep.linie.join(u' ').toStdString();
-    EXPECT_TRUE(postep.linie.join(u' ').contains(u"Plik eksportu jest niepełny."_s));
-  };
   // Three goods fill the file when it is closed, a long text does it earlier.
   for (const char* sql :
        {"update Towar set Opis4 = ''", "update Towar set Opis4 = hex(zeroblob(200000)) where TowId = 1"}) {
     b.baza.ExecSQL(sql);
-    const WynikPrzebiegu wynik = Eksportuj(u"/dev/full"_s);
-    blad(wynik, u"Błąd zapisu do pliku /dev/full"_s);
-    EXPECT_EQ(wynik.liczniki[Licznik::Rekordy], 0);
+    SprawdzNiepelny(Eksportuj(u"/dev/full"_s), postep, u"Błąd zapisu do pliku /dev/full"_s);
   }
-  int polecen = 0;
-  b.baza.UstawPodsluch([&](std::string_view) { ++polecen; });
-  Eksportuj();
-  for (int ktore = 1; ktore < polecen; ++ktore) {  // the last one moves the log
-    SCOPED_TRACE(ktore);
-    int numer = 0;
-    b.baza.UstawPodsluch([&](std::string_view) {
-      if (++numer == ktore) throw EBladBazy(RodzajBleduBazy::Inny, u"Błąd próbny"_s, {});
-    });
-    blad(Eksportuj(), u"Błąd próbny"_s);
-  }
+  SprawdzAwariePolecen(b, postep, [&] { return Eksportuj(); });
   // A good that goes after the identifiers were read ends the run; what was written before it stays.
-  b.baza.UstawPodsluch([&](std::string_view sql) {
-    if (!sql.starts_with("select TowId, Kod, Nazwa")) return;
-    TVLTBazaDanych inna;
-    b.Polacz(inna);
-    inna.ExecSQL("delete from Istw where TowId = 2");
-    inna.ExecSQL("delete from Towar where TowId = 2");
-  });
-  blad(Eksportuj(), u"Brak obiektu w bazie danych"_s);
+  WykonajPrzed(b, "select TowId, Kod, Nazwa",
+               {"delete from Istw where TowId = 2", "delete from Towar where TowId = 2"});
+  SprawdzNiepelny(Eksportuj(), postep, u"Brak obiektu w bazie danych"_s);
   EXPECT_EQ(Linie().size(), 2u);
 }
 

@@ -94,6 +94,14 @@ TEST_F(Bufor, NipyPorownujeSiePoCyfrach) {
   EXPECT_EQ(nipy.Znajdz(u"333"), -1);
   EXPECT_EQ(nipy.Znajdz(u"brak"), -1) << "no digits, no number";
   EXPECT_EQ(TVLTBuforNip::IloscKontrahentow(b.baza), 3);
+
+  TVLTBuforNip zAdresami(TVLTBuforNip::Zawartosc::NipyIAdresy);
+  zAdresami.Dodaj(4, u"44", u"Polna 1"_s, u"Radom"_s);
+  zAdresami.Dodaj(5, u"brak", u"Polna 1"_s, u"Radom"_s);
+  EXPECT_TRUE(zAdresami.MaAdres(u"4-4", u"Polna 1"_s, u"Radom"_s));
+  EXPECT_FALSE(zAdresami.MaAdres(u"44", u"Polna 1R"_s, u"adom"_s));
+  EXPECT_FALSE(zAdresami.MaAdres(u"55", u"Polna 1"_s, u"Radom"_s));
+  EXPECT_TRUE(zAdresami.MaAdres(u"", u"Polna 1R"_s, u"adom"_s)) << "without a number they are one text";
 }
 
 }  // namespace

@@ -64,6 +64,18 @@ TEST_F(Baza, WartosciWracajaTakieSame) {
   EXPECT_EQ(std::pair(query.RecordCount(), query.RecNo()), std::pair(0, -1));
 }
 
+TEST_F(Baza, LiczbyJakoTeksty) {
+  const std::pair<double, const char*> kLiczby[] = {
+      {9.99, "9.99"},     {0.1 + 0.2, "0.3"}, {-1250, "-1250"},  {-0.0, "0"},
+      {0.00001, "1e-05"}, {1e15, "1e+15"},    {1e300, "1e+300"}, {2.0 / 3, "0.666666666666667"}};
+  for (const auto& [liczba, tekst] : kLiczby) {
+    EXPECT_EQ(Wartosc(liczba).AsString(), QLatin1String(tekst));
+    Wartosc jakoTekst(TypPola::Tekst);
+    jakoTekst.SetFloat(liczba);
+    EXPECT_EQ(jakoTekst.AsUtf8(), tekst);
+  }
+}
+
 TEST_F(Baza, ZmianyPolPamietajaStaraWartosc) {
   Dodaj(QStringLiteral("a"));
   TKMQuery query(kPola);

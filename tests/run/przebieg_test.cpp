@@ -19,7 +19,7 @@ constexpr OpisPrzebiegu kOpis{u"POMINIETE.TXT", u"zamykanie", u"Zakończono", kP
 class PrzebiegProbny final : public PrzebiegImportu {
  public:
   PrzebiegProbny(const ParametryPrzebiegu& parametry, const std::function<void()>& poRekordzie)
-      : PrzebiegImportu(parametry, kOpis), m_poRekordzie(poRekordzie) {}
+      : PrzebiegImportu(parametry, kOpis, {PoleTowaru::Kod, PoleTowaru::Nazwa}), m_poRekordzie(poRekordzie) {}
 
  protected:
   bool PrzygotujBufory() override { return true; }

@@ -1,5 +1,3 @@
-#include "bench/dane.h"
-
 #include <array>
 #include <cstdint>
 #include <cstdio>
@@ -8,6 +6,7 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "bench/dane.h"
 #include "bench/uklad.h"
 #include "platform/windows1250.h"
 

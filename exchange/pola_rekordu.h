@@ -4,13 +4,14 @@
 
 #include "exchange/linia_rekordu.h"
 
-// The values of one goods record by catalogue number, converted when they are asked for: most decisions need
-// a few of them only. Valid as long as the line it was made of.
+// The values of one record by catalogue number, converted when they are asked for: most decisions need a few
+// of them only. Valid as long as the line it was made of.
 class PolaRekordu {
  public:
-  PolaRekordu(LiniaRekordu linia, char separator) : m_separator(separator) {
-    for (LiniaRekordu& pole : m_pola) {
-      pole = linia;
+  // `separator`: the system's decimal mark.
+  PolaRekordu(LiniaRekordu linia, RodzajRekordu rodzaj, char separator) : m_separator(separator) {
+    for (int pole = 0; pole < LiczbaWartosci(rodzaj); ++pole) {
+      m_pola[static_cast<std::size_t>(pole)] = linia;
       linia.Pomin();
     }
   }
@@ -25,6 +26,6 @@ class PolaRekordu {
   LiniaRekordu Token(int pole) const { return m_pola[static_cast<std::size_t>(pole)]; }
 
   // Copies of the line, each standing before its field.
-  std::array<LiniaRekordu, PoleTowaru::LiczbaWartosci> m_pola;
+  std::array<LiniaRekordu, PoleKontrahenta::LiczbaWartosci> m_pola;
   char m_separator;
 };

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "bench/proces.h"
+#include "bench/uklad.h"
+
+// What a run of the product took beside time.
+struct Zuzycie {
+  long oczekiwan;   // calls that wait for the disk
+  double pamiecMb;  // the most it held in memory
+  double stronyMb;  // of that: pages of the database, which SQLite keeps up to a limit of its own
+};
+
+// The measured programs and a folder for their files, emptied at the start. Errors: std::runtime_error.
+class Warsztat {
+ public:
+  explicit Warsztat(const std::filesystem::path& programy);
+
+  std::string Sciezka(const std::string& nazwa) const { return (m_folder / nazwa).string(); }
+  std::string Program(const char* nazwa) const { return (m_programy / nazwa).string(); }
+
+  void NowaBaza(const std::string& nazwa) const;
+  void KopiujBaze(const std::string& skad, const std::string& dokad) const;
+  void ZapiszKonfiguracje(const std::string& nazwa, const Ustawienia& ustawienia) const;
+
+  // One run of zorvik-cli; the files are those of the folder.
+  struct Zadanie {
+    std::string operacja;
+    std::string plik;
+    std::string baza;
+    std::string konfiguracja;
+    char separator;
+    const char* licznik;  // of the result; it must have counted `ile`: a run that did something else would
+    int ile;              // measure nothing
+  };
+  double Zorvik(const Zadanie& zadanie) const { return Wykonaj(zadanie, {}).sekund; }
+  Zuzycie ZorvikZLicznikiem(const Zadanie& zadanie) const;
+
+  double Wzorzec(const std::string& tryb, const std::string& baza, const std::string& plik) const;
+
+ private:
+  Przebieg Wykonaj(const Zadanie& zadanie, const std::vector<std::string>& srodowisko) const;
+
+  std::filesystem::path m_programy, m_folder;
+};
