@@ -27,22 +27,20 @@ class Seria {
 
   void Eksportuj() {
     const bool pierwszy = czasy.zorvik.empty();
-    czasy.zorvik.push_back(m_warsztat.Zorvik(Zadanie()));
+    zuzycie =
+        m_warsztat.Zorvik({m_opis.operacja, "eksport.txt", m_baza, kKonfiguracja, ',', "rekordow", m_ile});
+    czasy.zorvik.push_back(zuzycie.sekund);
     czasy.wzorzec.push_back(m_warsztat.Wzorzec(m_opis.operacja, m_baza, "wzorzec.txt"));
     if (pierwszy && !TeSameBajty(m_warsztat.Sciezka("eksport.txt"), m_warsztat.Sciezka("wzorzec.txt")))
       throw std::runtime_error(std::string(m_opis.operacja) + ": pliki eksport.txt i wzorzec.txt różnią się");
   }
 
-  Zuzycie Pamiec() const { return m_warsztat.ZorvikZLicznikiem(Zadanie()); }
   int Ile() const { return m_ile; }
 
   Para czasy;
+  Zuzycie zuzycie{};  // of the last export
 
  private:
-  Warsztat::Zadanie Zadanie() const {
-    return {m_opis.operacja, "eksport.txt", m_baza, kKonfiguracja, ',', "rekordow", m_ile};
-  }
-
   const Warsztat& m_warsztat;
   const OpisEksportu& m_opis;
   std::string m_baza;
@@ -52,7 +50,7 @@ class Seria {
 void DodajPamiec(const Seria& mala, const Seria& duza, const char* czego, Tabela& tabela) {
   double wlasnaMb[2] = {};
   for (int i = 0; const Seria* seria : {&mala, &duza}) {
-    const Zuzycie z = seria->Pamiec();
+    const Zuzycie& z = seria->zuzycie;
     wlasnaMb[i] = z.pamiecMb - z.stronyMb;
     tabela.Informacja(
         "pamięć eksportu " + std::to_string(seria->Ile()) + ' ' + czego + " (w tym strony SQLite)",

@@ -5,6 +5,7 @@
 
 #include "bench/dane.h"
 #include "bench/porownanie.h"
+#include "bench/proces.h"
 
 namespace {
 
@@ -32,7 +33,8 @@ class Seria {
   void Dodaj() {
     const bool pierwsza = dodawanie.zorvik.empty();
     m_warsztat.NowaBaza("import.db");
-    dodawanie.zorvik.push_back(m_warsztat.Zorvik(Zadanie(Plik(), "dodanych")));
+    zuzycie = m_warsztat.Zorvik(Zadanie(Plik(), "dodanych"));
+    dodawanie.zorvik.push_back(zuzycie.sekund);
     const std::string wiersze = m_nazwa + "-dodane.txt";
     if (pierwsza) m_dziennik = Wypisz(wiersze, Wiersze::Dodane);
     m_warsztat.NowaBaza("wzorzec.db");
@@ -44,8 +46,8 @@ class Seria {
   void Popraw() {
     const bool pierwsza = poprawianie.zorvik.empty();
     if (pierwsza) m_opis.zapiszPlik(m_warsztat.Sciezka(PlikZmian()), m_ile, true);
-    identyczne.push_back(m_warsztat.Zorvik(Zadanie(Plik(), "bezZmian")));
-    poprawianie.zorvik.push_back(m_warsztat.Zorvik(Zadanie(PlikZmian(), "poprawionych")));
+    identyczne.push_back(m_warsztat.Zorvik(Zadanie(Plik(), "bezZmian")).sekund);
+    poprawianie.zorvik.push_back(m_warsztat.Zorvik(Zadanie(PlikZmian(), "poprawionych")).sekund);
     const std::string wiersze = m_nazwa + "-poprawione.txt";
     if (pierwsza) Wypisz(wiersze, Wiersze::Poprawione);
     if (m_opis.rekordy == Rekordy::Towary) m_warsztat.KopiujBaze("wzorzec.db", "ceny.db");
@@ -58,6 +60,7 @@ class Seria {
 
   Para dodawanie, poprawianie;
   std::vector<double> identyczne;
+  Zuzycie zuzycie{};         // of the last adding
   std::vector<double> ceny;  // the plain program writing the prices of goods alone
 
  private:
@@ -146,8 +149,7 @@ double ZmierzImport(const Warsztat& warsztat, const OpisImportu& opis, int ile, 
   tabela.DodajWzrost("wzrost kosztu rekordu do " + std::to_string(duza.Ile()), mala.dodawanie,
                      duza.dodawanie);
 
-  warsztat.NowaBaza("import.db");
-  const Zuzycie zuzycie = warsztat.ZorvikZLicznikiem(duza.Zadanie(duza.Plik(), "dodanych"));
+  const Zuzycie& zuzycie = duza.zuzycie;
   tabela.Dodaj("pamięć przy " + std::to_string(duza.Ile()) + " (część 400 MB)",
                Liczba("%.0f MB", zuzycie.pamiecMb), "", zuzycie.pamiecMb / kPamiecMb, 1);
   tabela.Dodaj("oczekiwania na dysk (fsync) na rekord", std::to_string(zuzycie.oczekiwan), "",

@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "bench/proces.h"
+
 namespace fs = std::filesystem;
 
 Warsztat::Warsztat(const fs::path& programy)
@@ -29,26 +31,22 @@ void Warsztat::ZapiszKonfiguracje(const std::string& nazwa, const Ustawienia& us
   std::ofstream(Sciezka(nazwa), std::ios::binary) << PlikKonfiguracji(ustawienia);
 }
 
-Przebieg Warsztat::Wykonaj(const Zadanie& z, const std::vector<std::string>& srodowisko) const {
-  Przebieg przebieg = Uruchom({Program("zorvik-cli"), z.operacja, Sciezka(z.plik), "--baza", Sciezka(z.baza),
-                               "--konfiguracja", Sciezka(z.konfiguracja), "--pominiete", m_folder.string(),
-                               "--separator-dziesietny", std::string(1, z.separator), "--json"},
-                              srodowisko);
+Zuzycie Warsztat::Zorvik(const Zadanie& z) const {
+  const Przebieg przebieg =
+      Uruchom({Program("zorvik-cli"), z.operacja, Sciezka(z.plik), "--baza", Sciezka(z.baza),
+               "--konfiguracja", Sciezka(z.konfiguracja), "--pominiete", m_folder.string(),
+               "--separator-dziesietny", std::string(1, z.separator), "--json"},
+              {"LD_PRELOAD=" + Program("liblicznik.so"), "LICZNIK_PLIK=" + Sciezka("licznik.txt")});
   const auto wynik = QJsonDocument::fromJson(QByteArray::fromStdString(przebieg.wyjscie)).object();
   const int policzono = wynik.value(QLatin1String(z.licznik)).toInt();
   if (policzono != z.ile)
     throw std::runtime_error(z.operacja + ' ' + z.plik + ": " + z.licznik + " = " +
                              std::to_string(policzono) + ", powinno być " + std::to_string(z.ile));
-  return przebieg;
-}
-
-Zuzycie Warsztat::ZorvikZLicznikiem(const Zadanie& zadanie) const {
-  Wykonaj(zadanie, {"LD_PRELOAD=" + Program("liblicznik.so"), "LICZNIK_PLIK=" + Sciezka("licznik.txt")});
   long oczekiwan = 0;
   double stronyB = 0, pamiecKb = 0;
   std::ifstream(Sciezka("licznik.txt")) >> oczekiwan >> stronyB >> pamiecKb;
   if (stronyB <= 0 || pamiecKb <= 0) throw std::runtime_error("Licznik nie zadziałał");
-  return {oczekiwan, pamiecKb / 1024, stronyB / 1024 / 1024};
+  return {przebieg.sekund, oczekiwan, pamiecKb / 1024, stronyB / 1024 / 1024};
 }
 
 double Warsztat::Wzorzec(const std::string& tryb, const std::string& baza, const std::string& plik) const {

@@ -2,13 +2,12 @@
 
 #include <filesystem>
 #include <string>
-#include <vector>
 
-#include "bench/proces.h"
 #include "bench/uklad.h"
 
-// What a run of the product took beside time.
+// What a run of the product took.
 struct Zuzycie {
+  double sekund;
   long oczekiwan;   // calls that wait for the disk
   double pamiecMb;  // the most it held in memory
   double stronyMb;  // of that: pages of the database, which SQLite keeps up to a limit of its own
@@ -36,13 +35,10 @@ class Warsztat {
     const char* licznik;  // of the result; it must have counted `ile`: a run that did something else would
     int ile;              // measure nothing
   };
-  double Zorvik(const Zadanie& zadanie) const { return Wykonaj(zadanie, {}).sekund; }
-  Zuzycie ZorvikZLicznikiem(const Zadanie& zadanie) const;
-
+  Zuzycie Zorvik(const Zadanie& zadanie) const;
+  // One run of the plain program, in seconds.
   double Wzorzec(const std::string& tryb, const std::string& baza, const std::string& plik) const;
 
  private:
-  Przebieg Wykonaj(const Zadanie& zadanie, const std::vector<std::string>& srodowisko) const;
-
   std::filesystem::path m_programy, m_folder;
 };
