@@ -239,7 +239,7 @@ class TDmVLTTowar final : public TDmVLTElement {
   WynikWalidacji SprawdzDoPlanu(Plan& plan) const;
   Plan Zaplanuj() const;
   void UzupelnijWartosci(Plan& plan) const;
-  std::vector<Parametr> ParametryZapisu() const;
+  std::vector<Parametr>& ParametryZapisu();
   void ZapiszNotatke(int id) const;
   void WstawPowiazanie(int id) const;
   void ZapiszSzczegoly(int id) const;
@@ -259,6 +259,7 @@ class TDmVLTTowar final : public TDmVLTElement {
   bool m_notatkaZmieniona = false;
   // What the save in hand changes in memory once it has succeeded.
   std::unique_ptr<Plan> m_plan;
+  std::vector<Parametr> m_parametry;  // kept for the next save
 };
 
 // What stands in the way of deactivating a good. Its own transaction when none is open.

@@ -131,7 +131,7 @@ void TDmVLTTowar::UpdateRecord(int id) {
   ZOdmowaZapisu([&] {
     SprawdzKasy(id);
     static const std::string sql = Update(Query);
-    auto parametry = ParametryZapisu();
+    std::vector<Parametr>& parametry = ParametryZapisu();
     parametry.push_back({"TowId", id});
     if (Context.baza.ExecSQL(sql, parametry) == 0) throw EVLTWDError(2001);
     ZapiszNotatke(id);
@@ -184,17 +184,17 @@ void TDmVLTTowar::UzupelnijWartosci(Plan& plan) const {
   plan.wartosci = std::move(wartosci);
 }
 
-std::vector<Parametr> TDmVLTTowar::ParametryZapisu() const {
-  std::vector<Parametr> parametry;
-  parametry.reserve(kZapisywane.size() + 1);
-  for (const auto pole : kZapisywane) {
-    const TMField& field = Query.Field(pole);
-    if (pole == K::Kod)
-      parametry.push_back({field.FieldName(), m_plan->kod});
+std::vector<Parametr>& TDmVLTTowar::ParametryZapisu() {
+  m_parametry.resize(kZapisywane.size());
+  for (std::size_t i = 0; i < kZapisywane.size(); ++i) {
+    const TMField& pole = Query.Field(kZapisywane[i]);
+    m_parametry[i].nazwa = pole.FieldName();
+    if (kZapisywane[i] == K::Kod)
+      m_parametry[i].wartosc = m_plan->kod;
     else
-      parametry.push_back({field.FieldName(), field.Value()});
+      m_parametry[i].wartosc = pole.Value();
   }
-  return parametry;
+  return m_parametry;
 }
 
 void TDmVLTTowar::ZapiszNotatke(int id) const {
