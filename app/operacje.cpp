@@ -41,21 +41,18 @@ constexpr PozycjaJson kLicznikiTowarow[] = {
     {u"formatowKodowWazonych", Licznik::FormatyKodowWazonych},
 };
 
-// The run kinds by their place in the table of them.
-enum Rodzaj : std::size_t { kImportTowarow, kEksportTowarow, kImportKontrahentow, kEksportKontrahentow };
-
 const Operacja kOperacje[] = {
-    {TabelaRodzajowPrzebiegow()[kImportTowarow], u"importuje towary z pliku do bazy",
+    {Rodzaj(KtoryPrzebieg::ImportTowarow), u"importuje towary z pliku do bazy",
      u"Bez nazwy pliku importuje plik z ustawienia ParNazwaPlikuImportuTow.", kLicznikiTowarow},
-    {TabelaRodzajowPrzebiegow()[kEksportTowarow], u"eksportuje wszystkie towary z bazy do pliku",
+    {Rodzaj(KtoryPrzebieg::EksportTowarow), u"eksportuje wszystkie towary z bazy do pliku",
      u"Bez nazwy pliku eksportuje do pliku z ustawienia ParNazwaPlikuEksportuTow.\n"
      u"Istniejący plik nadpisuje.",
      kLicznikiEksportu},
-    {TabelaRodzajowPrzebiegow()[kImportKontrahentow], u"importuje kontrahentów z pliku do bazy",
+    {Rodzaj(KtoryPrzebieg::ImportKontrahentow), u"importuje kontrahentów z pliku do bazy",
      u"Bez nazwy pliku importuje plik z ustawienia ParNazwaPlikuImportuKontr.\n"
      u"Dodaje nowych, gdy ParNowyKontr=1, poprawia istniejących, gdy ParAktualKontr=1.",
      kLicznikiKontrahentow, false},
-    {TabelaRodzajowPrzebiegow()[kEksportKontrahentow], u"eksportuje wybranych kontrahentów z bazy do pliku",
+    {Rodzaj(KtoryPrzebieg::EksportKontrahentow), u"eksportuje wybranych kontrahentów z bazy do pliku",
      u"Bez nazwy pliku eksportuje do pliku z ustawienia ParNazwaPlikuEksportuKontr.\n"
      u"Istniejący plik nadpisuje. Kogo wysłać, mówią ustawienia od ParGdyOdbiorca\n"
      u"do ParGdyNieZakladPrChr; dopóki są wyłączone, plik ma tylko nagłówek.",

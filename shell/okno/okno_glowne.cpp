@@ -96,12 +96,14 @@ void Tfrm_main::PodlaczPolecenia() {
     QAction* pozycja;
     std::function<void()> wykonaj;
   } polecenia[] = {
-      {m_ui->ImportTowMenu, bind_front(&Tfrm_main::Przeprowadz, this, 0)},
-      {m_ui->EksportTowMenu, bind_front(&Tfrm_main::Przeprowadz, this, 1)},
-      {m_ui->ImportKontrMenu, bind_front(&Tfrm_main::Przeprowadz, this, 2)},
-      {m_ui->EksportKontrMenu, bind_front(&Tfrm_main::Przeprowadz, this, 3)},
-      {m_ui->StrukturaplikuimportuTowMenu, bind_front(&Tfrm_main::EdytujStruktureStrony, this, 0)},
-      {m_ui->StrukturaplikuimportuKontrMenu, bind_front(&Tfrm_main::EdytujStruktureStrony, this, 2)},
+      {m_ui->ImportTowMenu, bind_front(&Tfrm_main::Przeprowadz, this, KtoryPrzebieg::ImportTowarow)},
+      {m_ui->EksportTowMenu, bind_front(&Tfrm_main::Przeprowadz, this, KtoryPrzebieg::EksportTowarow)},
+      {m_ui->ImportKontrMenu, bind_front(&Tfrm_main::Przeprowadz, this, KtoryPrzebieg::ImportKontrahentow)},
+      {m_ui->EksportKontrMenu, bind_front(&Tfrm_main::Przeprowadz, this, KtoryPrzebieg::EksportKontrahentow)},
+      {m_ui->StrukturaplikuimportuTowMenu,
+       bind_front(&Tfrm_main::EdytujStruktureImportu, this, KtoryPrzebieg::ImportTowarow)},
+      {m_ui->StrukturaplikuimportuKontrMenu,
+       bind_front(&Tfrm_main::EdytujStruktureImportu, this, KtoryPrzebieg::ImportKontrahentow)},
       {m_ui->ZapisDoBazy, bind_front(&Tfrm_main::ZapisDoBazyClick, this)},
       {m_ui->EksportDoPlikuZorvik, bind_front(&Tfrm_main::EksportDoPlikuZorvikClick, this)},
       {m_ui->ImportZPlikuZorvik, bind_front(&Tfrm_main::ImportZPlikuZorvikClick, this)},
@@ -222,24 +224,22 @@ void Tfrm_main::Wyjscie(int strona) {
   close();
 }
 
-const RodzajPrzebiegu* Tfrm_main::Rodzaj(int strona) const {
-  const auto rodzaje = TabelaRodzajowPrzebiegow();
-  const auto numer = static_cast<std::size_t>(strona);
-  return numer < rodzaje.size() ? &rodzaje[numer] : nullptr;
+const RodzajPrzebiegu& Tfrm_main::BiezacyRodzaj() const {
+  return Rodzaj(TabelaStron()[static_cast<std::size_t>(m_ui->PageControl->currentIndex())].przebieg);
 }
 
-void Tfrm_main::Przeprowadz(int strona) {
-  const RodzajPrzebiegu* const rodzaj = Rodzaj(strona);
-  if (!rodzaj || !SprawdzPrzedImportem(*rodzaj)) return;
-  if (const auto plik = WybierzPlikPrzebiegu(this, m_kontekst.rozmowa, *rodzaj, m_kontekst.ustawienia))
-    UruchomPrzebieg(*rodzaj, *plik);
+void Tfrm_main::Przeprowadz(KtoryPrzebieg ktory) {
+  const RodzajPrzebiegu& rodzaj = Rodzaj(ktory);
+  if (!SprawdzPrzedImportem(rodzaj)) return;
+  if (const auto plik = WybierzPlikPrzebiegu(this, m_kontekst.rozmowa, rodzaj, m_kontekst.ustawienia))
+    UruchomPrzebieg(rodzaj, *plik);
 }
 
 void Tfrm_main::ImportujUpuszczony(const QString& plik) {
-  const RodzajPrzebiegu* const rodzaj = Rodzaj(m_ui->PageControl->currentIndex());
-  if (rodzaj && SprawdzPrzedImportem(*rodzaj) &&
-      m_kontekst.rozmowa.CzyTak(this, {Napis(rodzaj->tytul), u"Czy importować plik "_s + plik}))
-    UruchomPrzebieg(*rodzaj, plik);
+  const RodzajPrzebiegu& rodzaj = BiezacyRodzaj();
+  if (SprawdzPrzedImportem(rodzaj) &&
+      m_kontekst.rozmowa.CzyTak(this, {Napis(rodzaj.tytul), u"Czy importować plik "_s + plik}))
+    UruchomPrzebieg(rodzaj, plik);
 }
 
 bool Tfrm_main::SprawdzPrzedImportem(const RodzajPrzebiegu& rodzaj) {
@@ -277,13 +277,12 @@ void Tfrm_main::UruchomPrzebieg(const RodzajPrzebiegu& rodzaj, const QString& pl
   Pokaz();
 }
 
-void Tfrm_main::EdytujStruktureStrony(int strona) {
-  const bool towary = strona == 0;
+void Tfrm_main::EdytujStruktureImportu(KtoryPrzebieg ktory) {
+  const RodzajPrzebiegu& rodzaj = Rodzaj(ktory);
   Ustawienia& u = m_kontekst.ustawienia;
-  if (!EdytujStrukture(this, m_kontekst, towary ? u.strukturaTow : u.strukturaKontr,
-                       towary ? u.plikImportuTow : u.plikImportuKontr))
-    return;
-  towary ? wspolzaleznosci::PoZmianieStrukturyTow(u) : wspolzaleznosci::PoZmianieStrukturyKontr(u);
+  if (!EdytujStrukture(this, m_kontekst, u.*rodzaj.struktura, u.*rodzaj.plik)) return;
+  ktory == KtoryPrzebieg::ImportTowarow ? wspolzaleznosci::PoZmianieStrukturyTow(u)
+                                        : wspolzaleznosci::PoZmianieStrukturyKontr(u);
   Pokaz();
 }
 
@@ -320,8 +319,7 @@ void Tfrm_main::OProgramieClick() {
 }
 
 void Tfrm_main::dragEnterEvent(QDragEnterEvent* zdarzenie) {
-  const RodzajPrzebiegu* const rodzaj = Rodzaj(m_ui->PageControl->currentIndex());
-  if (rodzaj && rodzaj->kierunek == Kierunek::Import && !PrzeciaganyPlik(*zdarzenie->mimeData()).isEmpty())
+  if (BiezacyRodzaj().kierunek == Kierunek::Import && !PrzeciaganyPlik(*zdarzenie->mimeData()).isEmpty())
     zdarzenie->acceptProposedAction();
 }
 

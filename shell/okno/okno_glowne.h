@@ -10,6 +10,7 @@
 #include "shell/okno/start_okna.h"
 
 class TMStatusButton;
+enum class KtoryPrzebieg;
 struct RodzajPrzebiegu;
 namespace Ui {
 class Tfrm_main;
@@ -47,13 +48,13 @@ class Tfrm_main final : public QMainWindow {
   void PokazKomunikaty(const std::vector<Komunikat>& komunikaty);
   void Wyjscie(int strona);
 
-  // The kind of run of the page; null for a page without one.
-  const RodzajPrzebiegu* Rodzaj(int strona) const;
-  void Przeprowadz(int strona);
+  // Of the page that is shown.
+  const RodzajPrzebiegu& BiezacyRodzaj() const;
+  void Przeprowadz(KtoryPrzebieg ktory);
   void ImportujUpuszczony(const QString& plik);
   bool SprawdzPrzedImportem(const RodzajPrzebiegu& rodzaj);
   void UruchomPrzebieg(const RodzajPrzebiegu& rodzaj, const QString& plik);
-  void EdytujStruktureStrony(int strona);
+  void EdytujStruktureImportu(KtoryPrzebieg ktory);
   void ZapisDoBazyClick();
   void EksportDoPlikuZorvikClick();
   void ImportZPlikuZorvikClick();

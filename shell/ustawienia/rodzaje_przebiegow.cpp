@@ -28,6 +28,7 @@ WynikPrzebiegu EksportKontrahentow(const ParametryPrzebiegu& parametry, const U&
   return EksportujKontrahentow(parametry, u.eksportKontr);
 }
 
+// In the order of KtoryPrzebieg.
 constexpr RodzajPrzebiegu kRodzaje[] = {
     {u"import-towarow", u"Import towarów", u"Postęp aktualizacji towarów", Kierunek::Import,
      &U::plikImportuTow, &U::strukturaTow, ImportTowarow},
@@ -41,6 +42,6 @@ constexpr RodzajPrzebiegu kRodzaje[] = {
 
 }  // namespace
 
-std::span<const RodzajPrzebiegu> TabelaRodzajowPrzebiegow() {
-  return kRodzaje;
+const RodzajPrzebiegu& Rodzaj(KtoryPrzebieg ktory) {
+  return kRodzaje[static_cast<std::size_t>(ktory)];
 }

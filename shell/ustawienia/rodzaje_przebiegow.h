@@ -1,6 +1,5 @@
 #pragma once
 
-#include <span>
 #include <string_view>
 
 #include <QString>
@@ -26,4 +25,6 @@ struct RodzajPrzebiegu {
 };
 
 // In the order of the main window's pages.
-std::span<const RodzajPrzebiegu> TabelaRodzajowPrzebiegow();
+enum class KtoryPrzebieg { ImportTowarow, EksportTowarow, ImportKontrahentow, EksportKontrahentow };
+
+const RodzajPrzebiegu& Rodzaj(KtoryPrzebieg ktory);
