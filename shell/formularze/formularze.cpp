@@ -2,9 +2,9 @@
 
 #include "model/kontrahent.h"
 #include "model/towar.h"
+#include "robotnik/przekazanie.h"
 #include "shell/formularze/formularz_kontrahenta.h"
 #include "shell/formularze/formularz_towaru.h"
-#include "shell/przebieg/przekazanie.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 
 #include <ui_okno_postepu.h>
 
+#include "robotnik/stan_przebiegu.h"
 #include "shell/przebieg/okno_pominietych.h"
-#include "shell/przebieg/stan_przebiegu.h"
 
 using namespace Qt::Literals::StringLiterals;
 

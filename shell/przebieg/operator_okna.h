@@ -1,7 +1,7 @@
 #pragma once
 
+#include "robotnik/przekazanie.h"
 #include "run/operator.h"
-#include "shell/przebieg/przekazanie.h"
 
 class Rozmowa;
 class Tfrm_progress;

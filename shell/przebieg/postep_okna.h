@@ -1,7 +1,7 @@
 #pragma once
 
+#include "robotnik/przekazanie.h"
 #include "run/postep.h"
-#include "shell/przebieg/przekazanie.h"
 #include "shell/przebieg/widok_postepu.h"
 
 class Rozmowa;

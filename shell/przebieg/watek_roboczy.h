@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-#include "shell/przebieg/robotnik.h"
+#include "robotnik/robotnik.h"
 
 // The worker of a window: each of its calls reaches the main thread as an event, so windows and questions
 // live on while it works.

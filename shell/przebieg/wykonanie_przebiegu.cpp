@@ -1,11 +1,11 @@
 #include "shell/przebieg/wykonanie_przebiegu.h"
 
 #include "platform/wyjatek.h"
+#include "robotnik/stan_przebiegu.h"
 #include "shell/formularze/formularze.h"
 #include "shell/przebieg/okno_postepu.h"
 #include "shell/przebieg/operator_okna.h"
 #include "shell/przebieg/postep_okna.h"
-#include "shell/przebieg/stan_przebiegu.h"
 #include "shell/przebieg/watek_roboczy.h"
 #include "shell/rozmowa.h"
 
@@ -36,8 +36,8 @@ WynikPrzebiegu WykonajZOknemPostepu(QWidget* rodzic, Rozmowa& rozmowa, const Zad
   okno.setWindowTitle(zadanie.tytul);
   // Goes first: nothing above may go while the worker works.
   WatekRoboczy watek(stan, [&](const std::exception_ptr& wyjatek) {
-    PokazWyjatek(&okno, rozmowa, wyjatek);
     okno.PokazWynik(wynik);
+    PokazWyjatek(&okno, rozmowa, wyjatek);
   });
   watek.Uruchom([&](Przekazanie& doOkna, const std::atomic<bool>& stop) {
     PostepOkna postep(doOkna, okno, rozmowa);

@@ -22,13 +22,14 @@ const std::map<std::string, std::string> kPokoje = {
     {"run", "run exchange model platform"},
     {"goods", "goods run model exchange platform"},
     {"contractors", "contractors run model exchange platform"},
+    {"shell/robotnik", "robotnik"},
     {"shell/ustawienia", "ustawienia goods contractors run model exchange platform"},
-    {"shell", "shell ustawienia goods contractors run model exchange platform"},
+    {"shell", "shell robotnik ustawienia goods contractors run model exchange platform"},
     {"app", "app shell ustawienia database goods contractors run model exchange platform"},
 };
 
 // Folders that hold programs beside the product.
-const std::set<std::string> kInne = {"tests", "bench"};
+const std::set<std::string> kInne = {"tests", "bench", "docs"};
 
 // What is wrong with a line of a file; empty when nothing is.
 std::string Wykroczenie(const std::string& sciezka, const std::string& linia) {

@@ -1,3 +1,4 @@
+#include "robotnik/przekazanie.h"
 #include "shell/formularze/formularze.h"
 
 #include <thread>
@@ -20,7 +21,6 @@
 #include "model/towar.h"
 #include "shell/formularze/formularz_kontrahenta.h"
 #include "shell/formularze/formularz_towaru.h"
-#include "shell/przebieg/przekazanie.h"
 #include "tests/okno/osoba_przy_formularzu.h"
 #include "tests/okno/rozmowa_testowa.h"
 #include "tests/wspolne/baza_testowa.h"

@@ -14,7 +14,8 @@ class Przekazanie {
  public:
   using Czynnosc = std::function<void()>;
 
-  // `obudz` is called on the worker and has to make the main thread call Obsluz soon.
+  // `obudz` is called on the worker and has to make the main thread call Obsluz soon. What it throws leaves
+  // the call it was made for.
   explicit Przekazanie(Czynnosc obudz) : m_obudz(std::move(obudz)) {}
   Przekazanie(const Przekazanie&) = delete;
   Przekazanie& operator=(const Przekazanie&) = delete;

@@ -1,4 +1,4 @@
-#include "shell/przebieg/przekazanie.h"
+#include "robotnik/przekazanie.h"
 
 #include <stdexcept>
 #include <thread>
@@ -38,6 +38,12 @@ TEST(Przekazanie, WyjatekWracaDoRobotnikaRaz) {
     EXPECT_THROW(przekazanie.Wykonaj([] { throw std::runtime_error("x"); }), std::runtime_error);
     EXPECT_NO_THROW(przekazanie.Wykonaj([] {}));
   });
+}
+
+TEST(Przekazanie, NieudaneObudzenieNieZostawiaCzynnosci) {
+  Przekazanie przekazanie([] { throw std::bad_alloc(); });
+  EXPECT_THROW(przekazanie.Wykonaj([] { ADD_FAILURE(); }), std::bad_alloc);
+  przekazanie.Obsluz();
 }
 
 // A message box lets the main thread come back here while the worker still waits.

@@ -1,4 +1,4 @@
-#include "shell/przebieg/robotnik.h"
+#include "robotnik/robotnik.h"
 
 #include <utility>
 

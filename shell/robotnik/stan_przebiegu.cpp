@@ -1,4 +1,4 @@
-#include "shell/przebieg/stan_przebiegu.h"
+#include "robotnik/stan_przebiegu.h"
 
 Stan StanPrzebiegu::Get() const {
   const std::lock_guard zamek(m_sekcja);

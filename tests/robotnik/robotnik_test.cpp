@@ -1,9 +1,9 @@
+#include "robotnik/robotnik.h"
+
 #include <stdexcept>
 #include <thread>
 
 #include <gtest/gtest.h>
-
-#include "shell/przebieg/robotnik.h"
 
 // No event loop and nothing of Qt here: the thread sanitizer sees all of it.
 

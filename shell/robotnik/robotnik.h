@@ -2,8 +2,8 @@
 
 #include <thread>
 
-#include "shell/przebieg/przekazanie.h"
-#include "shell/przebieg/stan_przebiegu.h"
+#include "robotnik/przekazanie.h"
+#include "robotnik/stan_przebiegu.h"
 
 // One run on a thread of its own. Whatever way the work ends, the state is then finished. Plain C++: how the
 // main thread is woken and how an exception is shown come from outside. Used by the main thread; the state

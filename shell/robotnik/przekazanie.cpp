@@ -1,4 +1,4 @@
-#include "shell/przebieg/przekazanie.h"
+#include "robotnik/przekazanie.h"
 
 #include <utility>
 
@@ -9,7 +9,13 @@ void Przekazanie::Wykonaj(const Czynnosc& czynnosc) {
     m_gotowe = false;
   }
   m_zmiana.notify_all();
-  m_obudz();
+  try {
+    m_obudz();
+  } catch (...) {
+    // Nobody may come for it any more, unless somebody has: then it is waited for as usual.
+    const std::lock_guard zamek(m_straz);
+    if (std::exchange(m_czynnosc, nullptr)) throw;
+  }
   std::unique_lock zamek(m_straz);
   m_zmiana.wait(zamek, [this] { return m_gotowe; });
   if (m_wyjatek) std::rethrow_exception(std::exchange(m_wyjatek, nullptr));
