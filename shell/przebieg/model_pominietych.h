@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include <QAbstractTableModel>
 #include <QSortFilterProxyModel>
 
@@ -25,7 +27,8 @@ class ModelPominietych final : public QAbstractTableModel {
   QString m_naglowekKodu;
 };
 
-// Lets the records of one group of reasons through, or all.
+// Lets the records of one group of reasons through, or all. Texts are compared once for a column, beside the
+// windows: there may be a hundred thousand.
 class FiltrPominietych final : public QSortFilterProxyModel {
  public:
   explicit FiltrPominietych(ModelPominietych& model);
@@ -33,10 +36,14 @@ class FiltrPominietych final : public QSortFilterProxyModel {
   // -1: all.
   void UstawGrupe(int grupa);
 
+  void sort(int kolumna, Qt::SortOrder kierunek = Qt::AscendingOrder) override;
+
  protected:
+  bool lessThan(const QModelIndex& lewy, const QModelIndex& prawy) const override;
   bool filterAcceptsRow(int wiersz, const QModelIndex& rodzic) const override;
 
  private:
   const ListaPominietych& m_lista;
+  std::array<std::vector<int>, ModelPominietych::kKolumn> m_miejsca;  // see Miejsca; empty: not asked for yet
   int m_grupa = -1;
 };

@@ -14,6 +14,7 @@
 #include "run/raport_problemow.h"
 #include "shell/dialogi/siatka.h"
 #include "shell/przebieg/model_pominietych.h"
+#include "shell/przebieg/obok.h"
 #include "shell/rozmowa.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -79,7 +80,7 @@ class Tfrm_pominiete final : public QDialog {
 }  // namespace
 
 void PokazPominiete(QWidget* rodzic, Rozmowa& rozmowa, const QString& plik) {
-  auto lista = WczytajPominiete(plik);
+  auto lista = Obok([&] { return WczytajPominiete(plik); });
   if (!lista) return rozmowa.Powiedz(rodzic, {u"UWAGA"_s, u"Nie udało się odczytać pliku "_s + plik});
   Tfrm_pominiete okno(rodzic, rozmowa, plik, std::move(*lista));
   rozmowa.Pokaz(okno);

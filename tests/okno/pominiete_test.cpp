@@ -85,8 +85,10 @@ TEST_F(Pominiete, ListaDajeSieZawezicAPlikOtworzyc) {
     EXPECT_EQ(powod.itemText(0) + powod.itemText(1) + powod.itemText(2),
               "Wszystkie (3)Brak NIP-u (2)Brak nazwy (1)");
     EXPECT_EQ(kody(), "123");
+    okno.findChild<QTableView*>("tabela")->sortByColumn(1, Qt::DescendingOrder);
+    EXPECT_EQ(kody(), "321");
     powod.setCurrentIndex(1);
-    EXPECT_EQ(kody(), "23");
+    EXPECT_EQ(kody(), "32");
     EXPECT_EQ(okno.findChild<QLabel*>("ile")->text(), "Pokazano 2 z 3");
     okno.findChild<QPushButton*>("otworz")->click();
     return 0;
