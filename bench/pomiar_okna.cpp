@@ -1,0 +1,164 @@
+#include "bench/pomiar_okna.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <stdexcept>
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "bench/pomiar_importu.h"
+#include "bench/porownanie.h"
+#include "bench/proces.h"
+
+namespace {
+
+constexpr int kRundOkna = 5;
+constexpr double kGranica = 1.15;  // of the command line
+constexpr double kBlokadaMs = 100;
+
+constexpr const char* kBazaOkna = "okno.db";
+constexpr const char* kBazaPolecenia = "import.db";
+
+// What an import finds, and by what the two programs tell that they did it.
+struct Przypadek {
+  const char* nazwa;
+  bool pustaBaza;
+  int razy;  // so many times as many records
+  const char* konfiguracja;
+  const char* licznik;  // of the command line's result
+  const char* linia;    // of the progress window, before the number
+};
+// A record that is skipped takes so little that with fewer of them one would measure how the two programs
+// start and that the progress window looks for the end every 200 ms.
+constexpr Przypadek kPrzypadki[] = {
+    {"dodanie", true, 1, "okno.cfg", "dodanych", "Ilość dodanych towarów "},
+    {"identyczne", false, 1, "okno.cfg", "bezZmian", "Ilość pominiętych towarów "},
+    {"pominięcie każdego", true, 10, "okno-pomija.cfg", "pominietych", "Ilość pominiętych towarów "},
+};
+
+double Ms(const QJsonObject& wynik, QStringView czego) {
+  return wynik.value(czego).toObject().value(u"ms").toDouble();
+}
+
+void DodajBlokade(const char* nazwa, double ms, Tabela& tabela) {
+  tabela.Dodaj(nazwa, Liczba("%.0f ms", ms), "", ms / kBlokadaMs, 1);
+}
+
+// One kind of import by both programs.
+class Seria {
+ public:
+  Seria(const Warsztat& warsztat, const Przypadek& przypadek, int ile)
+      : m_warsztat(warsztat),
+        m_przypadek(przypadek),
+        m_ile(ile),
+        m_plik("towary-" + std::to_string(ile) + ".txt") {
+    ImportTowarow().zapiszPlik(warsztat.Sciezka(m_plik), ile, false);
+  }
+
+  std::string Nazwa() const {
+    return std::string("okno: ") + m_przypadek.nazwa + ", " + std::to_string(m_ile) +
+           " towarów (wzorzec: zorvik-cli)";
+  }
+
+  // The two take turns in going first.
+  void Importuj(bool oknoPierwsze) {
+    const bool pierwsza = czasy.zorvik.empty();
+    if (oknoPierwsze) Okno();
+    Polecenie();
+    if (!oknoPierwsze) Okno();
+    if (pierwsza) Porownaj();
+  }
+
+  // After an import that skips: looks at the list of the skipped records, not timed.
+  void ObejrzyListe(Tabela& tabela) const {
+    const QJsonObject wynik = UruchomOkno({"lista"}).wynik;
+    DodajBlokade("blokada przy otwarciu listy pominiętych", Ms(wynik, u"lista"), tabela);
+    DodajBlokade("blokada przy jej sortowaniu", Ms(wynik, u"sortowanie"), tabela);
+  }
+
+  Para czasy;  // the window and, as the plain program, the command line
+  std::vector<double> polecenia, blokady;
+
+ private:
+  std::string Pominiete(const char* folder) const { return m_warsztat.Sciezka(folder) + "/POMINIETE.TXT"; }
+
+  void Polecenie() {
+    if (m_przypadek.pustaBaza) m_warsztat.NowaBaza(kBazaPolecenia);
+    czasy.wzorzec.push_back(m_warsztat
+                                .Zorvik({"import-towarow", m_plik, kBazaPolecenia, m_przypadek.konfiguracja,
+                                         '.', m_przypadek.licznik, m_ile})
+                                .sekund);
+  }
+
+  struct PrzebiegOkna {
+    double sekund;
+    QJsonObject wynik;
+  };
+  PrzebiegOkna UruchomOkno(const std::vector<std::string>& opcje = {}) const {
+    if (m_przypadek.pustaBaza) m_warsztat.NowaBaza(kBazaOkna);
+    const std::string folder = m_warsztat.Sciezka("okno");
+    std::vector<std::string> polecenie = {m_warsztat.Program("import-w-oknie"), m_warsztat.Sciezka(m_plik),
+                                          m_warsztat.Sciezka(kBazaOkna),
+                                          m_warsztat.Sciezka(m_przypadek.konfiguracja), folder};
+    polecenie.insert(polecenie.end(), opcje.begin(), opcje.end());
+    const Przebieg przebieg =
+        Uruchom(polecenie, {"QT_QPA_PLATFORM=offscreen", "LC_ALL=C.UTF-8", "XDG_CONFIG_HOME=" + folder});
+    const auto wynik = QJsonDocument::fromJson(QByteArray::fromStdString(przebieg.wyjscie)).object();
+    const QString linia = QString::fromUtf8(m_przypadek.linia) + QString::number(m_ile);
+    if (!wynik.value(u"linie").toArray().contains(linia))
+      throw std::runtime_error("Okno nie doszło do: " + linia.toStdString() + '\n' + przebieg.wyjscie);
+    return {przebieg.sekund, wynik};
+  }
+
+  void Okno() {
+    const auto [sekund, wynik] = UruchomOkno();
+    czasy.zorvik.push_back(sekund);
+    polecenia.push_back(wynik.value(u"polecenieS").toDouble());
+    blokady.push_back(Ms(wynik, u"przebieg"));
+  }
+
+  void Porownaj() const {
+    const std::string roznica =
+        PierwszaRoznica(m_warsztat.Sciezka(kBazaOkna), m_warsztat.Sciezka(kBazaPolecenia));
+    if (!roznica.empty())
+      throw std::runtime_error(std::string(m_przypadek.nazwa) + ": okno i polecenie różnią się w tabeli " +
+                               roznica);
+    if (!TeSameBajty(Pominiete("okno"), Pominiete(".")))
+      throw std::runtime_error(std::string(m_przypadek.nazwa) + ": pliki pominiętych różnią się");
+  }
+
+  const Warsztat& m_warsztat;
+  const Przypadek& m_przypadek;
+  int m_ile;
+  std::string m_plik;
+};
+
+double Najwiecej(const std::vector<double>& liczby) {
+  return *std::max_element(liczby.begin(), liczby.end());
+}
+
+}  // namespace
+
+void ZmierzOkno(const Warsztat& warsztat, int ile, Tabela& tabela) {
+  Ustawienia ustawienia = ImportTowarow().ustawienia;
+  warsztat.ZapiszKonfiguracje("okno.cfg", ustawienia);
+  // No code of the file is as long as this.
+  ustawienia.insert(ustawienia.end(), {{"ParMinDlKodu", "14"}, {"ParMaxDlKodu", "20"}});
+  warsztat.ZapiszKonfiguracje("okno-pomija.cfg", ustawienia);
+  std::filesystem::create_directories(warsztat.Sciezka("okno"));
+
+  std::vector<Seria> serie;
+  for (const Przypadek& przypadek : kPrzypadki) serie.emplace_back(warsztat, przypadek, ile * przypadek.razy);
+  for (int runda = 0; runda < kRundOkna; ++runda)
+    for (Seria& seria : serie) seria.Importuj(runda % 2 == 0);
+
+  for (const Seria& seria : serie) {
+    tabela.Dodaj(seria.Nazwa(), seria.czasy, kGranica);
+    tabela.Informacja("(od polecenia do końca przebiegu)", Sekundy(Mediana(seria.polecenia)));
+    DodajBlokade("najdłuższa blokada okna (część 100 ms)", Najwiecej(seria.blokady), tabela);
+  }
+  Seria(warsztat, kPrzypadki[2], ile).ObejrzyListe(tabela);
+}
