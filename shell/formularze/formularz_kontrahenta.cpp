@@ -60,7 +60,8 @@ constexpr OpisPolaFormularza kPola[] = {
     {kKarta, K::PoziomRabatu, R::Liczba, P::PoziomRabatu},
 };
 
-constexpr PoleBledu kBledy[] = {{2839, K::Nazwa}, {2860, K::NrSklepu}};
+// 2006 where every field is in its range: the next free number of a shop is not.
+constexpr PoleBledu kBledy[] = {{2839, K::Nazwa}, {2860, K::NrSklepu}, {2006, K::NrSklepu}};
 
 }  // namespace
 

@@ -102,18 +102,24 @@ void TFmVLTFormularzRekordu::PokazOdmowe(const OdmowaZapisu& odmowa) {
   naglowek.show();
   if (PokazOdmoweSzczegolu(odmowa.blad)) return;
   if (odmowa.blad.MacCode() == kPrzekroczonyZakres && !Sprawdz()) return;
-  if (PoleFormularza* const pole = PoleOdmowy(odmowa.blad.MacCode())) {
-    pole->PokazBlad(odmowa.blad.Tresc());
-    PrzejdzDo(pole->Kontrolka());
-  } else {
-    naglowek.setText(naglowek.text() + u'\n' + TrescZPrzyczyna(odmowa.blad));
-  }
+  const auto pola = PolaOdmowy(odmowa.blad.MacCode());
+  for (PoleFormularza* const pole : pola) pole->PokazBlad(odmowa.blad.Tresc());
+  const QString tresc = TrescZPrzyczyna(odmowa.blad);
+  if (pola.empty())
+    naglowek.setText(tresc.startsWith(naglowek.text()) ? tresc : naglowek.text() + u'\n' + tresc);
+  else
+    PrzejdzDo(pola.front()->Kontrolka());
 }
 
-PoleFormularza* TFmVLTFormularzRekordu::PoleOdmowy(int kod) {
-  const auto blad = std::find_if(m_opis.bledy.begin(), m_opis.bledy.end(),
-                                 [kod](const PoleBledu& pole) { return pole.kod == kod; });
-  return blad == m_opis.bledy.end() ? nullptr : &Pole(blad->kolumna);
+std::vector<PoleFormularza*> TFmVLTFormularzRekordu::PolaOdmowy(int kod) {
+  std::vector<PoleFormularza*> pola;
+  for (const PoleBledu& pole : m_opis.bledy)
+    if (pole.kod == kod) pola.push_back(&Pole(pole.kolumna));
+  if (pola.size() > 1)
+    std::erase_if(pola, [this](const PoleFormularza* pole) {
+      return !m_rekord.Query.Field(pole->Kolumna()).Zmienione();
+    });
+  return pola;
 }
 
 PoleFormularza& TFmVLTFormularzRekordu::Pole(std::size_t kolumna) {

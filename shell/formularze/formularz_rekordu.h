@@ -16,7 +16,8 @@ class QTabWidget;
 class Rozmowa;
 class TDmVLTElement;
 
-// Which field a refusal of the record concerns.
+// Which field a refusal of the record concerns. A refusal of several fields is one of a change: it concerns
+// those that were changed.
 struct PoleBledu {
   int kod;  // of EVLTWDError
   std::size_t kolumna;
@@ -72,7 +73,7 @@ class TFmVLTFormularzRekordu : public QDialog, public TFmVLTFormularzElementu {
   bool Sprawdz();
   void Zatwierdz();
   void PokazOdmowe(const OdmowaZapisu& odmowa);
-  PoleFormularza* PoleOdmowy(int kod);
+  std::vector<PoleFormularza*> PolaOdmowy(int kod);
 
   Rozmowa& m_rozmowa;
   TDmVLTElement& m_rekord;

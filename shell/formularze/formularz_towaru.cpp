@@ -1,5 +1,6 @@
 #include "shell/formularze/formularz_towaru.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -8,7 +9,6 @@
 #include "model/bledy.h"
 #include "model/nazwy_skrocone.h"
 #include "model/towar.h"
-#include "shell/formularze/postac_pola.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,6 +22,8 @@ constexpr char kTowar[] = "gbTowar";
 constexpr char kCeny[] = "gbCeny";
 constexpr char kOpisy[] = "gbOpisy";
 constexpr char kPozostale[] = "gbPozostale";
+constexpr char kKategoria[] = "gbKategoria";
+constexpr char kProducent[] = "gbProducent";
 constexpr int kSpozaKatalogu = -1;
 
 constexpr OpisPolaFormularza kPola[] = {
@@ -53,16 +55,22 @@ constexpr OpisPolaFormularza kPola[] = {
     {kPozostale, K::PrefPLU, R::Liczba, P::PrefPLU},
     {kPozostale, K::OpakId, R::Opakowanie, kSpozaKatalogu, u"Opakowanie"},
     {kPozostale, K::CKU, R::Tekst, kSpozaKatalogu, u"Kod centralny (CKU)"},
+    {kKategoria, K::KatId, R::Kategoria, kSpozaKatalogu, u"Kategoria"},
+    {kProducent, K::Producent, R::Kontrahent, P::NipProducenta},
 };
+
+// What a register knows the good by: these fields and the additional codes.
+constexpr int kNaKasie = 2820;
 
 constexpr PoleBledu kBledy[] = {
-    {2813, K::AsId},  {2814, K::JMId},      {2815, K::Stawka}, {2816, K::Kod},   {2818, K::OpakId},
-    {2819, K::Skrot}, {2821, K::TypTowaru}, {2822, K::Kod},    {2823, K::Skrot}, {2840, K::Nazwa},
-    {2857, K::CKU},   {2894, K::Kod},       {2896, K::Kod},    {2897, K::Kod},
-};
+    {2813, K::AsId},    {2814, K::JMId},       {2815, K::Stawka},    {2816, K::Kod},
+    {2818, K::OpakId},  {2819, K::Skrot},      {2821, K::TypTowaru}, {2822, K::Kod},
+    {2823, K::Skrot},   {2826, K::Kod},        {2840, K::Nazwa},     {2857, K::CKU},
+    {2894, K::Kod},     {2896, K::Kod},        {2897, K::Kod},       {kNaKasie, K::TypTowaru},
+    {kNaKasie, K::Kod}, {kNaKasie, K::Stawka}, {kNaKasie, K::Skrot}};
 
 // Refusals of additional codes: the detail names the code. Refusals of short names may concern any code.
-constexpr int kBledyKodow[] = {2827, 2828, 2830, 2895};
+constexpr int kBledyKodow[] = {2826, 2827, 2828, 2830, 2895};
 constexpr int kBledySkrotow[] = {2819, 2823, 2824};
 
 // The name has no words, or every name made of it is taken.
@@ -84,13 +92,52 @@ TFmVLTFormularzTowaru::TFmVLTFormularzTowaru(QWidget* rodzic, Rozmowa& rozmowa, 
       m_ui(std::make_unique<Ui::FormularzTowaru>()) {
   m_ui->setupUi(this);
   Zbuduj(Opis());
-  m_ui->tabelaKodow->Pokaz(towar.Kody().Wszystkie());
-  PolaczPrzyciski();
+  PokazSzczegoly();
+  PolaczSkroty();
+  PolaczTabele(*m_ui->tabelaKodow, *m_ui->bladKodow, *m_ui->DodajKod, *m_ui->UsunKod);
+  PolaczTabele(*m_ui->tabelaDostawcow, *m_ui->bladDostawcow, *m_ui->DodajDostawce, *m_ui->UsunDostawce);
+  setTabOrder(&Pole(K::Producent).Kontrolka(), m_ui->tabelaDostawcow);
+  setTabOrder(m_ui->tabelaDostawcow, m_ui->DodajDostawce);
+  setTabOrder(m_ui->DodajDostawce, m_ui->UsunDostawce);
 }
 
 TFmVLTFormularzTowaru::~TFmVLTFormularzTowaru() = default;
 
-void TFmVLTFormularzTowaru::PolaczPrzyciski() {
+void TFmVLTFormularzTowaru::PokazSzczegoly() {
+  KontekstSesji& sesja = m_towar.Sesja();
+  m_ui->tabelaKodow->Pokaz(m_towar.Kody().Wszystkie());
+  m_ui->tabelaDostawcow->Pokaz(sesja.baza, m_towar.Dostawcy());
+  // Not the record's own: it would keep what a new good has before the run writes its stock.
+  StanyTowaru stany;
+  stany.Wczytaj(sesja.baza, m_towar.Id());
+  m_ui->tabelaStanow->Pokaz(stany);
+
+  auto& kategoria = KontrolkaPola<QComboBox>(K::KatId);
+  const auto wybrana = [&kategoria] {
+    const QVariant katId = kategoria.currentData();
+    return katId.isValid() ? katId.toInt() : -1;
+  };
+  const auto pokaz = [this, wybrana] {
+    m_ui->parametry->PokazKategorie(wybrana());
+    m_ui->gbParametry->setVisible(!m_ui->parametry->Puste());
+  };
+  m_ui->parametry->Wczytaj(sesja, wybrana(), m_towar.Wartosci(), kategoria);
+  pokaz();
+  connect(&kategoria, &QComboBox::currentIndexChanged, this, pokaz);
+}
+
+void TFmVLTFormularzTowaru::PolaczTabele(TabelaSzczegolow& tabela, EtykietaBledu& blad, QPushButton& dodaj,
+                                         QPushButton& usun) {
+  const auto sprawdz = [&tabela, &blad] { tabela.Sprawdz(blad); };
+  connect(&tabela, &QTableWidget::itemChanged, this, sprawdz);
+  connect(&dodaj, &QPushButton::clicked, &tabela, [&tabela] { tabela.DodajWiersz(); });
+  connect(&usun, &QPushButton::clicked, this, [&tabela, sprawdz] {
+    tabela.UsunBiezacy();
+    sprawdz();
+  });
+}
+
+void TFmVLTFormularzTowaru::PolaczSkroty() {
   auto* const zaproponuj = new QPushButton(u"&Zaproponuj"_s);
   zaproponuj->setObjectName(u"ZaproponujSkrot"_s);
   zaproponuj->setAccessibleName(u"Zaproponuj skrót"_s);
@@ -105,16 +152,9 @@ void TFmVLTFormularzTowaru::PolaczPrzyciski() {
     if (nazwa.isModified() && brakSkrotu) ZaproponujSkrot(-1);
   });
 
-  TabelaKodow& tabela = *m_ui->tabelaKodow;
-  connect(m_ui->DodajKod, &QPushButton::clicked, &tabela, [&tabela] { tabela.DodajWiersz(); });
-  connect(m_ui->UsunKod, &QPushButton::clicked, this, [this, &tabela] {
-    tabela.UsunBiezacy();
-    SprawdzNumeryKodow();
+  connect(m_ui->ZaproponujSkrotKodu, &QPushButton::clicked, this, [this] {
+    if (const int wiersz = m_ui->tabelaKodow->currentRow(); wiersz >= 0) ZaproponujSkrot(wiersz);
   });
-  connect(m_ui->ZaproponujSkrotKodu, &QPushButton::clicked, this, [this, &tabela] {
-    if (tabela.currentRow() >= 0) ZaproponujSkrot(tabela.currentRow());
-  });
-  connect(&tabela, &QTableWidget::itemChanged, this, [this] { SprawdzNumeryKodow(); });
 }
 
 void TFmVLTFormularzTowaru::ZaproponujSkrot(int wiersz) {
@@ -138,9 +178,11 @@ void TFmVLTFormularzTowaru::ZaproponujSkrot(int wiersz) {
 
 bool TFmVLTFormularzTowaru::PokazOdmoweSzczegolu(const EVLTWDError& blad) {
   const int wiersz = WierszOdmowy(blad);
-  if (wiersz < 0) return false;
-  m_ui->tabelaKodow->setCurrentCell(
-      wiersz, Jednym(kBledySkrotow, blad.MacCode()) ? TabelaKodow::Skrot : TabelaKodow::Kod);
+  const bool kodyNaKasie = blad.MacCode() == kNaKasie && !m_towar.Kody().TakieSameJakWBazie();
+  if (wiersz < 0 && !kodyNaKasie) return false;
+  if (wiersz >= 0)
+    m_ui->tabelaKodow->setCurrentCell(
+        wiersz, Jednym(kBledySkrotow, blad.MacCode()) ? TabelaKodow::Skrot : TabelaKodow::Kod);
   m_ui->bladKodow->Pokaz(*m_ui->tabelaKodow, blad.Tresc());
   PrzejdzDo(*m_ui->tabelaKodow);
   return true;
@@ -162,25 +204,23 @@ int TFmVLTFormularzTowaru::WierszOdmowy(const EVLTWDError& blad) const {
   return -1;
 }
 
-// The row of the first number that is none, which is told below the table; -1 when all are good.
-int TFmVLTFormularzTowaru::SprawdzNumeryKodow() {
-  const TabelaKodow& tabela = *m_ui->tabelaKodow;
-  const int zly = tabela.WierszZlegoNumeru();
-  m_ui->bladKodow->Pokaz(*m_ui->tabelaKodow,
-                         zly < 0 ? QString()
-                                 : u"Wiersz %1: "_s.arg(zly + 1) +
-                                       WadaTekstu(RodzajPola::Liczba, tabela.Tekst(zly, TabelaKodow::PLU)));
-  return zly;
-}
-
+// Every fault is shown; the first one leads.
 QWidget* TFmVLTFormularzTowaru::SprawdzSzczegoly() {
-  const int zly = SprawdzNumeryKodow();
-  if (zly < 0) return nullptr;
-  m_ui->tabelaKodow->setCurrentCell(zly, TabelaKodow::PLU);
-  return m_ui->tabelaKodow;
+  QWidget* pierwszy = nullptr;
+  const auto sprawdz = [&pierwszy](TabelaSzczegolow& tabela, EtykietaBledu& blad) {
+    if (tabela.Sprawdz(blad)) return;
+    tabela.PrzejdzDoWady();
+    if (!pierwszy) pierwszy = &tabela;
+  };
+  sprawdz(*m_ui->tabelaKodow, *m_ui->bladKodow);
+  if (QWidget* const parametr = m_ui->parametry->Sprawdz(); !pierwszy) pierwszy = parametr;
+  sprawdz(*m_ui->tabelaDostawcow, *m_ui->bladDostawcow);
+  return pierwszy;
 }
 
 void TFmVLTFormularzTowaru::WpiszSzczegoly() {
   if (auto kody = m_ui->tabelaKodow->Kody(); kody != m_towar.Kody().Wszystkie())
     m_towar.Kody().Ustaw(std::move(kody));
+  m_ui->parametry->Wpisz(m_towar.Wartosci());
+  m_ui->tabelaDostawcow->Wpisz(m_towar.Dostawcy());
 }

@@ -2,12 +2,16 @@
 
 #include "shell/formularze/formularz_rekordu.h"
 
+class EtykietaBledu;
+class QPushButton;
+class TabelaSzczegolow;
 class TDmVLTTowar;
 namespace Ui {
 class FormularzTowaru;
 }
 
-// The form of a good: its columns that a file can carry, central code, packaging and additional codes.
+// The form of a good: its columns that a file can carry, central code and packaging; additional codes, values
+// of the category's parameters, suppliers; stock to be seen.
 class TFmVLTFormularzTowaru final : public TFmVLTFormularzRekordu {
  public:
   // The table of its fields and the fields of its refusals.
@@ -22,10 +26,11 @@ class TFmVLTFormularzTowaru final : public TFmVLTFormularzRekordu {
   void WpiszSzczegoly() override;
 
  private:
-  void PolaczPrzyciski();
+  void PokazSzczegoly();
+  void PolaczSkroty();
+  void PolaczTabele(TabelaSzczegolow& tabela, EtykietaBledu& blad, QPushButton& dodaj, QPushButton& usun);
   // For the main code (-1) or the additional code of a row; the form's texts count, not the record's.
   void ZaproponujSkrot(int wiersz);
-  int SprawdzNumeryKodow();
   int WierszOdmowy(const EVLTWDError& blad) const;
 
   TDmVLTTowar& m_towar;

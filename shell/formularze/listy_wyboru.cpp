@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "model/kategorie.h"
 #include "model/kontekst.h"
 #include "model/magazyny.h"
 #include "model/slowniki.h"
@@ -51,12 +52,16 @@ Pozycje ZBrakiem(Pozycje pozycje) {
   return pozycje;
 }
 
-Pozycje ZRodzaju(RodzajPola rodzaj, KontekstSesji& sesja) {
+}  // namespace
+
+std::vector<PozycjaListy> PozycjeListy(RodzajPola rodzaj, KontekstSesji& sesja) {
   switch (rodzaj) {
     case RodzajPola::Asortyment:
       return ZeSlownika<TDmVLTListaAsortymentow>(sesja);
     case RodzajPola::Jednostka:
       return ZeSlownika<TDmVLTListaJednostek>(sesja);
+    case RodzajPola::Kategoria:
+      return ZBrakiem(ZeSlownika<TDmVLTListaKategorii>(sesja));
     case RodzajPola::Magazyn:
       return ZBrakiem(ZeSlownika<TDmVLTListaMagazynow>(sesja));
     case RodzajPola::Opakowanie:
@@ -74,14 +79,10 @@ Pozycje ZRodzaju(RodzajPola rodzaj, KontekstSesji& sesja) {
   }
 }
 
-}  // namespace
-
-std::vector<PozycjaListy> PozycjeListy(RodzajPola rodzaj, KontekstSesji& sesja, std::optional<int> biezaca) {
-  Pozycje pozycje = ZRodzaju(rodzaj, sesja);
+void DopiszBiezaca(std::vector<PozycjaListy>& pozycje, RodzajPola rodzaj, std::optional<int> biezaca) {
   const bool jest = std::any_of(pozycje.begin(), pozycje.end(),
                                 [&](const PozycjaListy& pozycja) { return pozycja.wartosc == biezaca; });
   if (biezaca && !jest)
     pozycje.push_back({biezaca, rodzaj == RodzajPola::StawkaVat ? StawkaNaTekst(*biezaca, true)
                                                                 : u'[' + QString::number(*biezaca) + u']'});
-  return pozycje;
 }

@@ -14,6 +14,8 @@ struct PozycjaListy {
   QString nazwa;
 };
 
-// What may be chosen for a list column, the dictionaries read from the database. `biezaca`, what the record
-// has, is among them even when its dictionary lost it. Throws EBladBazy.
-std::vector<PozycjaListy> PozycjeListy(RodzajPola rodzaj, KontekstSesji& sesja, std::optional<int> biezaca);
+// What may be chosen for a list column, the dictionaries read from the database. Throws EBladBazy.
+std::vector<PozycjaListy> PozycjeListy(RodzajPola rodzaj, KontekstSesji& sesja);
+
+// What the record has is among the choices even when its dictionary lost it.
+void DopiszBiezaca(std::vector<PozycjaListy>& pozycje, RodzajPola rodzaj, std::optional<int> biezaca);

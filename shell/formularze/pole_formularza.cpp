@@ -5,9 +5,11 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include "model/kontekst.h"
 #include "platform/baza/zapytanie.h"
 #include "shell/formularze/etykieta_bledu.h"
 #include "shell/formularze/listy_wyboru.h"
+#include "shell/formularze/pole_kontrahenta.h"
 #include "shell/formularze/postac_pola.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -43,7 +45,7 @@ class PoleTekstowe final : public PoleFormularza {
   }
 
  protected:
-  QString Wada() const override { return WadaTekstu(m_rodzaj, m_edycja.text()); }
+  QString Wada() override { return WadaTekstu(m_rodzaj, m_edycja.text()); }
 
  private:
   RodzajPola m_rodzaj;
@@ -72,10 +74,11 @@ class PoleFlagi final : public PoleFormularza {
 class PoleListy final : public PoleFormularza {
  public:
   PoleListy(const OpisPolaFormularza& opis, const QString& podpis, const TMField& kolumna,
-            KontekstSesji& sesja)
+            std::vector<PozycjaListy> pozycje)
       : PoleFormularza(opis, podpis, kolumna, new QComboBox), m_lista(static_cast<QComboBox&>(Kontrolka())) {
     const auto biezaca = Biezaca(opis.rodzaj, kolumna);
-    for (const PozycjaListy& pozycja : PozycjeListy(opis.rodzaj, sesja, biezaca))
+    DopiszBiezaca(pozycje, opis.rodzaj, biezaca);
+    for (const PozycjaListy& pozycja : pozycje)
       m_lista.addItem(pozycja.nazwa, pozycja.wartosc ? QVariant(*pozycja.wartosc) : QVariant());
     m_lista.setPlaceholderText(u"(nie wybrano)"_s);
     m_lista.setCurrentIndex(m_lista.findData(biezaca ? QVariant(*biezaca) : QVariant()));
@@ -130,8 +133,17 @@ PoleFormularza::PoleFormularza(const OpisPolaFormularza& opis, const QString& po
 std::unique_ptr<PoleFormularza> PoleFormularza::Utworz(const OpisPolaFormularza& opis, const QString& podpis,
                                                        const TMField& kolumna, KontekstSesji& sesja) {
   if (opis.rodzaj == RodzajPola::Flaga) return std::make_unique<PoleFlagi>(opis, podpis, kolumna);
-  if (opis.rodzaj > RodzajPola::Flaga) return std::make_unique<PoleListy>(opis, podpis, kolumna, sesja);
+  if (opis.rodzaj == RodzajPola::Kontrahent)
+    return std::make_unique<PoleKontrahenta>(opis, podpis, kolumna, sesja.baza);
+  if (opis.rodzaj > RodzajPola::Flaga)
+    return UtworzListe(opis, podpis, kolumna, PozycjeListy(opis.rodzaj, sesja));
   return std::make_unique<PoleTekstowe>(opis, podpis, kolumna);
+}
+
+std::unique_ptr<PoleFormularza> PoleFormularza::UtworzListe(const OpisPolaFormularza& opis,
+                                                            const QString& podpis, const TMField& kolumna,
+                                                            std::vector<PozycjaListy> pozycje) {
+  return std::make_unique<PoleListy>(opis, podpis, kolumna, std::move(pozycje));
 }
 
 void PoleFormularza::Dolacz(QWidget& obok) {

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string_view>
+#include <vector>
 
 #include <QWidget>
 
@@ -10,22 +11,27 @@ class QHBoxLayout;
 class QLabel;
 class TMField;
 struct KontekstSesji;
+struct PozycjaListy;
 
 // What a column holds; decides its control. Below Lista: chosen from a list.
 enum class RodzajPola {
   Tekst,
   Kwota,
-  Cena,     // shown with two decimals at least
-  Procent,  // a fraction in the database
+  KwotaLubBrak,  // empty: null
+  Cena,          // shown with two decimals at least
+  Procent,       // a fraction in the database
   Liczba,
   LiczbaLubBrak,  // empty: null
   Data,           // dd.mm.yyyy; empty: null
+  Kontrahent,     // its tax number, the name beside it
   Flaga,
   // Lists
   TypTowaru,
   StawkaVat,
   Asortyment,
   Jednostka,
+  Kategoria,
+  Parametr,  // of a category; the choices are given
   Opakowanie,
   Magazyn,
   Kontakty
@@ -46,6 +52,10 @@ class PoleFormularza : public QWidget {
   // Throws EBladBazy when a dictionary cannot be read.
   static std::unique_ptr<PoleFormularza> Utworz(const OpisPolaFormularza& opis, const QString& podpis,
                                                 const TMField& kolumna, KontekstSesji& sesja);
+  // A list whose choices are known.
+  static std::unique_ptr<PoleFormularza> UtworzListe(const OpisPolaFormularza& opis, const QString& podpis,
+                                                     const TMField& kolumna,
+                                                     std::vector<PozycjaListy> pozycje);
 
   std::size_t Kolumna() const { return m_kolumna; }
   QWidget& Kontrolka() { return *m_kontrolka; }
@@ -61,7 +71,7 @@ class PoleFormularza : public QWidget {
  protected:
   PoleFormularza(const OpisPolaFormularza& opis, const QString& podpis, const TMField& kolumna,
                  QWidget* kontrolka);
-  virtual QString Wada() const { return {}; }
+  virtual QString Wada() { return {}; }
 
  private:
   std::size_t m_kolumna;

@@ -25,17 +25,6 @@ QString OpisBledu(int kod) {
   return katalog_bledow::Szukaj(katalog_bledow::Katalog::Dane, kod, {}).opis;
 }
 
-QString PokazLiczbe(double liczba, int najmniejMiejsc) {
-  QString tekst = QString::number(liczba, 'f', QLocale::FloatingPointShortest);
-  const qsizetype kropka = tekst.indexOf(u'.');
-  const qsizetype miejsc = kropka < 0 ? 0 : tekst.size() - kropka - 1;
-  if (miejsc < najmniejMiejsc) {
-    if (kropka < 0) tekst += u'.';
-    tekst += QString(najmniejMiejsc - miejsc, u'0');
-  }
-  return tekst.replace(u'.', QLatin1Char(liczby::SeparatorSystemu()));
-}
-
 // People type either mark.
 std::optional<double> CzytajLiczbe(const QString& tekst) {
   const QString liczba = tekst.trimmed().replace(u',', u'.');
@@ -69,8 +58,9 @@ QString Liczba(const QString& tekst, TMField* kolumna) {
   return {};
 }
 
-QString LiczbaLubBrak(const QString& tekst, TMField* kolumna) {
-  if (!tekst.trimmed().isEmpty()) return Liczba(tekst, kolumna);
+template <QString Jak(const QString&, TMField*)>
+QString LubBrak(const QString& tekst, TMField* kolumna) {
+  if (!tekst.trimmed().isEmpty()) return Jak(tekst, kolumna);
   if (kolumna) kolumna->Clear();
   return {};
 }
@@ -92,12 +82,14 @@ auto Znaczenie(RodzajPola rodzaj) -> QString (*)(const QString&, TMField*) {
     case RodzajPola::Kwota:
     case RodzajPola::Cena:
       return Kwota;
+    case RodzajPola::KwotaLubBrak:
+      return LubBrak<Kwota>;
     case RodzajPola::Procent:
       return Procent;
     case RodzajPola::Liczba:
       return Liczba;
     case RodzajPola::LiczbaLubBrak:
-      return LiczbaLubBrak;
+      return LubBrak<Liczba>;
     case RodzajPola::Data:
       return Data;
     default:
@@ -107,15 +99,28 @@ auto Znaczenie(RodzajPola rodzaj) -> QString (*)(const QString&, TMField*) {
 
 }  // namespace
 
+QString PokazLiczbe(double liczba, int najmniejMiejsc) {
+  QString tekst = QString::number(liczba, 'f', QLocale::FloatingPointShortest);
+  const qsizetype kropka = tekst.indexOf(u'.');
+  const qsizetype miejsc = kropka < 0 ? 0 : tekst.size() - kropka - 1;
+  if (miejsc < najmniejMiejsc) {
+    if (kropka < 0) tekst += u'.';
+    tekst += QString(najmniejMiejsc - miejsc, u'0');
+  }
+  return tekst.replace(u'.', QLatin1Char(liczby::SeparatorSystemu()));
+}
+
 QString PokazKolumne(RodzajPola rodzaj, const TMField& kolumna) {
   switch (rodzaj) {
     case RodzajPola::Kwota:
-      return PokazLiczbe(kolumna.AsFloat(), 0);
+      return PokazLiczbe(kolumna.AsFloat());
+    case RodzajPola::KwotaLubBrak:
+      return kolumna.IsNull() ? QString() : PokazLiczbe(kolumna.AsFloat());
     case RodzajPola::Cena:
       return PokazLiczbe(kolumna.AsFloat(), kMiejscCeny);
     case RodzajPola::Procent:
-      return PokazLiczbe(
-          std::round(kolumna.AsFloat() * kProcentow * kDokladnoscProcentu) / kDokladnoscProcentu, 0);
+      return PokazLiczbe(std::round(kolumna.AsFloat() * kProcentow * kDokladnoscProcentu) /
+                         kDokladnoscProcentu);
     case RodzajPola::Liczba:
       return QString::number(kolumna.AsInteger());
     case RodzajPola::LiczbaLubBrak:

@@ -1,24 +1,16 @@
 #include "shell/formularze/tabela_kodow.h"
 
-#include <QHeaderView>
 #include <QSignalBlocker>
 
 #include "platform/liczby.h"
-#include "shell/dialogi/siatka.h"
 #include "shell/formularze/pole_formularza.h"
 #include "shell/formularze/postac_pola.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-TabelaKodow::TabelaKodow(QWidget* rodzic) : QTableWidget(rodzic) {
-  setColumnCount(PLU + 1);
-  setHorizontalHeaderLabels(
-      {u"Kod dodatkowy"_s, u"Skrót (nazwa na kasach)"_s, u"Preferowany nr. na kasie"_s});
-  horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-  setSelectionMode(SingleSelection);
-  setEditTriggers(DoubleClicked | SelectedClicked | AnyKeyPressed);
-  UlozSiatke(*this);
-}
+TabelaKodow::TabelaKodow(QWidget* rodzic)
+    : TabelaSzczegolow(
+          rodzic, {u"Kod dodatkowy"_s, u"Skrót (nazwa na kasach)"_s, u"Preferowany nr. na kasie"_s}, PLU) {}
 
 void TabelaKodow::Pokaz(const std::vector<KodDodatkowy>& kody) {
   setRowCount(0);
@@ -49,27 +41,6 @@ std::vector<KodDodatkowy> TabelaKodow::Kody() const {
   return kody;
 }
 
-int TabelaKodow::WierszZlegoNumeru() const {
-  for (int i = 0; i < rowCount(); ++i)
-    if (!WadaTekstu(RodzajPola::Liczba, Tekst(i, PLU)).isEmpty()) return i;
-  return -1;
-}
-
-QString TabelaKodow::Tekst(int wiersz, Kolumna kolumna) const {
-  return item(wiersz, kolumna)->text();
-}
-
-void TabelaKodow::UstawTekst(int wiersz, Kolumna kolumna, const QString& tekst) {
-  item(wiersz, kolumna)->setText(tekst);
-}
-
-void TabelaKodow::DodajWiersz() {
-  Dopisz({});
-  setFocus();
-  setCurrentCell(rowCount() - 1, Kod);
-  editItem(currentItem());
-}
-
-void TabelaKodow::UsunBiezacy() {
-  if (currentRow() >= 0) removeRow(currentRow());
+QString TabelaKodow::Wada(int wiersz) const {
+  return WadaTekstu(RodzajPola::Liczba, Tekst(wiersz, PLU));
 }

@@ -2,13 +2,12 @@
 
 #include <vector>
 
-#include <QTableWidget>
-
 #include "model/kody_dodatkowe.h"
+#include "shell/formularze/tabela_szczegolow.h"
 
 // The additional codes of a good: code, short name, register number. What a code has beside these stays with
 // its row.
-class TabelaKodow : public QTableWidget {
+class TabelaKodow final : public TabelaSzczegolow {
  public:
   enum Kolumna { Kod, Skrot, PLU };
 
@@ -17,14 +16,10 @@ class TabelaKodow : public QTableWidget {
   void Pokaz(const std::vector<KodDodatkowy>& kody);
   // Rows in which something was entered; the numbers must be good.
   std::vector<KodDodatkowy> Kody() const;
-  // The row of the first number that is none, -1 when all are good.
-  int WierszZlegoNumeru() const;
 
-  QString Tekst(int wiersz, Kolumna kolumna) const;
-  void UstawTekst(int wiersz, Kolumna kolumna, const QString& tekst);
-  // Adds an empty row and lets the person type the code.
-  void DodajWiersz();
-  void UsunBiezacy();
+ protected:
+  void DopiszPusty() override { Dopisz({}); }
+  QString Wada(int wiersz) const override;
 
  private:
   void Dopisz(const KodDodatkowy& kod);

@@ -1,4 +1,3 @@
-#include "robotnik/przekazanie.h"
 #include "shell/formularze/formularze.h"
 
 #include <thread>
@@ -19,6 +18,7 @@
 #include "model/parametry_systemu.h"
 #include "model/slowniki.h"
 #include "model/towar.h"
+#include "robotnik/przekazanie.h"
 #include "shell/formularze/formularz_kontrahenta.h"
 #include "shell/formularze/formularz_towaru.h"
 #include "tests/okno/osoba_przy_formularzu.h"
@@ -41,7 +41,15 @@ class Formularze : public testing::Test {
          {"insert into Asort (Nazwa) values ('Napoje'), ('Soki')",
           "insert into JM (Nazwa) values ('kg'), ('szt.')", "insert into Magazyn (Nazwa) values ('Główny')",
           "insert into Towar (Nazwa, Skrot, Kod, TypTowaru, Aktywny) values ('Skrzynka', "
-          "'Skrz', '99', 1, 1)"})
+          "'Skrz', '99', 1, 1)",
+          "insert into Kategoria (Nazwa) values ('Sery'), ('Wina')",
+          "insert into Parametr (Nazwa, Typ, Do) values ('Kolor', 0, 0), ('Moc', 1, 20)",
+          "insert into ParWartosc values (1, 0, 'biały'), (1, 1, 'czerwony')",
+          "insert into KatParam values (1, 2, 0), (2, 1, 0), (2, 2, 1)",
+          "insert into Kontrahent (Nazwa, NIP) values ('Winnica', '521-001-00-45'), ('Hurt', '77-22'), "
+          "('Bez numeru', 'brak')",
+          "insert into TowDostawca values (1, 3, 0), (1, 1, 1)",
+          "update Istw set StanMag = 2.5, BlokadaMag = 1"})
       b.baza.ExecSQL(sql);
     towar.Nowy();
     for (const auto& [kolumna, wartosc] : {std::pair(KolumnaTowaru::AsId, 1), {KolumnaTowaru::JMId, 1}})
@@ -74,6 +82,8 @@ QString Przykladowy(const OpisPolaFormularza& pole) {
       return Liczba(QString::number(pole.kolumna) + u".29"_s);
     case RodzajPola::Data:
       return u"31.12.2030"_s;
+    case RodzajPola::Kontrahent:
+      return u"521-001-00-45"_s;
     default:
       return QString::number(1000 + pole.kolumna);
   }
@@ -150,6 +160,7 @@ TEST_F(TabelaPol, KazdePoleKontrahentaPiszeSwojaKolumneIWraca) {
 TEST_F(TabelaPol, KazdaOdmowaStoiPrzySwoimPoluNaWidocznejStronie) {
   const auto przejdz = [&](TDmVLTElement& rekord, const OpisFormularza& opis) {
     for (const PoleBledu& p : opis.bledy) {
+      rekord.Query.Field(p.kolumna).SetString(QString::number(p.kod));
       const EVLTWDError blad(p.kod, nullptr, u"[szczegół]"_s);
       rozmowa.dialogi.push_back([&](QDialog& okno) {
         QWidget& kontrolka = KontrolkaPola(okno, rekord, p.kolumna);
@@ -159,10 +170,20 @@ TEST_F(TabelaPol, KazdaOdmowaStoiPrzySwoimPoluNaWidocznejStronie) {
         return Kliknij(okno, u"Rezygnuj"_s);
       });
       EXPECT_EQ(PoprawWFormularzu(nullptr, rozmowa, rekord, {u"Odmowa"_s, blad}), Poprawka::Zrezygnowano);
+      rekord.Query.ZatwierdzZmiany();
     }
   };
   przejdz(towar, TFmVLTFormularzTowaru::Opis());
   przejdz(kontrahent, TFmVLTFormularzKontrahenta::Opis());
+  towar.Kody().Dodaj({0, u"777"_s, u"d"_s});
+  for (const int kod : {2820, 2826, 2827, 2828, 2830, 2895}) {
+    const EVLTWDError blad(kod, nullptr, u"777"_s);
+    rozmowa.dialogi.push_back([&](QDialog& okno) {
+      EXPECT_EQ(BladPrzy(okno, u"tabelaKodow"_s), blad.Tresc()) << kod;
+      return Kliknij(okno, u"Rezygnuj"_s);
+    });
+    PoprawWFormularzu(nullptr, rozmowa, towar, {u"Odmowa"_s, blad});
+  }
 }
 
 TEST_F(Formularze, OdmowaBezPolaStoiNadFormularzemZPrzyczyna) {
@@ -262,6 +283,7 @@ TEST_F(Formularze, TabIdzieWKolejnosciPolAEnterZapisuje) {
   const auto kolejnosc = [&](TDmVLTElement& rekord) {
     QStringList nazwy;
     Edytuj(rekord, [&](QDialog& okno) {
+      okno.show();
       EXPECT_TRUE(Znajdz<QPushButton>(okno, u"Zapisz"_s).isDefault());
       QWidget* const pierwsza = okno.focusWidget();
       QWidget* kontrolka = pierwsza;
@@ -282,6 +304,86 @@ TEST_F(Formularze, TabIdzieWKolejnosciPolAEnterZapisuje) {
             u"Nazwa NIP Skrot KodKontr NrAnalityki Ulica Kod Miasto Telefon Fax EMail Dostawca Odbiorca"
             " Producent ZakPracChron Aktywny Staly gbSklep NrSklepu NrSeryjny MagId Zapisz Rezygnuj"
             " qt_tabwidget_tabbar"_s);
+}
+
+TEST_F(Formularze, ParametryIdaZaKategoria) {
+  towar.UstawKatId(2);
+  towar.Wartosci().Ustaw(1, 1);
+  towar.Wartosci().Ustaw(2, 1e15);
+  const auto kategoria = [](QDialog& okno, const QString& nazwa) {
+    Znajdz<QComboBox>(okno, u"KatId"_s).setCurrentText(nazwa);
+  };
+  rozmowa.dialogi.push_back([&](QDialog& okno) {
+    EXPECT_EQ(okno.focusWidget()->objectName(), u"Parametr2"_s);
+    EXPECT_TRUE(okno.focusWidget()->isVisibleTo(&okno));
+    EXPECT_EQ(BladPrzy(okno, u"Parametr2"_s), u"Wprowadzana wielkość przekracza dopuszczalny zakres"_s);
+    EXPECT_EQ(Znajdz(okno, u"Parametr2"_s).accessibleName(), u"Moc (od 0 do 20)"_s);
+    EXPECT_EQ(Widac(Znajdz(okno, u"Parametr1"_s)), u"czerwony"_s);
+    kategoria(okno, u"Sery"_s);
+    EXPECT_EQ(okno.findChild<QWidget*>(u"Parametr1"_s), nullptr);
+    kategoria(okno, u"(brak)"_s);
+    EXPECT_TRUE(Znajdz(okno, u"gbParametry"_s).isHidden());
+    kategoria(okno, u"Wina"_s);
+    Wpisz(okno, u"Parametr2"_s, u""_s);
+    return Kliknij(okno, u"Zapisz"_s);
+  });
+  PoprawWFormularzu(nullptr, rozmowa, towar, {u"Nie zapisano"_s, EVLTWDError(2006)});
+  using Pozycja = WartosciParametrow::Pozycja;
+  EXPECT_THAT(towar.Wartosci().Wszystkie(), ElementsAre(Pozycja(1, 1)));
+  EXPECT_TRUE(Edytuj(towar, [&](QDialog& okno) {
+    EXPECT_EQ(Widac(Znajdz(okno, u"Parametr2"_s)), QString());  // the good has none
+    kategoria(okno, u"Sery"_s);
+    EXPECT_EQ(Widac(Znajdz(okno, u"Parametr2"_s)), u"0"_s);
+    Wpisz(okno, u"Parametr2"_s, u"12,5"_s);
+    return Kliknij(okno, u"Zapisz"_s);
+  }));
+  EXPECT_THAT(towar.Wartosci().Wszystkie(), ElementsAre(Pozycja(2, 12.5)));
+}
+
+TEST_F(Formularze, ProducentIDostawcyPoNipieAStanyDoWgladu) {
+  towar.Wczytaj(1);
+  QStringList zapisy;
+  bool awaria = false;
+  b.baza.UstawPodsluch([&](std::string_view sql) {
+    if (!sql.starts_with("select"))
+      zapisy << QString::fromUtf8(sql.data(), static_cast<qsizetype>(sql.size()));
+    if (awaria) throw EBladBazy(RodzajBleduBazy::Blokada, u"zajęta"_s, {});
+  });
+  EXPECT_TRUE(Edytuj(towar, [&](QDialog& okno) {
+    auto& dostawcy = Znajdz<QTableWidget>(okno, u"tabelaDostawcow"_s);
+    const auto odrzucony = [&](const QString& pole, const QString& powod) {
+      EXPECT_EQ(Kliknij(okno, u"Zapisz"_s), QDialog::Rejected);
+      EXPECT_TRUE(BladPrzy(okno, pole).startsWith(powod)) << BladPrzy(okno, pole).toStdString();
+      EXPECT_EQ(okno.focusWidget()->objectName(), pole);
+    };
+    dostawcy.setCurrentCell(0, 0);
+    Kliknij(okno, u"UsunDostawce"_s);
+    EXPECT_EQ(dostawcy.rowCount(), 2) << "the first has no tax number";
+    Kliknij(okno, u"DodajDostawce"_s);
+    dostawcy.item(2, 0)->setText(u"999"_s);
+    odrzucony(u"tabelaDostawcow"_s, u"Wiersz 3: Brak kontrahenta z NIPem 999"_s);
+    dostawcy.item(2, 0)->setText(u"PL 7722"_s);
+    EXPECT_EQ(dostawcy.item(2, 1)->text(), u"Hurt"_s);
+    Wpisz(okno, u"Producent"_s, u"999"_s);
+    odrzucony(u"Producent"_s, u"Brak kontrahenta z NIPem 999"_s);
+    Wpisz(okno, u"Producent"_s, u"772-2"_s);
+    awaria = true;
+    odrzucony(u"Producent"_s, u"Baza danych jest zablokowana"_s);
+    awaria = false;
+    const auto& stany = Znajdz<QTableWidget>(okno, u"tabelaStanow"_s);
+    EXPECT_EQ(stany.item(0, 0)->text() + u' ' + stany.item(0, 1)->text() + u' ' + stany.item(0, 2)->text(),
+              u"Główny "_s + Liczba(u"2.5"_s) + u" 1"_s);
+    return Kliknij(okno, u"Zapisz"_s);
+  }));
+  EXPECT_EQ(towar.Producent(), 2);
+  using D = DostawcyTowaru::Dostawca;
+  EXPECT_THAT(towar.Dostawcy().Wszyscy(), ElementsAre(D{1, true}, D{2, true}, D{3, false}));
+  EXPECT_TRUE(Edytuj(towar, [](QDialog& okno) {
+    Wpisz(okno, u"Producent"_s, u" "_s);
+    return Kliknij(okno, u"Zapisz"_s);
+  }));
+  EXPECT_EQ(towar.Producent(), -1);
+  EXPECT_EQ(zapisy, QStringList());
 }
 
 TEST_F(Formularze, PustyNumerSklepuIOsobyPoJednejWWierszu) {
