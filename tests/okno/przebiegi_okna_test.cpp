@@ -3,8 +3,11 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabWidget>
+#include <QTreeWidget>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "shell/kontrolki/pasek_przyciskow.h"
@@ -21,12 +24,13 @@ class PrzebiegiOkna : public OknoTestowe {
   PrzebiegiOkna() { EXPECT_TRUE(Otworz()); }
 
   // Code, name and price; VAT, unit and assortment are made up.
-  void UstawStrukture() {
-    StrukturaPliku& s = U().strukturaTow;
+  void UstawStrukture() { UstawStrukture(U().strukturaTow, {0, 1, 18}); }
+  static void UstawStrukture(StrukturaPliku& s, std::initializer_list<int> pola) {
     s.CBTypPliku = TypPliku::Rozdzielany;
     s.separator = u";"_s;
     s.CBNieAnalizujPierwszejLinii = false;
-    s.pola = {WpisPola(0, {}), WpisPola(1, {}), WpisPola(18, {})};
+    s.pola.clear();
+    for (const int pole : pola) s.pola.emplace_back(pole, QString());
   }
   static QByteArray Wiersze(int ile) {
     QByteArray tresc;
@@ -41,7 +45,14 @@ class PrzebiegiOkna : public OknoTestowe {
       postep.findChild<QTimer*>("timer")->setInterval(1);
       std::vector<Krok> kroki;
       if (przerwij) kroki.push_back({[this] { return Towarow() > 0; }, [&] { przycisk.click(); }});
-      kroki.push_back({[&] { return przycisk.text() == u"Zamknij"; }, [&] { przycisk.click(); }});
+      kroki.push_back({[&] { return przycisk.text() == u"Zamknij"; },
+                       [&] {
+                         pokazane = {postep.windowTitle()};
+                         const auto& linie = *postep.findChild<QTreeWidget*>("linie");
+                         for (int i = 0; i < linie.topLevelItemCount(); ++i)
+                           pokazane << linie.topLevelItem(i)->text(1);
+                         przycisk.click();
+                       }});
       return Przejdz(postep, kroki);
     });
   }
@@ -49,6 +60,8 @@ class PrzebiegiOkna : public OknoTestowe {
     rozmowa.pliki.push_back(plik);
     Polecenie(u"ImportTowMenu"_s);
   }
+  // The caption and the lines of the last progress window, at its end.
+  QStringList pokazane;
   long long Towarow() { return b.Liczba("select count(*) from Towar"); }
 };
 
@@ -146,26 +159,82 @@ TEST_F(PrzebiegiOkna, EksportPytaONadpisanieIZapisuje) {
 }
 
 TEST_F(PrzebiegiOkna, EdycjaStruktury) {
-  Kliknij(u"RBTowaryAktywne"_s);
-  const auto osoba = [&](int typ, const char* przycisk) {
-    rozmowa.dialogi.push_back([=](QDialog& dialog) {
-      EXPECT_EQ(dialog.windowTitle(), u"Struktura pliku importu towarów"_s);
-      dialog.show();
-      dialog.findChild<QComboBox*>("CBTypPliku")->setCurrentIndex(typ);
-      dialog.findChild<QAbstractButton*>(przycisk)->click();
-      return dialog.result();
-    });
-    Znajdz<TMStatusButtonBar>(u"MStatusButtonBar1"_s).findChild<QAbstractButton*>("StrukturaPliku")->click();
+  const struct {
+    int strona;
+    const char *pasek, *przycisk;
+    QString tytul;
+    StrukturaPliku Ustawienia::*struktura;
+    const char *aktywne, *wszystkie;
+  } przypadki[] = {
+      {2, "MStatusButtonBar4", "Strukturapliku", u"Struktura pliku importu kontrahentów"_s,
+       &Ustawienia::strukturaKontr, "RBKontrahenciAktywni", "RBKontrahenciWszyscy"},
+      {0, "MStatusButtonBar1", "StrukturaPliku", u"Struktura pliku importu towarów"_s,
+       &Ustawienia::strukturaTow, "RBTowaryAktywne", "RBTowaryWszystkie"},
   };
-  osoba(3, "Wyjscie");
-  EXPECT_EQ(U().strukturaTow.CBTypPliku, TypPliku::Zorvik);
-  EXPECT_TRUE(Zaznaczony(u"RBTowaryAktywne"_s));
-  osoba(3, "Akceptuj");
-  EXPECT_EQ(U().strukturaTow.CBTypPliku, TypPliku::DBase);
+  for (const auto& p : przypadki) {
+    EXPECT_EQ(U().strukturaTow.CBTypPliku, TypPliku::Zorvik);
+    Znajdz<QTabWidget>(u"PageControl"_s).setCurrentIndex(p.strona);
+    Kliknij(p.aktywne);
+    const auto osoba = [&](int typ, const char* przycisk) {
+      rozmowa.dialogi.push_back([=](QDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), p.tytul);
+        dialog.show();
+        dialog.findChild<QComboBox*>("CBTypPliku")->setCurrentIndex(typ);
+        dialog.findChild<QAbstractButton*>(przycisk)->click();
+        return dialog.result();
+      });
+      Znajdz<TMStatusButtonBar>(p.pasek).findChild<QAbstractButton*>(p.przycisk)->click();
+    };
+    osoba(3, "Wyjscie");
+    EXPECT_EQ((U().*p.struktura).CBTypPliku, TypPliku::Zorvik);
+    EXPECT_TRUE(Zaznaczony(p.aktywne));
+    osoba(3, "Akceptuj");
+    EXPECT_EQ((U().*p.struktura).CBTypPliku, TypPliku::DBase);
+    // What the new structure does not carry.
+    EXPECT_TRUE(Zaznaczony(p.wszystkie));
+  }
   EXPECT_FALSE(U().strukturaTow.CBNieAnalizujPierwszejLinii);
-  // What the new structure does not carry.
-  EXPECT_TRUE(Zaznaczony(u"RBTowaryWszystkie"_s) && Zaznaczony(u"RBDodajTowarZNazwaAuto"_s));
-  EXPECT_EQ(U().strukturaKontr.CBTypPliku, TypPliku::Zorvik);
+  EXPECT_TRUE(Zaznaczony(u"RBDodajTowarZNazwaAuto"_s));
+}
+
+TEST_F(PrzebiegiOkna, ImportIEksportKontrahentow) {
+  UstawStrukture(U().strukturaKontr, {});
+  Polecenie(u"ImportKontrMenu"_s);
+  EXPECT_EQ(Komunikaty(), QStringList{u"BŁĄD: Nie zdefiniowano listy pól"_s});
+  UstawStrukture(U().strukturaKontr, {0, 1});
+  for (const char* opcja :
+       {"cb_odbiorca", "cb_nowykontr", "rb_PominBoTakiNIPJuzJest", "rb_pominKontrBezNIPu"})
+    Kliknij(opcja);
+  const auto przebieg = [this](const QString& polecenie, const QString& plik) {
+    rozmowa.pliki.push_back(plik);
+    Czekaj();
+    Polecenie(polecenie);
+    return QFileInfo(rozmowa.wybory.back().sciezka).fileName();
+  };
+  EXPECT_EQ(przebieg(u"ImportKontrMenu"_s, Zapisz(u"k.txt"_s, "Alfa;1\r\nBeta;2\r\nInna;1\r\n")),
+            u"KONTR_I.txt"_s);
+  EXPECT_EQ(pokazane[0], u"Postęp aktualizacji kontrahentów"_s);
+  EXPECT_THAT(pokazane, testing::IsSupersetOf({u"Ilość dodanych kontrahentów 2"_s,
+                                               u"Ilość poprawionych kontrahentów 0"_s,
+                                               u"Ilość pominiętych kontrahentów 1"_s}));
+  for (auto* const opcja : okno->findChildren<QAbstractButton*>(QRegularExpression(u"^cb_gdy"_s)))
+    if (!opcja->isChecked()) opcja->click();
+  const QString plik = Sciezka(u"k_e.txt"_s);
+  EXPECT_EQ(przebieg(u"EksportKontrMenu"_s, plik), u"KONTR_E.txt"_s);
+  EXPECT_EQ(pokazane[0], u"Postęp eksportu kontrahentów"_s);
+  EXPECT_EQ(Zawartosc(plik).count("\r\n"), 3);
+  EXPECT_EQ(U().plikEksportuKontr, QDir::toNativeSeparators(plik));
+}
+
+TEST_F(PrzebiegiOkna, DziesiecPrzebiegowPodRzad) {
+  for (int i = 1; i <= 10; ++i) {
+    ASSERT_TRUE(Otworz());
+    UstawStrukture();
+    Czekaj();
+    Importuj(Zapisz(u"towary.txt"_s, Wiersze(i)));
+    okno.reset();
+    EXPECT_EQ(Towarow(), i);
+  }
 }
 
 TEST_F(PrzebiegiOkna, PlikUpuszczonyNaStroneImportu) {
@@ -182,6 +251,11 @@ TEST_F(PrzebiegiOkna, PlikUpuszczonyNaStroneImportu) {
     QCoreApplication::processEvents();
     return true;
   };
+  QDialog otwarty(okno.get());
+  otwarty.setModal(true);
+  otwarty.show();
+  EXPECT_FALSE(upusc());
+  otwarty.close();
   rozmowa.odpowiedzi = {QMessageBox::No};
   EXPECT_TRUE(upusc());
   EXPECT_EQ(Towarow(), 0);
