@@ -10,7 +10,7 @@
 #include <soci/sqlite3/soci-sqlite3.h>
 
 #include "platform/baza/dialekt.h"
-#include "platform/baza/polecenie.h"
+#include "platform/baza/polecenie_sqlite.h"
 #include "platform/baza/transakcja.h"
 #include "platform/baza/zapytanie.h"
 #include "platform/config.h"
@@ -136,7 +136,7 @@ struct TVLTBazaDanych::Wnetrze {
       znalezione->second->Zajete = true;
       return znalezione->second;
     }
-    auto nowe = std::make_shared<Polecenie>(Sesja(), std::string(sql), kolumny, parametry);
+    auto nowe = std::make_shared<PolecenieSqlite>(*Uchwyt(), std::string(sql), kolumny, parametry);
     nowe->Zajete = true;
     // A text that is being read by somebody gets a second statement, which is not kept.
     if (znalezione == polecenia.end()) polecenia.emplace(klucz, nowe);

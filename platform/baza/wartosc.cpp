@@ -12,12 +12,20 @@ Liczba LiczbaZTekstu(const std::string& tekst) {
   return liczba;
 }
 
-// "%.15g", the most digits that every double has. Adding 0 takes the sign off a negative zero.
+constexpr int kCyfr = 15;  // the most that every double has
+
+// "%.15g". Adding 0 takes the sign off a negative zero.
 std::string TekstZLiczby(double liczba) {
   std::array<char, 32> bufor;
-  const auto koniec =
-      std::to_chars(bufor.data(), bufor.data() + bufor.size(), liczba + 0.0, std::chars_format::general, 15);
-  return {bufor.data(), koniec.ptr};
+  const auto koniec = bufor.data() + bufor.size();
+  liczba += 0.0;
+  // Prices and quantities: the shortest digits are the same text and cost a fraction.
+  if (const double wielkosc = std::abs(liczba); wielkosc == 0 || (wielkosc >= 1 && wielkosc < 1e9)) {
+    const auto [za, blad] = std::to_chars(bufor.data(), koniec, liczba, std::chars_format::fixed);
+    if (blad == std::errc() && za - bufor.data() <= kCyfr) return {bufor.data(), za};
+  }
+  const auto dluga = std::to_chars(bufor.data(), koniec, liczba, std::chars_format::general, kCyfr);
+  return {bufor.data(), dluga.ptr};
 }
 }  // namespace
 

@@ -41,7 +41,8 @@ class Wartosc {
   friend bool operator==(const Wartosc& a, const Wartosc& b);
 
  private:
-  friend class Polecenie;
+  friend class PolecenieSoci;
+  friend class PolecenieSqlite;
   TypPola m_typ;
   bool m_pusta = true;
   long long m_calkowita = 0;
