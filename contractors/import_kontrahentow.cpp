@@ -45,8 +45,8 @@ class PrzebiegImportuKontrahentow final : public PrzebiegImportu {
     m_rekord.emplace(*m_kontekst);
   }
 
-  PoRekordzie Rekord(Czytnik& czytnik) override {
-    m_rekord->Przetworz(czytnik.Linia());
+  PoRekordzie Rekord(const RekordPliku& rekord) override {
+    m_rekord->Przetworz(rekord);
     return PoRekordzie::Dalej;
   }
 

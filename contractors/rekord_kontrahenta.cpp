@@ -5,6 +5,7 @@
 #include "exchange/pola_rekordu.h"
 #include "model/bledy.h"
 #include "model/bufor_nip.h"
+#include "run/kolejka_rekordow.h"
 #include "run/liczniki.h"
 #include "run/raport_problemow.h"
 
@@ -13,13 +14,15 @@ using namespace Qt::Literals::StringLiterals;
 RekordKontrahenta::RekordKontrahenta(KontekstImportuKontrahentow& import)
     : m_import(import), m_kontrahent(import.sesja) {}
 
-void RekordKontrahenta::Przetworz(const LiniaRekordu& linia) {
+void RekordKontrahenta::Przetworz(const RekordPliku& rekord) {
+  const LiniaRekordu linia = rekord.Linia();
   // An empty line of the own layout.
   if (linia.Reszta().empty()) return;
   const PolaRekordu pola(linia, RodzajRekordu::Kontrahenci, m_import.separator);
   m_nazwa = pola.Tekst(PoleKontrahenta::Nazwa);
   m_nip = pola.Trim(PoleKontrahenta::Nip);
   m_cyfry = NormalizujNip(m_nip);
+  m_numer = rekord.numer;
   m_import.raport.NowyRekord(m_nip, m_nazwa);
   try {
     if (const Odmowa odmowa = Przeprowadz(pola)) m_import.raport.Zglos(*odmowa);
@@ -30,9 +33,8 @@ void RekordKontrahenta::Przetworz(const LiniaRekordu& linia) {
 
 Odmowa RekordKontrahenta::Przeprowadz(const PolaRekordu& pola) {
   if (m_nazwa.trimmed().isEmpty())
-    return m_nip.isEmpty()
-               ? u"Brak nazwy i NIPu kontrahenta w linii "_s + QString::number(m_import.plik.NumerRekordu())
-               : u"Brak nazwy kontrahenta"_s;
+    return m_nip.isEmpty() ? u"Brak nazwy i NIPu kontrahenta w linii "_s + QString::number(m_numer)
+                           : u"Brak nazwy kontrahenta"_s;
   const int znaleziony = m_import.bufor.Znajdz(m_cyfry);
   const StanNipu stan = m_cyfry.isEmpty() ? StanNipu::Brak
                         : znaleziony < 0  ? StanNipu::Nieznany

@@ -6,7 +6,7 @@
 #include "contractors/transfer_kontrahenta.h"
 #include "model/kontrahent.h"
 
-class LiniaRekordu;
+struct RekordPliku;
 
 // Decides what one record of a contractor file does: it is skipped, adds a contractor or changes the one with
 // its tax number. Every refusal becomes a line of the report and the run goes on; faults of the database
@@ -15,7 +15,7 @@ class RekordKontrahenta {
  public:
   explicit RekordKontrahenta(KontekstImportuKontrahentow& import);
 
-  void Przetworz(const LiniaRekordu& linia);
+  void Przetworz(const RekordPliku& rekord);
 
  private:
   Odmowa Przeprowadz(const PolaRekordu& pola);
@@ -31,6 +31,7 @@ class RekordKontrahenta {
 
   // Of the record in hand.
   QString m_nazwa;
+  int m_numer = 0;  // in the file
   QString m_nip;    // as entered, without the blanks around it
   QString m_cyfry;  // by which it is compared
 };

@@ -36,6 +36,7 @@ class LiniaRekordu {
   // Fields taken so far for this record.
   int Licznik() const { return m_licznik; }
   std::string_view Reszta() const { return m_reszta; }
+  StronaKodowa Strona() const { return m_strona; }
 
  private:
   struct Token {

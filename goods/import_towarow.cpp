@@ -15,6 +15,7 @@
 #include "model/kontekst.h"
 #include "model/nazwy_skrocone.h"
 #include "model/reguly_kodow.h"
+#include "model/zapas_towarow.h"
 #include "platform/baza/sesja.h"
 #include "run/przebieg_importu.h"
 
@@ -58,6 +59,7 @@ struct Zasoby {
   TDmVLTNazwySkrocone skroty;
   NumeracjaNazw nazwy;
   PotwierdzoneSlowniki potwierdzone;
+  ZapasTowarow zapas;
 };
 
 class PrzebiegImportuTowarow final : public PrzebiegImportu {
@@ -75,15 +77,19 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
     m_zasoby.emplace(Parametry(), m_opcje, m_bufor, m_raport, m_liczniki);
     m_zasoby->stany.WczytajMagazyny();
     m_paczka.PoOtwarciu = [this](bool obceZmiany) { PoOtwarciuPaczki(obceZmiany); };
-    m_kontekst.emplace(KontekstImportu{Parametry().sesja, m_opcje, Parametry().struktura, Plik(),
-                                       Parametry().separatorDziesietny, m_bufor, m_nipy ? &*m_nipy : nullptr,
-                                       m_zasoby->slowniki, m_zasoby->stany, m_zasoby->reguly,
-                                       m_zasoby->kodyWlasne, m_zasoby->skroty, m_zasoby->nazwy,
-                                       m_zasoby->potwierdzone, m_raport, m_liczniki, Operator()});
+    m_kontekst.emplace(KontekstImportu{
+        Parametry().sesja, m_opcje, Parametry().struktura, Plik(), Parametry().separatorDziesietny, m_bufor,
+        m_nipy ? &*m_nipy : nullptr, m_zasoby->slowniki, m_zasoby->stany, m_zasoby->reguly,
+        m_zasoby->kodyWlasne, m_zasoby->skroty, m_zasoby->nazwy, m_zasoby->potwierdzone, m_zasoby->zapas,
+        m_raport, m_liczniki, Operator()});
     m_rekord.emplace(*m_kontekst);
   }
 
-  PoRekordzie Rekord(Czytnik& czytnik) override { return m_rekord->Przetworz(czytnik.Linia()); }
+  void CzytajZWyprzedzeniem(std::span<const RekordPliku> rekordy) override {
+    m_rekord->CzytajZWyprzedzeniem(rekordy);
+  }
+
+  PoRekordzie Rekord(const RekordPliku& rekord) override { return m_rekord->Przetworz(rekord); }
 
   void PrzedPodsumowaniem() override {
     if (m_liczniki[Licznik::Stany] == 0) return;
@@ -114,6 +120,7 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
 
   // Inside the transaction nobody else writes, so that what is looked up in memory from here on holds.
   void PoOtwarciuPaczki(bool obceZmiany) {
+    m_zasoby->zapas.Wyczysc();
     m_bufor.SprawdzObceZmiany(Parametry().sesja.baza);
     if (!obceZmiany) return;
     m_zasoby->slowniki.Wczytaj();

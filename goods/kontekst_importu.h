@@ -3,6 +3,7 @@
 #include "exchange/czytnik.h"
 #include "exchange/katalog_pol.h"
 #include "exchange/struktura_pliku.h"
+#include "run/kolejka_rekordow.h"
 
 class IOperator;
 class KodyWlasne;
@@ -14,6 +15,7 @@ class Stany;
 class TDmVLTNazwySkrocone;
 class TVLTBuforNip;
 class TVLTBuforTowarow;
+class ZapasTowarow;
 struct KontekstSesji;
 struct OpcjeImportuTowarow;
 struct PotwierdzoneSlowniki;
@@ -41,6 +43,7 @@ struct KontekstImportu {
   TDmVLTNazwySkrocone& skroty;
   NumeracjaNazw& nazwy;
   PotwierdzoneSlowniki& potwierdzone;
+  ZapasTowarow& zapas;
 
   RaportProblemow& raport;
   Liczniki& liczniki;
@@ -50,6 +53,8 @@ struct KontekstImportu {
   bool NiesiePole(int pole) const { return plik.NiesiePole(pole); }
   // Whether a field of a good that exists already is to be written.
   bool Aktualizuje(int pole) const { return NiesiePole(pole) && struktura.CzyOferowane(pole); }
-  // Whether the record last read has a status to go by; without one every record is active.
-  bool MaStatus() const { return plik.MaStatus() && struktura.CzyOferowane(PoleTowaru::Status); }
+  // Whether a record has a status to go by; without one every record is active.
+  bool MaStatus(const RekordPliku& rekord) const {
+    return rekord.maStatus && struktura.CzyOferowane(PoleTowaru::Status);
+  }
 };

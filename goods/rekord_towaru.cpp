@@ -12,6 +12,7 @@
 #include "model/kontekst.h"
 #include "model/nazwy_skrocone.h"
 #include "model/szukanie_towaru.h"
+#include "model/zapas_towarow.h"
 #include "platform/baza/sesja.h"
 #include "run/liczniki.h"
 #include "run/operator.h"
@@ -28,11 +29,25 @@ bool ZlaSumaEan(const RegulyKodow& reguly, const QString& kod) {
 
 RekordTowaru::RekordTowaru(KontekstImportu& import)
     : m_import(import),
-      m_towar(import.sesja, {import.reguly, import.skroty, &import.bufor, &import.potwierdzone}),
+      m_towar(import.sesja, {.reguly = import.reguly,
+                             .skroty = import.skroty,
+                             .bufor = &import.bufor,
+                             .potwierdzone = &import.potwierdzone,
+                             .zapas = &import.zapas}),
       m_zapis(import, m_towar) {}
 
-PoRekordzie RekordTowaru::Przetworz(const LiniaRekordu& linia) {
-  const PolaRekordu pola(linia, RodzajRekordu::Towary, m_import.separator);
+void RekordTowaru::CzytajZWyprzedzeniem(std::span<const RekordPliku> rekordy) {
+  const TVLTBuforTowarow& bufor = m_import.bufor;
+  if (!bufor.BrakJestPewny()) return;
+  std::vector<int> towary;
+  for (const RekordPliku& rekord : rekordy)
+    if (const auto kandydat = bufor.JedynyZKodem(rekord.Linia().Tekst().trimmed()))
+      towary.push_back(*kandydat);
+  m_import.zapas.Wczytaj(m_import.sesja.baza, std::move(towary));
+}
+
+PoRekordzie RekordTowaru::Przetworz(const RekordPliku& rekord) {
+  const PolaRekordu pola(rekord.Linia(), RodzajRekordu::Towary, m_import.separator);
   m_kod = {};
   m_kod.kod = pola.Trim(PoleTowaru::Kod);
   m_nazwa = pola.Trim(PoleTowaru::Nazwa);
@@ -44,7 +59,7 @@ PoRekordzie RekordTowaru::Przetworz(const LiniaRekordu& linia) {
 
   Krok krok = Krok::Koniec;
   try {
-    krok = Przeprowadz(pola);
+    krok = Przeprowadz(rekord, pola);
   } catch (const EBladBazy& blad) {
     if (blad.KonczyPrzebieg()) throw;
     Pomin(u"Nie można zapisać towaru"_s);
@@ -54,8 +69,8 @@ PoRekordzie RekordTowaru::Przetworz(const LiniaRekordu& linia) {
   return krok == Krok::Stop ? PoRekordzie::Stop : PoRekordzie::Dalej;
 }
 
-RekordTowaru::Krok RekordTowaru::Przeprowadz(const PolaRekordu& pola) {
-  if (const Krok krok = FiltrujStatus(pola); krok != Krok::Dalej) return krok;
+RekordTowaru::Krok RekordTowaru::Przeprowadz(const RekordPliku& rekord, const PolaRekordu& pola) {
+  if (const Krok krok = FiltrujStatus(rekord, pola); krok != Krok::Dalej) return krok;
   if (const Krok krok = UstalKod(); krok != Krok::Dalej) return krok;
   if (const Krok krok = UstalNazwe(); krok != Krok::Dalej) return krok;
   if (const Krok krok = SprawdzKod(); krok != Krok::Dalej) return krok;
@@ -80,9 +95,9 @@ RekordTowaru::Krok RekordTowaru::Przeprowadz(const PolaRekordu& pola) {
   return m_kod.znaleziony ? PoprawTowar() : DodajTowar();
 }
 
-RekordTowaru::Krok RekordTowaru::FiltrujStatus(const PolaRekordu& pola) {
+RekordTowaru::Krok RekordTowaru::FiltrujStatus(const RekordPliku& rekord, const PolaRekordu& pola) {
   m_aktywny = true;
-  if (!m_import.MaStatus()) return Krok::Dalej;
+  if (!m_import.MaStatus(rekord)) return Krok::Dalej;
   m_aktywny = pola.Trim(PoleTowaru::Status) == u"1";
   const JakieTowary jakie = m_import.opcje.jakieTowary;
   if (m_aktywny && jakie == JakieTowary::RBTowaryUsuniete) return Pomin(u"Towar aktywny"_s);

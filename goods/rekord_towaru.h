@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include <QString>
@@ -10,6 +11,7 @@
 #include "goods/kontrola_kodu.h"
 #include "goods/zapis_towaru.h"
 #include "model/towar.h"
+#include "run/kolejka_rekordow.h"
 #include "run/przebieg.h"
 
 class EVLTWDError;
@@ -23,14 +25,16 @@ class RekordTowaru {
   explicit RekordTowaru(KontekstImportu& import);
 
   // Stop when the operator ends the run while correcting the record.
-  PoRekordzie Przetworz(const LiniaRekordu& linia);
+  PoRekordzie Przetworz(const RekordPliku& rekord);
+  // Reads the goods that the records will look for in one go, inside the open batch.
+  void CzytajZWyprzedzeniem(std::span<const RekordPliku> rekordy);
 
  private:
   // What a step says: go on with the next step, or the record is done with.
   enum class Krok { Dalej, Koniec, Stop };
 
-  Krok Przeprowadz(const PolaRekordu& pola);
-  Krok FiltrujStatus(const PolaRekordu& pola);
+  Krok Przeprowadz(const RekordPliku& rekord, const PolaRekordu& pola);
+  Krok FiltrujStatus(const RekordPliku& rekord, const PolaRekordu& pola);
   Krok UstalKod();
   Krok ZnajdzTowar(const QString& kod);
   Krok UstalNazwe();

@@ -82,6 +82,13 @@ void TVLTBuforTowarow::SprawdzObceZmiany(TVLTBazaDanych& baza) {
 bool TVLTBuforTowarow::MozeByKod(const QString& kod) const {
   return m_kody.contains(Odcisk(kod));
 }
+std::optional<int> TVLTBuforTowarow::JedynyZKodem(const QString& kod) const {
+  const auto [poczatek, koniec] = m_kody.equal_range(Odcisk(kod));
+  if (poczatek == koniec) return std::nullopt;
+  const bool jeden =
+      std::all_of(poczatek, koniec, [towId = poczatek->second](const auto& p) { return p.second == towId; });
+  return jeden ? std::optional(poczatek->second) : std::nullopt;
+}
 bool TVLTBuforTowarow::MozeBySkrot(const QString& skrot) const {
   return m_skroty.contains(Odcisk(skrot));
 }

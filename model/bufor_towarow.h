@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -36,6 +37,8 @@ class TVLTBuforTowarow {
   std::vector<int> TowaryZeSkrotem(const QString& skrot) const { return Kandydaci(m_skroty, skrot); }
   std::vector<int> TowaryZNazwa(const QString& nazwa) const { return Kandydaci(m_nazwy, nazwa); }
   bool MozeByKod(const QString& kod) const;
+  // The one good that may hold the code; nothing when there is none or more than one.
+  std::optional<int> JedynyZKodem(const QString& kod) const;
   bool MozeBySkrot(const QString& skrot) const;
   bool MozeByNazwa(const QString& nazwa) const;
 

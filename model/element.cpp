@@ -33,7 +33,10 @@ void TDmVLTElement::Wczytaj(int id) {
   Query.SetOpenEmpty(false);
   m_sklepId = m_kopiaId = -1;
   SetLoadParams(id);
-  Query.Open();
+  if (const auto wiersz = OdczytanyWiersz(id); !wiersz.empty())
+    Query.OpenZ(wiersz);
+  else
+    Query.Open();
   if (Query.IsEmpty()) throw EVLTWDError(2001);
   AfterLoad(false, id);
 }

@@ -53,6 +53,8 @@ class TDmVLTElement {
   virtual const char* IdFieldName() const = 0;
   virtual bool ExtraUnsavedTest() const { return false; }
   virtual void SetLoadParams(int id) = 0;
+  // The record's row where it was read ahead; empty: the query asks the database.
+  virtual std::span<const Wartosc> OdczytanyWiersz(int /*id*/) const { return {}; }
   virtual void ClearDetails() {}
   virtual void AfterLoad(bool /*isNew*/, int /*id*/) {}
   virtual int InsertRecord() = 0;

@@ -4,6 +4,7 @@
 
 #include "model/bledy.h"
 #include "model/zakresy.h"
+#include "platform/baza/lista_id.h"
 #include "platform/baza/sesja.h"
 
 namespace {
@@ -50,6 +51,21 @@ void Popraw(TVLTBazaDanych& baza, int towId, const KodDodatkowy& kod) {
 void Skasuj(TVLTBazaDanych& baza, int towId, const KodDodatkowy& kod) {
   baza.ExecSQL("delete from KodDod where TowId = :TowId and Kolejnosc = :Kolejnosc",
                {{"TowId", towId}, {"Kolejnosc", kod.kolejnosc}});
+}
+
+#define ZORVIK_SELECT_KODOW \
+  "select TowId, Kolejnosc, Skrot, Kod, PoziomCen, PrefPLU, IleWKodzie from KodDod where TowId "
+
+constexpr TypPola kKolumny[] = {TypPola::Calkowite, TypPola::Calkowite, TypPola::Tekst,     TypPola::Tekst,
+                                TypPola::Calkowite, TypPola::Calkowite, TypPola::Dziesietne};
+
+KodDodatkowy Odczytany(const Odczyt& wiersz) {
+  return {static_cast<int>(wiersz[1].AsInteger()),
+          wiersz[3].AsString(),
+          wiersz[2].AsString(),
+          static_cast<int>(wiersz[4].AsInteger()),
+          static_cast<int>(wiersz[5].AsInteger()),
+          wiersz[6].AsFloat()};
 }
 
 }  // namespace
@@ -108,16 +124,18 @@ void KodyDodatkowe::Wyczysc() {
 
 void KodyDodatkowe::Wczytaj(TVLTBazaDanych& baza, int towId) {
   m_kody.clear();
-  for (auto odczyt = baza.Otworz("select Kolejnosc, Skrot, Kod, PoziomCen, PrefPLU, IleWKodzie from KodDod"
-                                 " where TowId = :TowId order by Kolejnosc",
-                                 {TypPola::Calkowite, TypPola::Tekst, TypPola::Tekst, TypPola::Calkowite,
-                                  TypPola::Calkowite, TypPola::Dziesietne},
-                                 {{"TowId", towId}});
+  const Parametr parametry[] = {{"TowId", towId}};
+  for (auto odczyt = baza.Otworz(ZORVIK_SELECT_KODOW "= :TowId order by Kolejnosc", kKolumny, parametry);
        odczyt.Nastepny();)
-    m_kody.push_back({static_cast<int>(odczyt[0].AsInteger()), odczyt[2].AsString(), odczyt[1].AsString(),
-                      static_cast<int>(odczyt[3].AsInteger()), static_cast<int>(odczyt[4].AsInteger()),
-                      odczyt[5].AsFloat()});
+    m_kody.push_back(Odczytany(odczyt));
   m_zBazy = m_kody;
+}
+
+void KodyDodatkowe::Wczytaj(TVLTBazaDanych& baza, const ListaId& towary,
+                            const std::function<void(int towId, KodDodatkowy)>& przyjmij) {
+  static const std::string sql = ZORVIK_SELECT_KODOW + ListaId::Warunek() + " order by TowId, Kolejnosc";
+  for (auto odczyt = baza.Otworz(sql, kKolumny, towary.Parametry()); odczyt.Nastepny();)
+    przyjmij(static_cast<int>(odczyt[0].AsInteger()), Odczytany(odczyt));
 }
 
 void KodyDodatkowe::Zapisz(TVLTBazaDanych& baza, int towId) const {

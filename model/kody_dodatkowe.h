@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include <QString>
 
+class ListaId;
 class TVLTBazaDanych;
 
 // One additional code of a good.
@@ -48,6 +50,14 @@ class KodyDodatkowe {
 
   void Wyczysc();
   void Wczytaj(TVLTBazaDanych& baza, int towId);
+  // Those of many goods, every good's in their order.
+  static void Wczytaj(TVLTBazaDanych& baza, const ListaId& towary,
+                      const std::function<void(int towId, KodDodatkowy)>& przyjmij);
+  // Codes that were read already.
+  void UstawZBazy(std::vector<KodDodatkowy> kody) {
+    m_kody = std::move(kody);
+    m_zBazy = m_kody;
+  }
   // Writes the differences to what was read: changed, new and removed ones. 2006 for a number that its column
   // cannot hold.
   void Zapisz(TVLTBazaDanych& baza, int towId) const;

@@ -5,12 +5,39 @@
 #include "model/bledy.h"
 #include "model/zakresy.h"
 #include "platform/baza/dialekt.h"
+#include "platform/baza/lista_id.h"
 #include "platform/baza/sesja.h"
 
 namespace {
 auto MiejsceParametru(auto& wartosci, int parId) {
   return std::lower_bound(wartosci.begin(), wartosci.end(), parId,
                           [](const WartosciParametrow::Pozycja& p, int id) { return p.first < id; });
+}
+
+#define ZORVIK_SELECT_WARTOSCI "select TowId, ParId, Wartosc from TowWartosc where TowId "
+constexpr TypPola kKolumnyWartosci[] = {TypPola::Calkowite, TypPola::Calkowite, TypPola::Dziesietne};
+
+WartosciParametrow::Pozycja OdczytanaWartosc(const Odczyt& wiersz) {
+  return {static_cast<int>(wiersz[1].AsInteger()), wiersz[2].AsFloat()};
+}
+
+#define ZORVIK_SELECT_DOSTAWCOW                                       \
+  "select D.TowId, D.KontrId, K.NIP from TowDostawca D, Kontrahent K" \
+  " where D.KontrId = K.KontrId and D.TowId "
+constexpr TypPola kKolumnyDostawcow[] = {TypPola::Calkowite, TypPola::Calkowite, TypPola::Tekst};
+
+DostawcyTowaru::Dostawca OdczytanyDostawca(const Odczyt& wiersz) {
+  const std::string_view nip = wiersz[2].AsUtf8();
+  return {static_cast<int>(wiersz[1].AsInteger()),
+          std::any_of(nip.begin(), nip.end(), [](char c) { return c >= '0' && c <= '9'; })};
+}
+
+template <typename Szczegol>
+void CzytajWielu(TVLTBazaDanych& baza, const std::string& sql, std::span<const TypPola> kolumny,
+                 const ListaId& towary, Szczegol (*odczytany)(const Odczyt&),
+                 const std::function<void(int, Szczegol)>& przyjmij) {
+  for (auto odczyt = baza.Otworz(sql, kolumny, towary.Parametry()); odczyt.Nastepny();)
+    przyjmij(static_cast<int>(odczyt[0].AsInteger()), odczytany(odczyt));
 }
 }  // namespace
 
@@ -46,11 +73,18 @@ void WartosciParametrow::Wyczysc() {
 
 void WartosciParametrow::Wczytaj(TVLTBazaDanych& baza, int towId) {
   m_wartosci.clear();
-  for (auto odczyt = baza.Otworz("select ParId, Wartosc from TowWartosc where TowId = :TowId order by ParId",
-                                 {TypPola::Calkowite, TypPola::Dziesietne}, {{"TowId", towId}});
+  const Parametr parametry[] = {{"TowId", towId}};
+  for (auto odczyt =
+           baza.Otworz(ZORVIK_SELECT_WARTOSCI "= :TowId order by ParId", kKolumnyWartosci, parametry);
        odczyt.Nastepny();)
-    m_wartosci.emplace_back(static_cast<int>(odczyt[0].AsInteger()), odczyt[1].AsFloat());
+    m_wartosci.push_back(OdczytanaWartosc(odczyt));
   m_zBazy = m_wartosci;
+}
+
+void WartosciParametrow::Wczytaj(TVLTBazaDanych& baza, const ListaId& towary,
+                                 const std::function<void(int towId, Pozycja)>& przyjmij) {
+  static const std::string sql = ZORVIK_SELECT_WARTOSCI + ListaId::Warunek() + " order by TowId, ParId";
+  CzytajWielu(baza, sql, kKolumnyWartosci, towary, OdczytanaWartosc, przyjmij);
 }
 
 void WartosciParametrow::Zapisz(TVLTBazaDanych& baza, int towId) const {
@@ -95,15 +129,19 @@ void DostawcyTowaru::Wyczysc() {
 
 void DostawcyTowaru::Wczytaj(TVLTBazaDanych& baza, int towId) {
   m_dostawcy.clear();
-  for (auto odczyt = baza.Otworz("select D.KontrId, K.NIP from TowDostawca D, Kontrahent K"
-                                 " where D.KontrId = K.KontrId and D.TowId = :TowId order by D.Kolejnosc",
-                                 {TypPola::Calkowite, TypPola::Tekst}, {{"TowId", towId}});
-       odczyt.Nastepny();) {
-    const std::string_view nip = odczyt[1].AsUtf8();
-    m_dostawcy.push_back({static_cast<int>(odczyt[0].AsInteger()),
-                          std::any_of(nip.begin(), nip.end(), [](char c) { return c >= '0' && c <= '9'; })});
-  }
+  const Parametr parametry[] = {{"TowId", towId}};
+  for (auto odczyt =
+           baza.Otworz(ZORVIK_SELECT_DOSTAWCOW "= :TowId order by D.Kolejnosc", kKolumnyDostawcow, parametry);
+       odczyt.Nastepny();)
+    m_dostawcy.push_back(OdczytanyDostawca(odczyt));
   m_zBazy = m_dostawcy;
+}
+
+void DostawcyTowaru::Wczytaj(TVLTBazaDanych& baza, const ListaId& towary,
+                             const std::function<void(int towId, Dostawca)>& przyjmij) {
+  static const std::string sql =
+      ZORVIK_SELECT_DOSTAWCOW + ListaId::Warunek() + " order by D.TowId, D.Kolejnosc";
+  CzytajWielu(baza, sql, kKolumnyDostawcow, towary, OdczytanyDostawca, przyjmij);
 }
 
 void DostawcyTowaru::Zapisz(TVLTBazaDanych& baza, int towId) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <utility>
@@ -7,6 +8,7 @@
 
 #include <QString>
 
+class ListaId;
 class TVLTBazaDanych;
 
 // Details of one good beside its additional codes. Each is a value inside the good's record and knows what
@@ -28,6 +30,14 @@ class WartosciParametrow {
 
   void Wyczysc();
   void Wczytaj(TVLTBazaDanych& baza, int towId);
+  // Those of many goods, every good's by ParId.
+  static void Wczytaj(TVLTBazaDanych& baza, const ListaId& towary,
+                      const std::function<void(int towId, Pozycja)>& przyjmij);
+  // Values that were read already, by ParId.
+  void UstawZBazy(std::vector<Pozycja> wartosci) {
+    m_wartosci = std::move(wartosci);
+    m_zBazy = m_wartosci;
+  }
   void Zapisz(TVLTBazaDanych& baza, int towId) const;
   void ZatwierdzZmiany() { m_zBazy = m_wartosci; }
 
@@ -54,6 +64,14 @@ class DostawcyTowaru {
 
   void Wyczysc();
   void Wczytaj(TVLTBazaDanych& baza, int towId);
+  // Those of many goods, every good's in their order.
+  static void Wczytaj(TVLTBazaDanych& baza, const ListaId& towary,
+                      const std::function<void(int towId, Dostawca)>& przyjmij);
+  // Suppliers that were read already, in their order.
+  void UstawZBazy(std::vector<Dostawca> dostawcy) {
+    m_dostawcy = std::move(dostawcy);
+    m_zBazy = m_dostawcy;
+  }
   void Zapisz(TVLTBazaDanych& baza, int towId) const;
   void ZatwierdzZmiany() { m_zBazy = m_dostawcy; }
 

@@ -9,7 +9,9 @@
 #include "model/szukanie_towaru.h"
 #include "model/tabele_dziennika.h"
 #include "model/towar_plan.h"
+#include "model/towar_select.h"
 #include "model/zakresy.h"
+#include "model/zapas_towarow.h"
 #include "platform/baza/dialekt.h"
 #include "platform/baza/sesja.h"
 #include "platform/baza/transakcja.h"
@@ -72,6 +74,10 @@ TVLTBuforTowarow::Teksty ZbierzTeksty(const TKMQuery& query, const std::vector<K
 
 }  // namespace
 
+std::span<const OpisPola> PolaTowaru() {
+  return kPola;
+}
+
 OtoczenieZParametrow::OtoczenieZParametrow(KontekstSesji& context) {
   TDmVLTListaKodowWazonych formaty(context);
   formaty.Otworz();
@@ -83,20 +89,20 @@ OtoczenieZParametrow::~OtoczenieZParametrow() = default;
 
 TDmVLTTowar::TDmVLTTowar(KontekstSesji& context, const OtoczenieTowarow& otoczenie)
     : TDmVLTElement(context, kPola), m_otoczenie(otoczenie), m_nowyWiersz(NowyWiersz(context.parametry)) {
-  // The columns of T.* come in the order of table Towar.
-  constexpr char kSelect[] =
-      "select T.*, P.OpakId, P.IleWOpak, P.Tandem from Towar T left outer join Powiazanie P"
-      " on (T.TowId = P.TowId) where T.TowId = :TowId";
-  constexpr char kSelectBezOuterJoin[] =
-      "select T.*, P.OpakId, P.IleWOpak, P.Tandem from Towar T, Powiazanie P"
-      " where T.TowId *= P.TowId and T.TowId = :TowId";
-  Query.SetSql(context.baza.Jezyk().ZnaOuterJoin() ? kSelect : kSelectBezOuterJoin);
+  const char* const select =
+      context.baza.Jezyk().ZnaOuterJoin() ? kSelectTowaru : kSelectTowaruBezOuterJoin;
+  Query.SetSql(std::string(select) + "= :TowId");
 }
 
 TDmVLTTowar::~TDmVLTTowar() = default;
 
 void TDmVLTTowar::SetLoadParams(int id) {
   Query.SetParam("TowId", id);
+}
+
+std::span<const Wartosc> TDmVLTTowar::OdczytanyWiersz(int id) const {
+  const OdczytanyTowar* const towar = m_otoczenie.zapas ? m_otoczenie.zapas->Znajdz(id) : nullptr;
+  return towar ? std::span<const Wartosc>(towar->wiersz) : std::span<const Wartosc>();
 }
 
 void TDmVLTTowar::ClearDetails() {
@@ -111,6 +117,12 @@ void TDmVLTTowar::ClearDetails() {
 void TDmVLTTowar::AfterLoad(bool isNew, int id) {
   if (isNew) {
     Query.UstawWiersz(m_nowyWiersz);
+    return;
+  }
+  if (const OdczytanyTowar* const towar = m_otoczenie.zapas ? m_otoczenie.zapas->Znajdz(id) : nullptr) {
+    m_kody.UstawZBazy(towar->kody);
+    m_wartosci.UstawZBazy(towar->wartosci);
+    m_dostawcy.UstawZBazy(towar->dostawcy);
     return;
   }
   m_kody.Wczytaj(Context.baza, id);
@@ -148,6 +160,10 @@ void TDmVLTTowar::UstawStawka(std::optional<int> stawka) {
 StanyTowaru& TDmVLTTowar::Stany() {
   if (!m_stany) m_stany.emplace().Wczytaj(Context.baza, Id());
   return *m_stany;
+}
+
+void TDmVLTTowar::ZapomnijOdczytany() const {
+  if (m_otoczenie.zapas) m_otoczenie.zapas->Zapomnij(Id());
 }
 
 QString TDmVLTTowar::Notatka() {
@@ -260,6 +276,7 @@ void TDmVLTTowar::Przywroc() {
 
 void TDmVLTTowar::UstawStatus(bool aktywny) {
   if (CzyKopia()) throw EVLTWDError(2033);
+  ZapomnijOdczytany();
   const std::string_view sql = aktywny
                                    ? "update Towar set Aktywny = 1, Zmiana = getdate() where TowId = :TowId"
                                    : "update Towar set Aktywny = 0, Zmiana = getdate() where TowId = :TowId";

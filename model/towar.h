@@ -17,6 +17,7 @@
 
 class TDmVLTNazwySkrocone;
 class TVLTBazaDanych;
+class ZapasTowarow;
 struct RegulyKodow;
 struct SkrotyTowaru;
 
@@ -41,6 +42,8 @@ struct OtoczenieTowarow {
   PotwierdzoneSlowniki* potwierdzone = nullptr;
   // Whether central codes must be unique.
   bool unikalneCKU = false;
+  // Goods read ahead: loading one of them asks the database nothing. None: the database is always asked.
+  ZapasTowarow* zapas = nullptr;
 };
 
 // The same for work outside an import: code rules from the system parameters, rules of short names and
@@ -129,7 +132,7 @@ struct WynikWalidacji {
 // - what was read stays beside what was set: TakiSamJakWBazie and TekstyZBazy need no second reading, and the
 // update
 //   describes its changes from it;
-// - reading a good takes four selects (main row, additional codes, parameter values, suppliers); stock, note
+// - reading a good that was not read ahead takes four selects (main row, additional codes, parameter values, suppliers); stock, note
 // and
 //   registers are read when they are asked for;
 // - Zapisz first plans (validation, change description), then writes: refusals are EVLTWDError with the code
@@ -223,6 +226,7 @@ class TDmVLTTowar final : public TDmVLTElement {
     return "TowId";
   }
   void SetLoadParams(int id) override;
+  std::span<const Wartosc> OdczytanyWiersz(int id) const override;
   void ClearDetails() override;
   void AfterLoad(bool isNew, int id) override;
   int InsertRecord() override;
@@ -235,6 +239,7 @@ class TDmVLTTowar final : public TDmVLTElement {
 
   std::vector<QString> SkrotyDodatkowych() const;
   void UstawStatus(bool aktywny);
+  void ZapomnijOdczytany() const;
 
   WynikWalidacji SprawdzDoPlanu(Plan& plan) const;
   Plan Zaplanuj() const;

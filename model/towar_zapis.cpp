@@ -127,6 +127,7 @@ int TDmVLTTowar::InsertRecord() {
 }
 
 void TDmVLTTowar::UpdateRecord(int id) {
+  ZapomnijOdczytany();
   m_plan = std::make_unique<Plan>(Zaplanuj());
   ZOdmowaZapisu([&] {
     SprawdzKasy(id);

@@ -19,6 +19,7 @@ void PaczkaZapisow::Otworz() {
   if (m_otwarta) return;
   m_baza.StartTransakcji();
   m_otwarta = true;
+  ++m_numer;
   m_rekordow = 0;
   m_poczatek = Zegar::now();
   const long long znacznik = m_baza.ZnacznikObcychZmian();

@@ -44,6 +44,8 @@ class PaczkaZapisow {
   // Begins a batch when none is open.
   void Otworz();
   bool Otwarta() const { return m_otwarta; }
+  // Grows with every batch begun.
+  int Numer() const { return m_numer; }
   // Commits what is open; nothing when nothing is. Throws EBladBazy when the database could not, the batch is
   // then lost.
   void Zatwierdz();
@@ -59,6 +61,7 @@ class PaczkaZapisow {
   Liczniki& m_liczniki;
   RaportProblemow& m_raport;
   bool m_otwarta = false;
+  int m_numer = 0;
   int m_rekordow = 0;
   Zegar::time_point m_poczatek{};
   Zegar::time_point m_ostatniaPrzerwa = Zegar::now();

@@ -1,5 +1,7 @@
 #include "run/przebieg_importu.h"
 
+#include <utility>
+
 #include "exchange/czytnik.h"
 #include "exchange/pola_rekordu.h"
 #include "run/pytanie_o_liczbe_pol.h"
@@ -62,11 +64,13 @@ std::optional<KoniecPrzebiegu> PrzebiegImportu::PrzejrzyjPlik() {
 KoniecPrzebiegu PrzebiegImportu::Cialo() {
   PrzedRekordami();
   Postep().Faza(u"Numer aktualnego rekordu "_s, m_rekordow);
+  KolejkaRekordow kolejka(*m_czytnik);
   PytanieOLiczbePol pytanie(Operator());
   DlawikPostepu dlawik;
+  int numer = 0, paczka = 0;
   const auto pokazNumer = [&] {
-    Postep().Pozycja(m_czytnik->NumerRekordu());
-    Postep().DopiszLiczbe(m_czytnik->NumerRekordu());
+    Postep().Pozycja(numer);
+    Postep().DopiszLiczbe(numer);
   };
   const auto zakoncz = [&](KoniecPrzebiegu koniec) {
     pokazNumer();
@@ -74,28 +78,22 @@ KoniecPrzebiegu PrzebiegImportu::Cialo() {
     return koniec;
   };
   while (!Stop()) {
-    switch (m_czytnik->Nastepny()) {
-      case WynikCzytania::Pominiety:
-        continue;
-      case WynikCzytania::Koniec:
-        return zakoncz(KoniecPrzebiegu::Zakonczono);
-      case WynikCzytania::Blad:
-        m_paczka.Zatwierdz();
-        OglosBlad(m_czytnik->Blad()->naglowek, m_czytnik->Blad()->tekst);
-        return zakoncz(KoniecPrzebiegu::Blad);
-      case WynikCzytania::Rekord:
-        break;
-    }
+    if (!kolejka.Nastepny()) return zakoncz(PoOstatnimRekordzie(kolejka.Koniec()));
+    numer = kolejka.Biezacy().numer;
     if (dlawik.Przepusc()) pokazNumer();
     m_paczka.PrzedRekordem();
-    switch (pytanie.Zapytaj(m_czytnik->SprawdzLiczbePol())) {
+    const bool nowaPaczka = std::exchange(paczka, m_paczka.Numer()) != m_paczka.Numer();
+    if (nowaPaczka) kolejka.Zapomnij();
+    if (nowaPaczka || kolejka.PoczatekBloku()) CzytajZWyprzedzeniem(kolejka.OdBiezacego());
+    const RekordPliku& rekord = kolejka.Biezacy();
+    switch (pytanie.Zapytaj(rekord.niezgodnosc)) {
       case OdpowiedzLiczbaPol::Przerwij:
         return zakoncz(KoniecPrzebiegu::Przerwano);
       case OdpowiedzLiczbaPol::Pomin:
-        PominRekord();
+        PominRekord(rekord);
         break;
       case OdpowiedzLiczbaPol::Ignoruj:
-        if (Rekord(*m_czytnik) == PoRekordzie::Stop) {
+        if (Rekord(rekord) == PoRekordzie::Stop) {
           zakoncz(KoniecPrzebiegu::Przerwano);
           return PrzerwanoPrzezOperatora();
         }
@@ -106,8 +104,15 @@ KoniecPrzebiegu PrzebiegImportu::Cialo() {
   return PrzerwanoPrzezOperatora();
 }
 
-void PrzebiegImportu::PominRekord() {
-  const PolaRekordu pola(m_czytnik->Linia(), Parametry().struktura.rodzaj, Parametry().separatorDziesietny);
+KoniecPrzebiegu PrzebiegImportu::PoOstatnimRekordzie(WynikCzytania wynik) {
+  if (wynik == WynikCzytania::Koniec) return KoniecPrzebiegu::Zakonczono;
+  m_paczka.Zatwierdz();
+  OglosBlad(m_czytnik->Blad()->naglowek, m_czytnik->Blad()->tekst);
+  return KoniecPrzebiegu::Blad;
+}
+
+void PrzebiegImportu::PominRekord(const RekordPliku& rekord) {
+  const PolaRekordu pola(rekord.Linia(), Parametry().struktura.rodzaj, Parametry().separatorDziesietny);
   m_raport.NowyRekord(pola.Tekst(m_polaNazwy.pierwsze), pola.Tekst(m_polaNazwy.drugie));
-  m_raport.Zglos(m_czytnik->SprawdzLiczbePol()->Pytanie().tekst);
+  m_raport.Zglos(rekord.niezgodnosc->Pytanie().tekst);
 }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "run/kolejka_rekordow.h"
 #include "run/przebieg.h"
 
 class Czytnik;
@@ -25,7 +26,10 @@ class PrzebiegImportu : public Przebieg {
   // Just before the first record; the file has been accepted.
   virtual void PrzedRekordami() = 0;
   // Deals with one record inside the open batch. Stop ends the run at the operator's wish.
-  virtual PoRekordzie Rekord(Czytnik& czytnik) = 0;
+  virtual PoRekordzie Rekord(const RekordPliku& rekord) = 0;
+  // Records that come next, inside the batch that is open now: what they need of the database can be read
+  // together. What was read ahead before does not hold any more when the batch is a new one.
+  virtual void CzytajZWyprzedzeniem(std::span<const RekordPliku> /*rekordy*/) {}
 
   // Fills a buffer as a phase of its own, with `maksimum` as the end of its bar. False: stopped.
   using PostepBufora = std::function<bool(int przeczytanych)>;
@@ -41,7 +45,8 @@ class PrzebiegImportu : public Przebieg {
 
  private:
   std::optional<KoniecPrzebiegu> PrzejrzyjPlik();
-  void PominRekord();
+  KoniecPrzebiegu PoOstatnimRekordzie(WynikCzytania wynik);
+  void PominRekord(const RekordPliku& rekord);
 
   const PolaNazwy m_polaNazwy;
   std::unique_ptr<Czytnik> m_czytnik;

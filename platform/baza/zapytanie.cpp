@@ -105,6 +105,14 @@ void TKMQuery::Open() {
   m_zmianyWierszy = false;
 }
 
+void TKMQuery::OpenZ(std::span<const Wartosc> wiersz) {
+  Close();
+  Append();
+  UstawWiersz(wiersz);
+  m_aktywny = true;
+  m_zmianyWierszy = false;
+}
+
 void TKMQuery::CzytajWiersze() {
   Odczyt odczyt = m_baza->Otworz(m_sql, m_typy, m_parametry);
   while (odczyt.Nastepny()) {

@@ -107,6 +107,8 @@ class TKMQuery final : public TMCustomDataSet {
   void SetTylkoPierwszy(bool tylko) { m_tylkoPierwszy = tylko; }
   // Throws EBladBazy of kind Polaczenie when the dataset is not bound; after any failure it is closed.
   void Open();
+  // Opens with one row that was read already.
+  void OpenZ(std::span<const Wartosc> wiersz);
   void Close();
 
   // Gives the current row these values as if they had been read: how a new record starts.

@@ -24,9 +24,10 @@ class PrzebiegProbny final : public PrzebiegImportu {
  protected:
   bool PrzygotujBufory() override { return true; }
   void PrzedRekordami() override {}
-  PoRekordzie Rekord(Czytnik& czytnik) override {
-    const QString kod = czytnik.Linia().Tekst();
-    const QString nazwa = czytnik.Linia().Tekst();
+  PoRekordzie Rekord(const RekordPliku& rekord) override {
+    LiniaRekordu linia = rekord.Linia();
+    const QString kod = linia.Tekst();
+    const QString nazwa = linia.Tekst();
     m_raport.NowyRekord(kod, nazwa);
     if (nazwa == u"stop") return PoRekordzie::Stop;
     if (nazwa == u"pytanie") Operator().PodajTekst({u"Uwaga"_s, u"Nazwa?"_s});
