@@ -45,6 +45,8 @@ class PrzebiegImportuKontrahentow final : public PrzebiegImportu {
     m_rekord.emplace(*m_kontekst);
   }
 
+  void PoWycofaniuPaczki() override { m_bufor.Uniewaznij(); }
+
   PoRekordzie Rekord(const RekordPliku& rekord) override {
     m_rekord->Przetworz(rekord);
     return PoRekordzie::Dalej;

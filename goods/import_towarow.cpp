@@ -89,6 +89,12 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
     m_rekord->CzytajZWyprzedzeniem(rekordy);
   }
 
+  void PoWycofaniuPaczki() override {
+    m_bufor.Cofnij();
+    m_zasoby->kodyWlasne.Zapomnij();
+    m_zasoby->skroty.CofnijPaczke();
+  }
+
   PoRekordzie Rekord(const RekordPliku& rekord) override { return m_rekord->Przetworz(rekord); }
 
   void PrzedPodsumowaniem() override {
@@ -121,6 +127,8 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
   // Inside the transaction nobody else writes, so that what is looked up in memory from here on holds.
   void PoOtwarciuPaczki(bool obceZmiany) {
     m_zasoby->zapas.Wyczysc();
+    m_zasoby->skroty.ZatwierdzPaczke();
+    m_bufor.Zatwierdz();
     m_bufor.SprawdzObceZmiany(Parametry().sesja.baza);
     if (!obceZmiany) return;
     m_zasoby->slowniki.Wczytaj();

@@ -39,11 +39,12 @@ bool TVLTBuforNip::Napelnij(TVLTBazaDanych& baza, const Postep& postep) {
       return false;
     }
   }
+  m_aktualny = true;
   return true;
 }
 
 void TVLTBuforNip::Odswiez(TVLTBazaDanych& baza) {
-  if (baza.ZnacznikObcychZmian() != m_znacznik) Napelnij(baza);
+  if (!m_aktualny || baza.ZnacznikObcychZmian() != m_znacznik) Napelnij(baza);
 }
 
 std::span<const int> TVLTBuforNip::Kontrahenci(QStringView nip) const {

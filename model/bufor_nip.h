@@ -30,6 +30,8 @@ class TVLTBuforNip {
   // Reads them anew when another connection has written since. Called at the start of every write
   // transaction: inside it the buffer then says what the database would.
   void Odswiez(TVLTBazaDanych& baza);
+  // A save was undone: the next Odswiez reads in any case.
+  void Uniewaznij() { m_aktualny = false; }
 
   // Identifiers of the contractors with the number, in ascending order; empty for a number without digits.
   std::span<const int> Kontrahenci(QStringView nip) const;
@@ -49,5 +51,6 @@ class TVLTBuforNip {
   Zawartosc m_zawartosc;
   QHash<QString, std::vector<int>> m_kontrahenci;
   QSet<QString> m_adresy;
+  bool m_aktualny = false;
   long long m_znacznik = 0;
 };

@@ -71,6 +71,7 @@ void TVLTBuforTowarow::Uniewaznij() {
   m_kody.clear();
   m_skroty.clear();
   m_nazwy.clear();
+  m_zmiany.clear();
   m_ilosc = 0;
   m_gotowy = false;
 }
@@ -97,11 +98,25 @@ bool TVLTBuforTowarow::MozeByNazwa(const QString& nazwa) const {
 }
 
 void TVLTBuforTowarow::Dodaj(int towId, const Teksty& teksty) {
-  Zmien(towId, {}, teksty);
+  m_zmiany.push_back({towId, {}, teksty, true});
+  Wpisz(towId, {}, teksty);
   ++m_ilosc;
 }
 
 void TVLTBuforTowarow::Zmien(int towId, const Teksty& bylo, const Teksty& jest) {
+  m_zmiany.push_back({towId, bylo, jest, false});
+  Wpisz(towId, bylo, jest);
+}
+
+void TVLTBuforTowarow::Cofnij() {
+  for (auto zmiana = m_zmiany.rbegin(); zmiana != m_zmiany.rend(); ++zmiana) {
+    Wpisz(zmiana->towId, zmiana->jest, zmiana->bylo);
+    if (zmiana->nowy) --m_ilosc;
+  }
+  m_zmiany.clear();
+}
+
+void TVLTBuforTowarow::Wpisz(int towId, const Teksty& bylo, const Teksty& jest) {
   const auto jeden = [towId](Indeks& indeks, const QString& stary, const QString& nowy) {
     if (stary == nowy) return;
     Wyjmij(indeks, stary, towId);

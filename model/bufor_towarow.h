@@ -11,10 +11,10 @@
 
 class TVLTBazaDanych;
 
-// The in-memory index of all goods: main and additional codes, short names and names, each text kept only as a 64-bit
-// fingerprint. A miss is certain as long as nobody else has written to the database; a hit is a candidate which the
-// caller confirms in the database by identifier. Filled by the first run of a program, kept for later ones; it changes
-// only after the change was stored, so that memory and database agree.
+// The in-memory index of all goods: main and additional codes, short names and names, each text kept only as
+// a 64-bit fingerprint. A miss is certain as long as nobody else has written to the database; a hit is a
+// candidate which the caller confirms in the database by identifier. Filled by the first run of a program,
+// kept for later ones; it changes only after the change was stored, so that memory and database agree.
 class TVLTBuforTowarow {
  public:
   // Called now and then with the number of goods read so far; false asks to stop.
@@ -26,8 +26,8 @@ class TVLTBuforTowarow {
   // After a failed commit memory may be ahead of the database: the next run fills the buffer anew.
   void Uniewaznij();
 
-  // Asks the session whether another connection has written since the buffer was filled. Called at the start of every
-  // write transaction, inside which the answer holds.
+  // Asks the session whether another connection has written since the buffer was filled. Called at the start
+  // of every write transaction, inside which the answer holds.
   void SprawdzObceZmiany(TVLTBazaDanych& baza);
   // True when a miss is as good as the database's word.
   bool BrakJestPewny() const { return !m_obceZmiany; }
@@ -42,23 +42,37 @@ class TVLTBuforTowarow {
   bool MozeBySkrot(const QString& skrot) const;
   bool MozeByNazwa(const QString& nazwa) const;
 
-  // The texts of one good as stored: the import hands over what was there before a save and what is there now.
+  // The texts of one good as stored: the import hands over what was there before a save and what is there
+  // now.
   struct Teksty {
     QString nazwa;
-    QString kod, skrot;                // main code and its short name
-    std::vector<QString> dodatkowe;    // additional codes
-    std::vector<QString> dodSkroty;    // their short names, in the same order
+    QString kod, skrot;              // main code and its short name
+    std::vector<QString> dodatkowe;  // additional codes
+    std::vector<QString> dodSkroty;  // their short names, in the same order
   };
+  // Remembered until the batch is committed or undone.
   void Dodaj(int towId, const Teksty& teksty);
   void Zmien(int towId, const Teksty& bylo, const Teksty& jest);
+
+  // What was told since the last of these two calls is stored for good; or it was undone.
+  void Zatwierdz() { m_zmiany.clear(); }
+  void Cofnij();
 
   int Ilosc() const { return m_ilosc; }
 
  private:
+  struct Zmiana {
+    int towId;
+    Teksty bylo, jest;
+    bool nowy;
+  };
+  void Wpisz(int towId, const Teksty& bylo, const Teksty& jest);
+
   using Indeks = std::unordered_multimap<std::uint64_t, int>;
   static std::vector<int> Kandydaci(const Indeks& indeks, const QString& tekst);
 
   Indeks m_kody, m_skroty, m_nazwy;
+  std::vector<Zmiana> m_zmiany;
   int m_ilosc = 0;
   bool m_gotowy = false;
   bool m_obceZmiany = false;

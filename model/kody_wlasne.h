@@ -39,6 +39,8 @@ class KodyWlasne {
   // The good with that code is stored. Also for codes that came from elsewhere during the run: a higher
   // number moves the sequence on.
   void Potwierdz(QStringView kod);
+  // Saves were undone: the first number is looked for again.
+  void Zapomnij() { m_nastepny = -1; }
 
  private:
   QString Kod(long long numer) const;

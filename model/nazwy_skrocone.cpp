@@ -340,8 +340,17 @@ std::optional<QString> TDmVLTNazwySkrocone::Utworz(const QString& nazwa, const S
 }
 
 void TDmVLTNazwySkrocone::Potwierdz() {
+  if (m_wstepne.isEmpty()) return;
   m_nadane.unite(m_wstepne);
+  m_nadaneWPaczce.unite(m_wstepne);
   m_wstepne.clear();
+}
+
+void TDmVLTNazwySkrocone::CofnijPaczke() {
+  m_nadane.subtract(m_nadaneWPaczce);
+  m_nadaneWPaczce.clear();
+  m_wstepne.clear();
+  m_odNumeru.clear();
 }
 
 void TDmVLTNazwySkrocone::Zwolnij() {

@@ -75,6 +75,9 @@ class TDmVLTNazwySkrocone {
                                 bool sprawdzajBaze, int numer = -1);
   void Potwierdz();
   void Zwolnij();
+  // The records saved since the last of these two calls are stored for good; or their saves were undone.
+  void ZatwierdzPaczke() { m_nadaneWPaczce.clear(); }
+  void CofnijPaczke();
 
  private:
   enum class Werdykt { Pusty, ZaKrotki, ZaDlugi, Znaki, Odstepy, Polskie, Male, Poprawny };
@@ -108,6 +111,7 @@ class TDmVLTNazwySkrocone {
   RegulySkrotow m_reguly;
   // Fingerprints of handed-out names: of saved records, and of the record in hand.
   QSet<size_t> m_nadane;
+  QSet<size_t> m_nadaneWPaczce;  // a part of them
   QSet<size_t> m_wstepne;
   // Per beginning of numbered names: the number below which all were found taken, so that thousands of equal
   // names do not search from 1 again. Only numbers held by stored names of other goods are counted.

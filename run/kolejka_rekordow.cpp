@@ -1,5 +1,7 @@
 #include "run/kolejka_rekordow.h"
 
+#include <algorithm>
+
 bool KolejkaRekordow::Nastepny() {
   if (m_rozpoczeta) ++m_biezacy;
   m_rozpoczeta = true;
@@ -7,14 +9,23 @@ bool KolejkaRekordow::Nastepny() {
   return m_biezacy < m_rekordy.size();
 }
 
+std::span<const RekordPliku> KolejkaRekordow::NowyBlok() {
+  if (m_biezacy < m_koniecBloku) return {};
+  m_koniecBloku = std::min(m_rekordy.size(), m_biezacy + kBlok);
+  return std::span(m_rekordy).subspan(m_biezacy, m_koniecBloku - m_biezacy);
+}
+
 void KolejkaRekordow::Zapomnij() {
   m_rekordy.erase(m_rekordy.begin(), m_rekordy.begin() + static_cast<std::ptrdiff_t>(m_biezacy));
-  m_poczatekBloku = m_poczatekBloku > m_biezacy ? m_poczatekBloku - m_biezacy : 0;
-  m_biezacy = 0;
+  m_biezacy = m_koniecBloku = 0;
+}
+
+void KolejkaRekordow::Wroc() {
+  m_biezacy = m_koniecBloku = 0;
+  m_rozpoczeta = false;
 }
 
 void KolejkaRekordow::CzytajBlok() {
-  m_poczatekBloku = m_biezacy;
   while (m_koniec == WynikCzytania::Rekord && m_rekordy.size() < m_biezacy + kBlok) {
     const WynikCzytania wynik = m_czytnik.Nastepny();
     if (wynik == WynikCzytania::Koniec || wynik == WynikCzytania::Blad) m_koniec = wynik;

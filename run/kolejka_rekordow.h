@@ -31,13 +31,13 @@ class KolejkaRekordow {
   WynikCzytania Koniec() const { return m_koniec; }
 
   const RekordPliku& Biezacy() const { return m_rekordy[m_biezacy]; }
-  // The one in hand and those read behind it.
-  std::span<const RekordPliku> OdBiezacego() const { return std::span(m_rekordy).subspan(m_biezacy); }
-  // Whether the one in hand is the first of those that were read together.
-  bool PoczatekBloku() const { return m_biezacy == m_poczatekBloku; }
+  // The one in hand and those behind it, at most kBlok, when they were not given before; nothing otherwise.
+  std::span<const RekordPliku> NowyBlok();
 
   // The records before the one in hand are not needed any more.
   void Zapomnij();
+  // Goes back to before the first record that is still kept.
+  void Wroc();
 
  private:
   void CzytajBlok();
@@ -45,7 +45,7 @@ class KolejkaRekordow {
   Czytnik& m_czytnik;
   std::vector<RekordPliku> m_rekordy;
   std::size_t m_biezacy = 0;
-  std::size_t m_poczatekBloku = 0;
+  std::size_t m_koniecBloku = 0;  // of the records given as a block
   bool m_rozpoczeta = false;
   WynikCzytania m_koniec = WynikCzytania::Rekord;  // anything else: the reader has come to its end
 };

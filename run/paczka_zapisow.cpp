@@ -19,7 +19,6 @@ void PaczkaZapisow::Otworz() {
   if (m_otwarta) return;
   m_baza.StartTransakcji();
   m_otwarta = true;
-  ++m_numer;
   m_rekordow = 0;
   m_poczatek = Zegar::now();
   const long long znacznik = m_baza.ZnacznikObcychZmian();
@@ -39,9 +38,16 @@ void PaczkaZapisow::Zatwierdz() {
       throw;
     }
     m_otwarta = false;
+    ++m_zakonczonych;
   }
   m_liczniki.Zatwierdz();
   m_raport.Zatwierdz();
+}
+
+void PaczkaZapisow::Wycofaj() noexcept {
+  Porzuc();
+  m_znacznik.reset();
+  ++m_zakonczonych;
 }
 
 void PaczkaZapisow::UratujCoSieDa() noexcept {

@@ -44,11 +44,14 @@ class PaczkaZapisow {
   // Begins a batch when none is open.
   void Otworz();
   bool Otwarta() const { return m_otwarta; }
-  // Grows with every batch begun.
-  int Numer() const { return m_numer; }
+  // How many batches have come to their end, committed or undone.
+  int Zakonczonych() const { return m_zakonczonych; }
   // Commits what is open; nothing when nothing is. Throws EBladBazy when the database could not, the batch is
   // then lost.
   void Zatwierdz();
+  // Undoes the open batch as if it had not been begun: its records can be gone through again. What is kept of
+  // the database is then read anew.
+  void Wycofaj() noexcept;
   // After an exception: keeps the whole units done so far when the database still can, drops them otherwise.
   void UratujCoSieDa() noexcept;
 
@@ -61,7 +64,7 @@ class PaczkaZapisow {
   Liczniki& m_liczniki;
   RaportProblemow& m_raport;
   bool m_otwarta = false;
-  int m_numer = 0;
+  int m_zakonczonych = 0;
   int m_rekordow = 0;
   Zegar::time_point m_poczatek{};
   Zegar::time_point m_ostatniaPrzerwa = Zegar::now();

@@ -1,12 +1,21 @@
 #include "run/przebieg_importu.h"
 
-#include <utility>
+#include <thread>
 
 #include "exchange/czytnik.h"
 #include "exchange/pola_rekordu.h"
+#include "platform/baza/blad_bazy.h"
 #include "run/pytanie_o_liczbe_pol.h"
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Programs that have met in a deadlock should not meet again at once.
+constexpr std::chrono::milliseconds kPrzedPowtorzeniem{20};
+constexpr int kNajwiecejPowtorzen = 3;
+
+}  // namespace
 
 PrzebiegImportu::PrzebiegImportu(const ParametryPrzebiegu& parametry, const OpisPrzebiegu& opis,
                                  PolaNazwy polaNazwy)
@@ -67,46 +76,82 @@ KoniecPrzebiegu PrzebiegImportu::Cialo() {
   KolejkaRekordow kolejka(*m_czytnik);
   PytanieOLiczbePol pytanie(Operator());
   DlawikPostepu dlawik;
-  int numer = 0, paczka = 0;
+  int numer = 0;
   const auto pokazNumer = [&] {
     Postep().Pozycja(numer);
     Postep().DopiszLiczbe(numer);
   };
-  const auto zakoncz = [&](KoniecPrzebiegu koniec) {
-    pokazNumer();
-    Postep().Gotowe();
-    return koniec;
-  };
-  while (!Stop()) {
-    if (!kolejka.Nastepny()) return zakoncz(PoOstatnimRekordzie(kolejka.Koniec()));
-    numer = kolejka.Biezacy().numer;
-    if (dlawik.Przepusc()) pokazNumer();
-    m_paczka.PrzedRekordem();
-    const bool nowaPaczka = std::exchange(paczka, m_paczka.Numer()) != m_paczka.Numer();
-    if (nowaPaczka) kolejka.Zapomnij();
-    if (nowaPaczka || kolejka.PoczatekBloku()) CzytajZWyprzedzeniem(kolejka.OdBiezacego());
-    const RekordPliku& rekord = kolejka.Biezacy();
-    switch (pytanie.Zapytaj(rekord.niezgodnosc)) {
-      case OdpowiedzLiczbaPol::Przerwij:
-        return zakoncz(KoniecPrzebiegu::Przerwano);
-      case OdpowiedzLiczbaPol::Pomin:
-        PominRekord(rekord);
-        break;
-      case OdpowiedzLiczbaPol::Ignoruj:
-        if (Rekord(rekord) == PoRekordzie::Stop) {
-          zakoncz(KoniecPrzebiegu::Przerwano);
-          return PrzerwanoPrzezOperatora();
-        }
+  Krok krok = Krok::Dalej;
+  while (krok == Krok::Dalej) try {
+      const bool stop = Stop();
+      if (stop || !kolejka.Nastepny()) {
+        m_paczka.Zatwierdz();  // here, where its records can still be gone through again
+        krok = stop ? Krok::Zatrzymany : Krok::Koniec;
+        continue;
+      }
+      numer = kolejka.Biezacy().numer;
+      if (dlawik.Przepusc()) pokazNumer();
+      OtworzPaczke(kolejka);
+      krok = Rozpatrz(kolejka.Biezacy(), pytanie);
+      ZapomnijZatwierdzone(kolejka);
+    } catch (const EBladBazy& blad) {
+      if (!PowtorzPaczke(blad, kolejka)) throw;
     }
-    m_liczniki.Zwieksz(Licznik::Rekordy);
+  pokazNumer();
+  Postep().Gotowe();
+  switch (krok) {
+    case Krok::Zatrzymany:
+      return PrzerwanoPrzezOperatora();
+    case Krok::Porzucony:
+      return KoniecPrzebiegu::Przerwano;
+    default:
+      return PoOstatnimRekordzie(kolejka.Koniec());
   }
-  zakoncz(KoniecPrzebiegu::Przerwano);
-  return PrzerwanoPrzezOperatora();
+}
+
+void PrzebiegImportu::OtworzPaczke(KolejkaRekordow& kolejka) {
+  m_paczka.PrzedRekordem();
+  if (ZapomnijZatwierdzone(kolejka)) m_powtorzen = 0;
+  if (const auto blok = kolejka.NowyBlok(); !blok.empty()) CzytajZWyprzedzeniem(blok);
+}
+
+// To be called wherever a batch may have been committed: the record in hand belongs to the next one.
+bool PrzebiegImportu::ZapomnijZatwierdzone(KolejkaRekordow& kolejka) {
+  if (m_zakonczonychPaczek == m_paczka.Zakonczonych()) return false;
+  m_zakonczonychPaczek = m_paczka.Zakonczonych();
+  kolejka.Zapomnij();
+  return true;
+}
+
+PrzebiegImportu::Krok PrzebiegImportu::Rozpatrz(const RekordPliku& rekord, PytanieOLiczbePol& pytanie) {
+  switch (pytanie.Zapytaj(rekord.niezgodnosc)) {
+    case OdpowiedzLiczbaPol::Przerwij:
+      return Krok::Porzucony;
+    case OdpowiedzLiczbaPol::Pomin:
+      PominRekord(rekord);
+      break;
+    case OdpowiedzLiczbaPol::Ignoruj:
+      if (Rekord(rekord) == PoRekordzie::Stop) return Krok::Zatrzymany;
+  }
+  m_liczniki.Zwieksz(Licznik::Rekordy);
+  return Krok::Dalej;
+}
+
+// The records of the batch come again.
+bool PrzebiegImportu::PowtorzPaczke(const EBladBazy& blad, KolejkaRekordow& kolejka) {
+  if (blad.Rodzaj() != RodzajBleduBazy::Kolizja || m_powtorzen == kNajwiecejPowtorzen) return false;
+  ++m_powtorzen;
+  ZapomnijZatwierdzone(kolejka);
+  m_paczka.Wycofaj();
+  PoWycofaniuPaczki();
+  kolejka.Wroc();
+  m_zakonczonychPaczek = m_paczka.Zakonczonych();
+  std::this_thread::sleep_for(kPrzedPowtorzeniem * m_powtorzen);
+  return true;
 }
 
 KoniecPrzebiegu PrzebiegImportu::PoOstatnimRekordzie(WynikCzytania wynik) {
   if (wynik == WynikCzytania::Koniec) return KoniecPrzebiegu::Zakonczono;
-  m_paczka.Zatwierdz();
   OglosBlad(m_czytnik->Blad()->naglowek, m_czytnik->Blad()->tekst);
   return KoniecPrzebiegu::Blad;
 }

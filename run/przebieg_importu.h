@@ -7,6 +7,8 @@
 #include "run/przebieg.h"
 
 class Czytnik;
+class EBladBazy;
+class PytanieOLiczbePol;
 
 // The two fields, by catalogue number, that name a record in the report.
 struct PolaNazwy {
@@ -28,8 +30,10 @@ class PrzebiegImportu : public Przebieg {
   // Deals with one record inside the open batch. Stop ends the run at the operator's wish.
   virtual PoRekordzie Rekord(const RekordPliku& rekord) = 0;
   // Records that come next, inside the batch that is open now: what they need of the database can be read
-  // together. What was read ahead before does not hold any more when the batch is a new one.
+  // together.
   virtual void CzytajZWyprzedzeniem(std::span<const RekordPliku> /*rekordy*/) {}
+  // The open batch was undone and its records come again: what outlives a batch goes back as well.
+  virtual void PoWycofaniuPaczki() {}
 
   // Fills a buffer as a phase of its own, with `maksimum` as the end of its bar. False: stopped.
   using PostepBufora = std::function<bool(int przeczytanych)>;
@@ -45,10 +49,22 @@ class PrzebiegImportu : public Przebieg {
 
  private:
   std::optional<KoniecPrzebiegu> PrzejrzyjPlik();
+  enum class Krok {
+    Dalej,
+    Koniec,      // of the file
+    Porzucony,   // by the answer to the question for the number of fields
+    Zatrzymany,  // by the operator
+  };
+  void OtworzPaczke(KolejkaRekordow& kolejka);
+  bool ZapomnijZatwierdzone(KolejkaRekordow& kolejka);
+  Krok Rozpatrz(const RekordPliku& rekord, PytanieOLiczbePol& pytanie);
+  bool PowtorzPaczke(const EBladBazy& blad, KolejkaRekordow& kolejka);
   KoniecPrzebiegu PoOstatnimRekordzie(WynikCzytania wynik);
   void PominRekord(const RekordPliku& rekord);
 
   const PolaNazwy m_polaNazwy;
   std::unique_ptr<Czytnik> m_czytnik;
   long long m_rekordow = 0;
+  int m_zakonczonychPaczek = 0;  // before the record in hand
+  int m_powtorzen = 0;           // of the open batch
 };

@@ -7,12 +7,13 @@ struct Tytul {
   RodzajBleduBazy rodzaj;
   const char16_t* tytul;
 };
-constexpr std::array<Tytul, 7> kTytuly{{
+constexpr std::array<Tytul, 8> kTytuly{{
     {RodzajBleduBazy::Polaczenie, u"Brak połączenia z bazą"},
     {RodzajBleduBazy::PelnyDysk, u"Brak miejsca na dysku bazy danych"},
     {RodzajBleduBazy::TylkoOdczyt, u"Baza danych jest tylko do odczytu"},
     {RodzajBleduBazy::Wejscie, u"Błąd odczytu lub zapisu pliku bazy danych"},
     {RodzajBleduBazy::Blokada, u"Baza danych jest zablokowana przez inny program"},
+    {RodzajBleduBazy::Kolizja, u"Zmiany kolidują ze zmianami innego programu"},
     {RodzajBleduBazy::Ograniczenie, u"Baza danych odrzuciła zapisywane wartości"},
     {RodzajBleduBazy::Inny, u"Błąd bazy danych"},
 }};

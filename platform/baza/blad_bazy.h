@@ -11,6 +11,7 @@ enum class RodzajBleduBazy {
   TylkoOdczyt,   // the database may not be written
   Wejscie,       // reading or writing the medium failed, the file is damaged or is no database
   Blokada,       // somebody else held a lock for longer than the time-out
+  Kolizja,       // a deadlock or a serialisation failure: the transaction may be tried again
   Ograniczenie,  // a constraint, range or length refused the values
   Inny
 };

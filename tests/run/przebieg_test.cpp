@@ -183,6 +183,39 @@ TEST_F(PrzebiegTest, PrzedPytaniemPaczkaJestZatwierdzona) {
   EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 2);
 }
 
+// The records of a batch that met other programs' changes come again, up to three times; whatever they were
+// asked and counted before counts once.
+TEST_F(PrzebiegTest, KolidujacaPaczkaJestPowtarzana) {
+  const struct {
+    const char* polecenie;
+    int ktore, razy;
+    KoniecPrzebiegu koniec;
+    long long zapisanych;
+  } przypadki[] = {
+      {"insert into Proba", 3, 1, KoniecPrzebiegu::Zakonczono, 3},
+      {"commit", 1, 3, KoniecPrzebiegu::Zakonczono, 3},
+      {"commit", 2, 1, KoniecPrzebiegu::Zakonczono, 3},
+      {"begin", 1, 2, KoniecPrzebiegu::Zakonczono, 3},
+      {"commit", 1, 4, KoniecPrzebiegu::Blad, 0},
+      {"insert into Proba", 3, 4, KoniecPrzebiegu::Blad, 1},
+  };
+  for (const auto& p : przypadki) {
+    SCOPED_TRACE(p.polecenie);
+    baza.baza.ExecSQL("delete from Proba");
+    int numer = 0;
+    baza.baza.UstawPodsluch([&](std::string_view sql) {
+      if (sql.starts_with(p.polecenie) && ++numer >= p.ktore && numer < p.ktore + p.razy)
+        throw EBladBazy(RodzajBleduBazy::Kolizja, u"Zakleszczenie"_s, {});
+    });
+    const WynikPrzebiegu wynik = Uruchom("1;a\n2;z\xB3y\n3;pytanie\n4;b\n");
+    baza.baza.UstawPodsluch({});
+    EXPECT_EQ(wynik.koniec, p.koniec);
+    EXPECT_EQ(Zapisanych(), p.zapisanych);
+    EXPECT_EQ(wynik.liczniki[Licznik::Dodane], p.zapisanych);
+    EXPECT_EQ(Pominiete().count('\n'), p.zapisanych == 0 ? 0 : 3);
+  }
+}
+
 // A commit that fails takes its batch with its counters and lines; the batches before it stay.
 TEST_F(PrzebiegTest, BladZatwierdzeniaKonczyPrzebieg) {
   constexpr int kPaczka = PaczkaZapisow::kNajwiecejRekordow;
