@@ -1,8 +1,8 @@
 #include "shell/okno/okno_glowne.h"
 
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -318,8 +318,10 @@ void Tfrm_main::OProgramieClick() {
       Ikona::Information);
 }
 
+// A modal window, such as that of a run, does not keep a drag away.
 void Tfrm_main::dragEnterEvent(QDragEnterEvent* zdarzenie) {
-  if (BiezacyRodzaj().kierunek == Kierunek::Import && !PrzeciaganyPlik(*zdarzenie->mimeData()).isEmpty())
+  if (!QApplication::activeModalWidget() && BiezacyRodzaj().kierunek == Kierunek::Import &&
+      !PrzeciaganyPlik(*zdarzenie->mimeData()).isEmpty())
     zdarzenie->acceptProposedAction();
 }
 
