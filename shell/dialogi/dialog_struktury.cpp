@@ -17,6 +17,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int kZnakowSlowa = 8;  // seen at once
+
 // What a person may enter, by file type; the rest the type fixes.
 struct Wprowadzane {
   bool separator;       // the group with its first three choices
@@ -85,6 +87,8 @@ void DialogStruktury::UlozKontrolki() {
                                    {m_ui->EdPoleOdbiorca, &S::EdPoleOdbiorca},
                                    {m_ui->EdPoleProducent, &S::EdPoleProducent},
                                    {m_ui->EdPoleSklep, &S::EdPoleSklep}});
+  for (const auto& [pole, slowo] : m_slowa)
+    pole->setMinimumWidth(pole->fontMetrics().averageCharWidth() * kZnakowSlowa);
 
   std::vector<PrzyciskDialogu> przyciski = {{u"Akceptuj"_s, u"Akceptuj"_s, u"F2"_s, [this] { Akceptuj(); }},
                                             {u"Pola"_s, u"Pola"_s, u"F3"_s, [this] { Pola(); }}};

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "model/kontekst.h"
@@ -125,6 +126,7 @@ PoleFormularza::PoleFormularza(const OpisPolaFormularza& opis, const QString& po
   uklad->setSpacing(0);
   uklad->addLayout(m_wiersz);
   uklad->addWidget(m_blad);
+  m_wiersz->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
   m_wiersz->addWidget(kontrolka);
   kontrolka->setObjectName(QString::fromLatin1(kolumna.FieldName()));
   kontrolka->setAccessibleName(podpis);

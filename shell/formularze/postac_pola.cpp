@@ -19,10 +19,15 @@ constexpr int kPozaZakresem = 2406;
 constexpr int kMiejscCeny = 2;
 constexpr double kProcentow = 100;
 constexpr double kDokladnoscProcentu = 1e6;  // 0.29 * 100 is not 29
+constexpr double kDokladnoscCeny = 1e4;      // a net price made of a gross one never ends
 constexpr char16_t kFormatDaty[] = u"dd.MM.yyyy";
 
 QString OpisBledu(int kod) {
   return katalog_bledow::Szukaj(katalog_bledow::Katalog::Dane, kod, {}).opis;
+}
+
+double Zaokraglona(double liczba, double dokladnosc) {
+  return std::round(liczba * dokladnosc) / dokladnosc;
 }
 
 // People type either mark.
@@ -117,10 +122,9 @@ QString PokazKolumne(RodzajPola rodzaj, const TMField& kolumna) {
     case RodzajPola::KwotaLubBrak:
       return kolumna.IsNull() ? QString() : PokazLiczbe(kolumna.AsFloat());
     case RodzajPola::Cena:
-      return PokazLiczbe(kolumna.AsFloat(), kMiejscCeny);
+      return PokazLiczbe(Zaokraglona(kolumna.AsFloat(), kDokladnoscCeny), kMiejscCeny);
     case RodzajPola::Procent:
-      return PokazLiczbe(std::round(kolumna.AsFloat() * kProcentow * kDokladnoscProcentu) /
-                         kDokladnoscProcentu);
+      return PokazLiczbe(Zaokraglona(kolumna.AsFloat() * kProcentow, kDokladnoscProcentu));
     case RodzajPola::Liczba:
       return QString::number(kolumna.AsInteger());
     case RodzajPola::LiczbaLubBrak:

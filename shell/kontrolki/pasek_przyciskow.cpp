@@ -19,7 +19,7 @@ TMStatusButtonBar::TMStatusButtonBar(QWidget* rodzic) : QWidget(rodzic), m_uklad
 
 // The way out goes to the far right, apart from the buttons that do something.
 TMStatusButton& TMStatusButtonBar::Dodaj(const QString& nazwa, const QString& tekst, const QString& klawisz) {
-  auto* const przycisk = new QPushButton(tekst + u"  "_s + klawisz, this);
+  auto* const przycisk = new QPushButton(klawisz.isEmpty() ? tekst : tekst + u"  "_s + klawisz, this);
   przycisk->setObjectName(nazwa);
   przycisk->setAccessibleName(tekst);
   przycisk->setAutoDefault(false);

@@ -23,7 +23,7 @@ namespace {
 
 // In characters.
 constexpr int kSzerokosciKolumn[] = {18, 36};
-constexpr int kSzerokosc = 120;
+constexpr int kSzerokosc = 136;
 constexpr int kWierszy = 34;
 
 // What the first column of the file holds.
