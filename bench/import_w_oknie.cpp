@@ -118,11 +118,12 @@ int main(int argc, char** argv) {
                          .plikKonfiguracji = slowa[3],
                          .katalogPominietych = slowa[4]});
   if (!okno.FormShow()) return 1;
-  QTimer::singleShot(0, &okno, [&] {
+  const auto importuj = [&] {
     osoba.puls.Zacznij();
     okno.findChild<QAction*>("ImportTowMenu"_L1)->trigger();
     QApplication::quit();
-  });
+  };
+  QMetaObject::invokeMethod(&okno, importuj, Qt::QueuedConnection);
   QApplication::exec();
   std::puts(QJsonDocument(osoba.wynik).toJson(QJsonDocument::Compact).constData());
   return osoba.wynik.isEmpty() ? 1 : 0;

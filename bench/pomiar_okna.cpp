@@ -79,7 +79,9 @@ class Seria {
     DodajBlokade("blokada przy jej sortowaniu", Ms(wynik, u"sortowanie"), tabela);
   }
 
-  Para czasy;  // the window and, as the plain program, the command line
+  // The window and, as the plain program, the command line.
+  Para czasy;
+  Para procesora;  // the same by the clock of the processor
   std::vector<double> polecenia, blokady;
 
  private:
@@ -87,14 +89,14 @@ class Seria {
 
   void Polecenie() {
     if (m_przypadek.pustaBaza) m_warsztat.NowaBaza(kBazaPolecenia);
-    czasy.wzorzec.push_back(m_warsztat
-                                .Zorvik({"import-towarow", m_plik, kBazaPolecenia, m_przypadek.konfiguracja,
-                                         '.', m_przypadek.licznik, m_ile})
-                                .sekund);
+    const Zuzycie zuzycie = m_warsztat.Zorvik({"import-towarow", m_plik, kBazaPolecenia,
+                                               m_przypadek.konfiguracja, '.', m_przypadek.licznik, m_ile});
+    czasy.wzorzec.push_back(zuzycie.sekund);
+    procesora.wzorzec.push_back(zuzycie.procesora);
   }
 
   struct PrzebiegOkna {
-    double sekund;
+    Przebieg program;
     QJsonObject wynik;
   };
   PrzebiegOkna UruchomOkno(const std::vector<std::string>& opcje = {}) const {
@@ -110,12 +112,13 @@ class Seria {
     const QString linia = QString::fromUtf8(m_przypadek.linia) + QString::number(m_ile);
     if (!wynik.value(u"linie").toArray().contains(linia))
       throw std::runtime_error("Okno nie doszło do: " + linia.toStdString() + '\n' + przebieg.wyjscie);
-    return {przebieg.sekund, wynik};
+    return {przebieg, wynik};
   }
 
   void Okno() {
-    const auto [sekund, wynik] = UruchomOkno();
-    czasy.zorvik.push_back(sekund);
+    const auto [program, wynik] = UruchomOkno();
+    czasy.zorvik.push_back(program.sekund);
+    procesora.zorvik.push_back(program.procesora);
     polecenia.push_back(wynik.value(u"polecenieS").toDouble());
     blokady.push_back(Ms(wynik, u"przebieg"));
   }
@@ -157,6 +160,8 @@ void ZmierzOkno(const Warsztat& warsztat, int ile, Tabela& tabela) {
 
   for (const Seria& seria : serie) {
     tabela.Dodaj(seria.Nazwa(), seria.czasy, kGranica);
+    tabela.Informacja("(czas procesora)", Sekundy(seria.procesora.Zorvik()),
+                      Sekundy(seria.procesora.Wzorzec()), Liczba("%.2f", seria.procesora.Stosunek()));
     tabela.Informacja("(od polecenia do końca przebiegu)", Sekundy(Mediana(seria.polecenia)));
     DodajBlokade("najdłuższa blokada okna (część 100 ms)", Najwiecej(seria.blokady), tabela);
   }

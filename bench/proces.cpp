@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -43,8 +44,11 @@ Przebieg Uruchom(const std::vector<std::string>& polecenie, const std::vector<st
   }
   ::close(potok[0]);
   int status = 0;
-  ::waitpid(pid, &status, 0);
+  struct rusage zuzycie {};
+  ::wait4(pid, &status, 0, &zuzycie);
   przebieg.sekund = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  for (const timeval& czas : {zuzycie.ru_utime, zuzycie.ru_stime})
+    przebieg.procesora += static_cast<double>(czas.tv_sec) + static_cast<double>(czas.tv_usec) / 1e6;
   if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
     std::string opis = "Nie powiodło się:";
     for (const std::string& a : polecenie) opis += ' ' + a;

@@ -5,7 +5,8 @@
 
 // What one run of a program took.
 struct Przebieg {
-  double sekund = 0;  // from start to end, by the clock on the wall
+  double sekund = 0;     // from start to end, by the clock on the wall
+  double procesora = 0;  // seconds of all its threads
   std::string wyjscie;
 };
 

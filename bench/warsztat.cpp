@@ -46,7 +46,7 @@ Zuzycie Warsztat::Zorvik(const Zadanie& z) const {
   double stronyB = 0, pamiecKb = 0;
   std::ifstream(Sciezka("licznik.txt")) >> oczekiwan >> stronyB >> pamiecKb;
   if (stronyB <= 0 || pamiecKb <= 0) throw std::runtime_error("Licznik nie zadziałał");
-  return {przebieg.sekund, oczekiwan, pamiecKb / 1024, stronyB / 1024 / 1024};
+  return {przebieg.sekund, przebieg.procesora, oczekiwan, pamiecKb / 1024, stronyB / 1024 / 1024};
 }
 
 double Warsztat::Wzorzec(const std::string& tryb, const std::string& baza, const std::string& plik) const {

@@ -8,9 +8,10 @@
 // What a run of the product took.
 struct Zuzycie {
   double sekund;
-  long oczekiwan;   // calls that wait for the disk
-  double pamiecMb;  // the most it held in memory
-  double stronyMb;  // of that: pages of the database, which SQLite keeps up to a limit of its own
+  double procesora;  // seconds
+  long oczekiwan;    // calls that wait for the disk
+  double pamiecMb;   // the most it held in memory
+  double stronyMb;   // of that: pages of the database, which SQLite keeps up to a limit of its own
 };
 
 // The measured programs and a folder for their files, emptied at the start. Errors: std::runtime_error.
