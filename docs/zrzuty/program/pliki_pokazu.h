@@ -10,6 +10,6 @@ QByteArray CennikZUbytkiem(const QByteArray& cennik);
 QByteArray CennikStalejSzerokosci(const QByteArray& cennik);
 // The same as a table with the columns KOD, NAZWA, CENA.
 QByteArray CennikDBase(const QByteArray& cennik);
-// The whole list, where a good without a name waits, with a good whose additional code has a taken short name,
-// a record cut short, and so many more that the run takes a while.
+// The whole list, where a good without a name waits, with a good whose additional code has a taken short
+// name, a record cut short, and so many more that the run takes a while.
 QByteArray CennikZPytaniami(const QByteArray& cennik);

@@ -192,7 +192,7 @@ void Zwiedzanie::Struktury() {
     U().plikImportuTow = plik;
     Struktura(u"struktura-"_s + nazwa);
     if (typ == TypPliku::StalaSzerokosc || typ == TypPliku::DBase) {
-      m_f.osoba = {[this](QDialog& dialog) {
+      m_f.osoba = {[](QDialog& dialog) {
                      Kliknij(dialog, "Pola");
                      Kliknij(dialog, "Wyjscie");
                    },
@@ -217,7 +217,7 @@ void Zwiedzanie::Struktury() {
 
 void Zwiedzanie::Dialogi() {
   U().plikImportuTow = u"cenniki/cennik.txt"_s;
-  m_f.osoba = {[this](QDialog& struktura) {
+  m_f.osoba = {[](QDialog& struktura) {
                  Kliknij(struktura, "Pola");
                  Kliknij(struktura, "OpisStawekVAT");
                  Kliknij(struktura, "Wyjscie");
