@@ -118,12 +118,14 @@ int main(int argc, char** argv) {
                          .plikKonfiguracji = slowa[3],
                          .katalogPominietych = slowa[4]});
   if (!okno.FormShow()) return 1;
-  const auto importuj = [&] {
+  QTimer start;
+  start.setSingleShot(true);
+  start.callOnTimeout([&] {
     osoba.puls.Zacznij();
     okno.findChild<QAction*>("ImportTowMenu"_L1)->trigger();
     QApplication::quit();
-  };
-  QMetaObject::invokeMethod(&okno, importuj, Qt::QueuedConnection);
+  });
+  start.start(0);
   QApplication::exec();
   std::puts(QJsonDocument(osoba.wynik).toJson(QJsonDocument::Compact).constData());
   return osoba.wynik.isEmpty() ? 1 : 0;
