@@ -26,6 +26,11 @@ std::vector<PozycjaListy> Pozycje(const std::vector<QString>& wartosci) {
   return pozycje;
 }
 
+// People name parameters: "&" is a letter there.
+QString BezSkrotow(QString podpis) {
+  return podpis.replace(u'&', u"&&"_s);
+}
+
 }  // namespace
 
 ParametryTowaru::ParametryTowaru(QWidget* rodzic) : QScrollArea(rodzic) {
@@ -63,7 +68,8 @@ void ParametryTowaru::PokazKategorie(int katId) {
       wiersz.wartosc.SetFloat(0);
     const QString podpis = Podpis(parId);
     wiersz.pole = UtworzPole(parId, podpis, wiersz.wartosc);
-    auto* const etykieta = new QLabel(podpis);
+    auto* const etykieta = new QLabel(BezSkrotow(podpis));
+    etykieta->setTextFormat(Qt::PlainText);
     uklad->addRow(etykieta, wiersz.pole);
     QWidget& kontrolka = wiersz.pole->Kontrolka();
     etykieta->setBuddy(&kontrolka);
@@ -94,6 +100,7 @@ QWidget* ParametryTowaru::Sprawdz() {
   QWidget* pierwsza = nullptr;
   for (const Wiersz& wiersz : m_wiersze)
     if (!wiersz.pole->Sprawdz() && !pierwsza) pierwsza = &wiersz.pole->Kontrolka();
+  if (pierwsza) ensureWidgetVisible(pierwsza);
   return pierwsza;
 }
 

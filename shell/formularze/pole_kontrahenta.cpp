@@ -10,6 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int kZnakowNipu = 20;
+constexpr int kOdstep = 6;
 }  // namespace
 
 WynikSzukania SzukajKontrahenta(TVLTBazaDanych& baza, const QString& nip) {
@@ -37,6 +38,7 @@ PoleKontrahenta::PoleKontrahenta(const OpisPolaFormularza& opis, const QString& 
   m_nazwa.setText(m_poprzedniaNazwa);
   m_nazwa.setTextFormat(Qt::PlainText);
   m_nazwa.setWordWrap(true);
+  m_nazwa.setContentsMargins(kOdstep, 0, 0, 0);
   m_nazwa.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   Dolacz(m_nazwa);
   connect(&m_edycja, &QLineEdit::editingFinished, this, [this] {
