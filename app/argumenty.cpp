@@ -49,8 +49,9 @@ bool PrzyjmijFlage(Argumenty& a, const QString& /*wartosc*/) {
 using A = Argumenty;
 
 constexpr Opcja kOpcje[] = {
-    {u"baza", u"BAZA", u"baza danych: ścieżka pliku albo sqlite:ŚCIEŻKA; bez tej opcji połączenie domyślne",
-     GrupaOpcji::Ustawienia | GrupaOpcji::Okno, PrzyjmijTekst<&A::baza>},
+    {u"baza", u"BAZA",
+     u"baza danych: ścieżka pliku, odbc:DSN=... albo odbc:@PLIK; bez tej opcji połączenie domyślne",
+     GrupaOpcji::Baza | GrupaOpcji::Ustawienia | GrupaOpcji::Okno, PrzyjmijTekst<&A::baza>},
     {u"konfiguracja", u"PLIK", u"plik konfiguracji stosowany po ustawieniach zapisanych w bazie",
      GrupaOpcji::Ustawienia | GrupaOpcji::Okno, PrzyjmijTekst<&A::konfiguracja>},
     {u"ustaw", u"KLUCZ=WARTOŚĆ", u"pojedyncze ustawienie, stosowane na końcu; opcję można powtarzać",

@@ -40,6 +40,7 @@ inline constexpr unsigned Ustawienia = 2;  // where settings come from
 inline constexpr unsigned Przebieg = 4;
 inline constexpr unsigned NowaBaza = 8;
 inline constexpr unsigned Okno = 16;
+inline constexpr unsigned Baza = 32;  // which database
 }  // namespace GrupaOpcji
 
 struct Opcja {

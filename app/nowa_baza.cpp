@@ -5,10 +5,12 @@
 #include <QFile>
 
 #include "app/argumenty.h"
+#include "app/srodowisko.h"
 #include "app/terminal.h"
 #include "database/schemat.h"
 #include "model/parametry_systemu.h"
 #include "platform/baza/sesja.h"
+#include "platform/baza/transakcja.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,37 +33,42 @@ void Zapelnij(TVLTBazaDanych& baza, bool demo) {
   std::vector<WpisKonfiguracji> wpisy;
   for (const auto& [parametr, wartosc] : ParametrySystemu::DomyslneKodowICen())
     wpisy.push_back({ParametrySystemu::KonfiguracjaKodow(), parametr, wartosc});
+  JednostkaZapisu calosc(baza);
   UtworzBaze(baza, wpisy);
   if (demo) DodajDaneDemo(baza);
+  calosc.Zatwierdz();
   baza.Utrwal();
 }
 
 }  // namespace
 
 WynikNowejBazy UtworzNowaBaze(ParametryPolaczenia parametry, bool demo) {
-  if (const auto powod = ZajmijNazwe(parametry.cel)) return {StatusWyjscia::Odmowa, *powod};
-  parametry.tworz = true;
+  const bool plik = parametry.rodzaj == ParametryPolaczenia::Rodzaj::Sqlite;
+  if (plik)
+    if (const auto powod = ZajmijNazwe(parametry.cel)) return {StatusWyjscia::Odmowa, *powod};
+  parametry.tworz = plik;
   TVLTBazaDanych baza(parametry);
   try {
     baza.Polacz();
+    if (!BazaPusta(baza))
+      return {StatusWyjscia::Odmowa, {u"UWAGA"_s, u"Baza danych %1 nie jest pusta"_s.arg(baza.Nazwa())}};
     Zapelnij(baza, demo);
     baza.Odlacz();
   } catch (const EMException& blad) {
     baza.Odlacz();
-    Usun(parametry);
+    if (plik) Usun(parametry);
     return {StatusWyjscia::Blad, KomunikatBledu(blad)};
   }
   return {};
 }
 
 StatusWyjscia WykonajNowaBaza(const Argumenty& argumenty) {
-  const auto parametry = ParametryPolaczenia::ZTekstu(*argumenty.plik);
-  if (!parametry) throw BladUzycia{u"Nieobsługiwany rodzaj bazy: \"%1\""_s.arg(*argumenty.plik)};
-  const WynikNowejBazy wynik = UtworzNowaBaze(*parametry, argumenty.demo);
+  const ParametryPolaczenia parametry = BazaZWierszaPolecen(*argumenty.plik);
+  const WynikNowejBazy wynik = UtworzNowaBaze(parametry, argumenty.demo);
   if (wynik.status != StatusWyjscia::Zakonczono)
     terminal::WypiszBlad(terminal::JednaLinia(wynik.powod) + u'\n');
   else
     terminal::Wypisz(
-        u"Utworzono bazę %1%2\n"_s.arg(parametry->cel, argumenty.demo ? u" z danymi pokazowymi"_s : u""_s));
+        u"Utworzono bazę %1%2\n"_s.arg(parametry.Opis(), argumenty.demo ? u" z danymi pokazowymi"_s : u""_s));
   return wynik.status;
 }

@@ -10,8 +10,9 @@ struct WynikNowejBazy {
   Komunikat powod = {};  // when it was not made
 };
 
-// Makes a new database file: schema, base data and, on demand, the data of a demo shop. A file that is there
-// already is left alone; a file that could not be finished is removed.
+// Makes a new database: schema, base data and, on demand, the data of a demo shop. A file that is there
+// already and a server's database that holds tables are left alone; a file that could not be finished is
+// removed, a server's database stays empty.
 WynikNowejBazy UtworzNowaBaze(ParametryPolaczenia parametry, bool demo);
 
 // The command that does it.

@@ -5,6 +5,7 @@
 #include "app/argumenty.h"
 #include "app/nowa_baza.h"
 #include "app/operacje.h"
+#include "app/sprawdz_baze.h"
 #include "app/srodowisko.h"
 #include "app/terminal.h"
 #include "ustawienia/rodzaje_przebiegow.h"
@@ -16,9 +17,15 @@ namespace {
 std::vector<PolecenieProgramu> UtworzPolecenia() {
   std::vector<PolecenieProgramu> polecenia = {
       {u"nowa-baza", ArgumentPliku::Wymagany, u"tworzy nową bazę danych",
-       u"Zakłada plik bazy ze stawkami VAT, regułami nazw skróconych i parametrami kodów.\n"
-       u"Istniejącego pliku nie nadpisuje.",
+       u"Zakłada bazę ze stawkami VAT, regułami nazw skróconych i parametrami kodów: plik albo tabele w "
+       u"pustej\n"
+       u"bazie serwera (odbc:DSN=..., odbc:@PLIK). Istniejącego pliku ani tabel nie nadpisuje.",
        GrupaOpcji::Ogolne | GrupaOpcji::NowaBaza, WykonajNowaBaza},
+      {u"sprawdz-baze", ArgumentPliku::Brak, u"mówi, czego bazie danych brakuje do pracy z programem",
+       u"Sprawdza tabele, kolumny, indeksy, prawa i kodowanie tekstów; niczego nie zmienia. Kod wyjścia: 0, "
+       u"gdy\n"
+       u"niczego nie brakuje, inaczej 3.",
+       GrupaOpcji::Ogolne | GrupaOpcji::Baza, WykonajSprawdzBaze},
       {u"ustawienia", ArgumentPliku::Brak, u"wypisuje obowiązujące ustawienia w postaci pliku konfiguracji",
        u"Kolejność: wartości domyślne, plik ZorvikDef.cfg z bieżącego katalogu, ustawienia zapisane\n"
        u"w bazie, --konfiguracja, --ustaw, a na końcu zależności między opcjami.",

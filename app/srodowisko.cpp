@@ -15,9 +15,7 @@ namespace {
 // False when no database was named and none is remembered.
 bool WskazBaze(const Argumenty& argumenty, TVLTBazaDanych& baza) {
   if (!argumenty.baza) return baza.WczytajDomyslnePolaczenie();
-  const auto parametry = ParametryPolaczenia::ZTekstu(*argumenty.baza);
-  if (!parametry) throw BladUzycia{u"Nieobsługiwany rodzaj bazy: \"%1\""_s.arg(*argumenty.baza)};
-  baza.UstawPolaczenie(*parametry);
+  baza.UstawPolaczenie(BazaZWierszaPolecen(*argumenty.baza));
   return true;
 }
 
@@ -43,11 +41,25 @@ bool WczytajUstawienia(const Argumenty& argumenty, const PokazKomunikat& pokaz, 
 
 }  // namespace
 
+ParametryPolaczenia BazaZWierszaPolecen(const QString& tekst) {
+  const auto parametry = ParametryPolaczenia::ZTekstu(tekst);
+  if (!parametry) throw BladUzycia{u"Nie wskazano bazy danych: \"%1\""_s.arg(tekst)};
+  if (parametry->MaHaslo())
+    throw BladUzycia{
+        u"Hasła nie podaje się w wierszu poleceń, bo widać je na liście procesów: zapisz je w źródle danych "
+        u"(odbc:DSN=...) albo cały opis połączenia w pliku (odbc:@PLIK)"_s};
+  return *parametry;
+}
+
+void WymagajBazy(const Argumenty& argumenty, TVLTBazaDanych& baza) {
+  if (!WskazBaze(argumenty, baza))
+    throw BladUzycia{u"Nie wskazano bazy danych (--baza), a domyślnego połączenia nie zapamiętano"_s};
+}
+
 bool Przygotuj(const Argumenty& argumenty, PotrzebaBazy potrzeba, const PokazKomunikat& pokaz,
                Srodowisko& srodowisko) {
-  const bool wskazana = WskazBaze(argumenty, srodowisko.baza);
-  if (!wskazana && potrzeba == PotrzebaBazy::Konieczna)
-    throw BladUzycia{u"Nie wskazano bazy danych (--baza), a domyślnego połączenia nie zapamiętano"_s};
+  if (potrzeba == PotrzebaBazy::Konieczna) WymagajBazy(argumenty, srodowisko.baza);
+  const bool wskazana = potrzeba == PotrzebaBazy::Konieczna || WskazBaze(argumenty, srodowisko.baza);
   try {
     if (wskazana) {
       srodowisko.baza.Polacz();

@@ -18,6 +18,12 @@ struct Srodowisko {
   Ustawienia ustawienia;
 };
 
+// The database that the command line names. Throws BladUzycia: a password has no place where everybody can
+// read it in the list of processes.
+ParametryPolaczenia BazaZWierszaPolecen(const QString& tekst);
+// Gives the session the named database or the remembered one. Throws BladUzycia when there is neither.
+void WymagajBazy(const Argumenty& argumenty, TVLTBazaDanych& baza);
+
 enum class PotrzebaBazy {
   Konieczna,
   Opcjonalna  // without a named or remembered database the settings come from the other places

@@ -9,6 +9,7 @@
 #include "app/argumenty.h"
 #include "app/nowa_baza.h"
 #include "app/polecenia.h"
+#include "app/srodowisko.h"
 #include "app/terminal.h"
 #include "shell/okno/okno_glowne.h"
 #include "shell/prezenter.h"
@@ -61,18 +62,15 @@ Argumenty Rozbierz(const QStringList& slowa) {
 
 StartOkna Start(const Argumenty& argumenty) {
   StartOkna start{.katalogStartowy = QDir::currentPath(),
-                  .utworzBaze = [](const QString& sciezka) -> std::optional<Komunikat> {
-                    ParametryPolaczenia parametry;
-                    parametry.cel = sciezka;
-                    const WynikNowejBazy wynik = UtworzNowaBaze(std::move(parametry), false);
+                  .utworzBaze = [](const ParametryPolaczenia& parametry) -> std::optional<Komunikat> {
+                    const WynikNowejBazy wynik = UtworzNowaBaze(parametry, false);
                     if (wynik.status == StatusWyjscia::Zakonczono) return std::nullopt;
                     return wynik.powod;
                   },
                   .plikKonfiguracji = argumenty.konfiguracja,
                   .katalogPominietych = argumenty.pominiete.value_or(QString())};
   if (!argumenty.baza) return start;
-  start.baza = ParametryPolaczenia::ZTekstu(*argumenty.baza);
-  if (!start.baza) throw BladUzycia{u"Nieobsługiwany rodzaj bazy: \"%1\""_s.arg(*argumenty.baza)};
+  start.baza = BazaZWierszaPolecen(*argumenty.baza);
   return start;
 }
 

@@ -33,9 +33,10 @@ function(zorvik_pokoj nazwa)
     <QByteArray> <QString> <array> <functional> <memory> <optional> <string> <unordered_map> <vector>)
 endfunction()
 
-# zorvik_test(NAME SOURCES files... LINK targets...): one GoogleTest program for one room.
+# zorvik_test(NAME [SERWER] SOURCES files... LINK targets...): one GoogleTest program for one room. With SERWER
+# its tests run a second time, "serwer.…", on a database of the test server instead of on files.
 function(zorvik_test nazwa)
-  cmake_parse_arguments(P "" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(P "SERWER" "" "SOURCES;LINK" ${ARGN})
   set(widok "${PROJECT_BINARY_DIR}/naglowki/tests")
   file(MAKE_DIRECTORY "${widok}")
   file(CREATE_LINK "${PROJECT_SOURCE_DIR}/tests" "${widok}/tests" SYMBOLIC)
@@ -45,4 +46,9 @@ function(zorvik_test nazwa)
   target_precompile_headers(test_${nazwa} PRIVATE
     <gmock/gmock.h> "${PROJECT_SOURCE_DIR}/tests/wspolne/drukowanie.h" <QString> <QByteArray> <string> <vector>)
   gtest_discover_tests(test_${nazwa} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+  if(P_SERWER)
+    gtest_discover_tests(test_${nazwa} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 TEST_PREFIX serwer.
+      TEST_LIST test_${nazwa}_SERWER
+      PROPERTIES TIMEOUT 300 LABELS serwer ENVIRONMENT ZORVIK_TEST_BAZA=odbc)
+  endif()
 endfunction()

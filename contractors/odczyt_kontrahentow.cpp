@@ -10,14 +10,14 @@ namespace {
 constexpr OpisPola kPola[] = {ZORVIK_POLA_KONTRAHENTA(ZORVIK_OPIS)};
 constexpr auto kKontrahent = std::span(kPola).first(KolumnaKontrahenta::Zmiana);
 constexpr OpisPola kSklep[] = {{"SklepId", TypPola::Calkowite}};
-constexpr OpisPola kOsoba[] = {{"KontrId", TypPola::Calkowite}, {"Nazwisko", TypPola::Tekst}};
 
 }  // namespace
 
 OdczytKontrahentow::OdczytKontrahentow(TVLTBazaDanych& baza)
     : m_kontrahenci(baza, "Kontrahent", kKontrahent),
       m_sklepy(baza, "Sklep", kSklep),
-      m_osoby(baza, "Osoba", kOsoba) {}
+      m_osoby(baza.Otworz("select KontrId, Nazwisko from Osoba order by KontrId, rowid",
+                          {TypPola::Calkowite, TypPola::Tekst})) {}
 
 const DaneKontrahenta& OdczytKontrahentow::Wczytaj(int kontrId) {
   if (!m_kontrahenci.Siegnij(kontrId)) throw EVLTWDError(2001, nullptr, QString::number(kontrId));

@@ -354,6 +354,7 @@ void DodajDaneDemo(TVLTBazaDanych& baza) {
   JednostkaZapisu jednostka(baza);
   for (const std::string_view instrukcja : kSlowniki) baza.ExecSQL(instrukcja);
   DodajKontrahentow(baza);
+  WyrownajAutoKlucze(baza);
   for (const Towar& towar : kTowary) DodajTowar(baza, towar);
   jednostka.Zatwierdz();
 }

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include <QStringList>
+
 #include "platform/baza/dialekt.h"
 #include "platform/baza/sesja.h"
 #include "platform/baza/transakcja.h"
@@ -13,10 +15,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // The whole schema in the order it is made. Types stand as tokens which the dialect spells out:
-// {klucz} automatic primary key, {calk} integer, {dzies} decimal number, {tekst} unbounded text, {czas} date
-// and time. Columns that a save always fills carry no default; the others get one, so that every row is
-// whole. Identifiers of "none" are null. Nothing refers to Vat: its rows are deleted and written anew on
-// every change.
+// {klucz} automatic primary key, {calk} integer, {dzies} decimal number, {tekst} text, {dlugi} long text,
+// {czas} date and time. Columns that a save always fills carry no default; the others get one, so that every
+// row is whole. Identifiers of "none" are null. Nothing refers to Vat: its rows are deleted and written anew
+// on every change.
 constexpr std::string_view kSchemat[] = {
     // Dictionaries
     R"(create table Asort (
@@ -212,7 +214,7 @@ constexpr std::string_view kSchemat[] = {
     R"(create table Notatki (
         TowId {calk} not null references Towar (TowId),
         Kolejnosc {calk} not null,
-        Tekst {tekst},
+        Tekst {dlugi},
         KoniecLinii {calk} default 0,
         primary key (TowId, Kolejnosc)))",
 
@@ -240,22 +242,45 @@ constexpr std::string_view kSchemat[] = {
         Nazwa {tekst} not null,
         Kolejnosc {calk} not null,
         Parametr {tekst} not null,
-        Wartosc {tekst},
+        Wartosc {dlugi},
         primary key (Nazwa, Kolejnosc)))",
     R"(create table DziennikZmian (
         Czas {czas} not null,
         Tabela {calk} not null,
-        Opis {tekst},
+        Opis {dlugi},
         Id1 {calk},
         Id2 {calk}))",
+};
 
-    // A stock row for every good in every warehouse: nobody else inserts into Istw
-    R"(create trigger TowarIstw after insert on Towar begin
-        insert into Istw (TowId, MagId) select new.TowId, MagId from Magazyn;
-      end)",
-    R"(create trigger MagazynIstw after insert on Magazyn begin
-        insert into Istw (TowId, MagId) select TowId, new.MagId from Towar;
-      end)",
+// A stock row for every good in every warehouse: nobody else inserts into Istw. {nowe} are the new rows.
+struct Wyzwalacz {
+  const char *nazwa, *tabela, *klucz, *polecenie;
+};
+constexpr Wyzwalacz kWyzwalacze[] = {
+    {"TowarIstw", "Towar", "TowId",
+     "insert into Istw (TowId, MagId) select N.TowId, M.MagId from {nowe} N, Magazyn M"},
+    {"MagazynIstw", "Magazyn", "MagId",
+     "insert into Istw (TowId, MagId) select T.TowId, N.MagId from Towar T, {nowe} N"},
+};
+
+// Servers bound their texts. The longest line of a file's field is far shorter; a line of the change log
+// holds some of them.
+constexpr int kZnakowTekstu = 1000;
+constexpr int kZnakowDlugiego = 100'000;
+
+constexpr PrawaTabeli kPrawa[] = {
+    {"Asort", true, true, false, "Nazwa"},         {"JM", true, true, false, "Nazwa"},
+    {"Vat", true, false, true, "Stawka"},          {"Magazyn", true, true, false, "Nazwa"},
+    {"Kategoria", true, true, false, "Nazwa"},     {"Parametr", true, true, false, "Nazwa"},
+    {"ParWartosc", true, false, true, "Wartosc"},  {"KatParam", true, false, true, "Kolejnosc"},
+    {"KodWazony", true, true, false, "Nazwa"},     {"Kontrahent", true, true, false, "Nazwa", true},
+    {"Sklep", true, true, true, "NrSklepu"},       {"Osoba", true, false, true, "Nazwisko"},
+    {"Towar", true, true, false, "Nazwa", true},   {"KodDod", true, true, true, "Kod"},
+    {"Istw", true, true, false, "StanMag"},        {"Powiazanie", true, false, true, "Tandem"},
+    {"TowWartosc", true, false, true, "Wartosc"},  {"TowDostawca", true, false, true, "Kolejnosc"},
+    {"Notatki", true, false, true, "Tekst"},       {"KasTow", false, true, false, "ZmianyInne"},
+    {"SklepFlagi", false, true, true, "Zmiana"},   {"Konfiguracja", true, false, true, "Wartosc"},
+    {"DziennikZmian", true, false, false, "Opis"},
 };
 
 // In hundredths of a percent; -1 is the exempt rate.
@@ -274,8 +299,11 @@ const WpisKonfiguracji kNazwySkrocone[] = {
 
 std::string Rozwin(std::string_view instrukcja, const Dialekt& dialekt) {
   const std::pair<std::string_view, std::string> typy[] = {
-      {"{klucz}", dialekt.TypAutoKlucz()},  {"{calk}", dialekt.TypCalkowity()},
-      {"{dzies}", dialekt.TypDziesietny()}, {"{tekst}", dialekt.TypTekst()},
+      {"{klucz}", dialekt.TypAutoKlucz()},
+      {"{calk}", dialekt.TypCalkowity()},
+      {"{dzies}", dialekt.TypDziesietny()},
+      {"{tekst}", dialekt.TypTekst(kZnakowTekstu)},
+      {"{dlugi}", dialekt.TypTekst(kZnakowDlugiego)},
       {"{czas}", dialekt.TypCzas()},
   };
   std::string wynik(instrukcja);
@@ -304,11 +332,62 @@ void ZapiszWpisy(TVLTBazaDanych& baza, std::span<const WpisKonfiguracji> wpisy) 
 
 void UtworzBaze(TVLTBazaDanych& baza, std::span<const WpisKonfiguracji> konfiguracja) {
   JednostkaZapisu jednostka(baza);
-  for (const std::string_view instrukcja : kSchemat) baza.ExecSQL(Rozwin(instrukcja, baza.Jezyk()));
+  const Dialekt& dialekt = baza.Jezyk();
+  for (const std::string_view instrukcja : kSchemat) baza.ExecSQL(Rozwin(instrukcja, dialekt));
+  for (const Wyzwalacz& w : kWyzwalacze)
+    for (const std::string& instrukcja : dialekt.Wyzwalacz(w.nazwa, w.tabela, w.klucz, w.polecenie))
+      baza.ExecSQL(instrukcja);
   for (const int stawka : kStawkiVat) {
     baza.ExecSQL("insert into Vat (Stawka) values (:Stawka)", {{"Stawka", stawka}});
   }
   ZapiszWpisy(baza, kNazwySkrocone);
   ZapiszWpisy(baza, konfiguracja);
   jednostka.Zatwierdz();
+}
+
+bool BazaPusta(TVLTBazaDanych& baza) {
+  return !baza.Otworz(baza.Jezyk().ListaTabel(), {TypPola::Tekst}).Nastepny();
+}
+
+void WyrownajAutoKlucze(TVLTBazaDanych& baza) {
+  for (const KolumnaSchematu& kolumna : KolumnySchematu()) {
+    if (kolumna.znacznik != "{klucz}") continue;
+    const std::string sql = baza.Jezyk().WyrownajAutoKlucz(kolumna.tabela, kolumna.nazwa);
+    if (!sql.empty()) baza.Otworz(sql, {TypPola::Calkowite}).Nastepny();
+  }
+}
+
+std::vector<KolumnaSchematu> KolumnySchematu() {
+  constexpr std::string_view kTabela = "create table ";
+  std::vector<KolumnaSchematu> kolumny;
+  for (const std::string_view instrukcja : kSchemat) {
+    if (!instrukcja.starts_with(kTabela)) continue;
+    const QStringList linie =
+        QString::fromUtf8(instrukcja.data(), static_cast<qsizetype>(instrukcja.size())).split(u'\n');
+    const std::string tabela = linie[0].section(u' ', 2, 2).toStdString();
+    for (const QString& linia : linie.mid(1)) {
+      const QStringList slowa = linia.simplified().split(u' ');
+      if (slowa.size() < 2 || !slowa[1].startsWith(u'{')) continue;
+      kolumny.push_back({tabela, slowa[0].toStdString(), slowa[1].section(u'}', 0, 0).toStdString() + '}'});
+    }
+  }
+  return kolumny;
+}
+
+std::vector<std::pair<std::string, std::string>> IndeksySchematu() {
+  constexpr std::string_view kIndeks = "create index ";
+  std::vector<std::pair<std::string, std::string>> indeksy;
+  for (const std::string_view instrukcja : kSchemat) {
+    if (!instrukcja.starts_with(kIndeks)) continue;
+    const QString tekst = QString::fromUtf8(instrukcja.data(), static_cast<qsizetype>(instrukcja.size()));
+    indeksy.emplace_back(tekst.section(u' ', 4, 4).toStdString(),
+                         tekst.section(u'(', 1).section(u')', 0, 0).section(u',', 0, 0).toStdString());
+  }
+  for (const KolumnaSchematu& kolumna : KolumnySchematu())
+    if (kolumna.znacznik == "{klucz}") indeksy.emplace_back(kolumna.tabela, kolumna.nazwa);
+  return indeksy;
+}
+
+std::span<const PrawaTabeli> PrawaTabel() {
+  return kPrawa;
 }

@@ -1,7 +1,11 @@
 #pragma once
 
-#include <QString>
 #include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <QString>
 
 class TVLTBazaDanych;
 
@@ -17,6 +21,31 @@ struct WpisKonfiguracji {
 // (EBladBazy, for instance because the tables are there already) leaves the database as it was. The base data
 // hold no dictionary entry, no warehouse and no contractor.
 void UtworzBaze(TVLTBazaDanych& baza, std::span<const WpisKonfiguracji> konfiguracja);
+
+// False when the database holds tables already.
+bool BazaPusta(TVLTBazaDanych& baza);
+
+// After rows were added with identifiers of their own: automatic ones go on behind them.
+void WyrownajAutoKlucze(TVLTBazaDanych& baza);
+
+// A column as the schema has it; the token tells its type ("{calk}").
+struct KolumnaSchematu {
+  std::string tabela;
+  std::string nazwa;
+  std::string znacznik;
+};
+std::vector<KolumnaSchematu> KolumnySchematu();
+// Table and first column of the indexes that the runs need.
+std::vector<std::pair<std::string, std::string>> IndeksySchematu();
+
+// What the program does with a table, beside reading it.
+struct PrawaTabeli {
+  const char* tabela;
+  bool dopisuje, poprawia, usuwa;
+  const char* kolumna;           // one of them
+  bool czytanaWcalosci = false;  // by "*": the order of its columns matters
+};
+std::span<const PrawaTabeli> PrawaTabel();
 
 // Adds a small shop's data to a new database: dictionaries, warehouses, categories with parameters, formats
 // of weighted codes, contractors and a few goods. One transaction.

@@ -45,7 +45,8 @@ const std::vector<Wartosc>& NowyWiersz() {
 }  // namespace
 
 TDmVLTKontrahent::TDmVLTKontrahent(KontekstSesji& context) : TDmVLTElement(context, kPola) {
-  Query.SetSql(context.baza.Jezyk().ZnaOuterJoin() ? kSelect : kSelectBezOuterJoin);
+  const Dialekt& jezyk = context.baza.Jezyk();
+  Query.SetSql((jezyk.ZnaOuterJoin() ? kSelect : kSelectBezOuterJoin) + jezyk.BlokadaWierszy("K"));
 }
 
 TDmVLTKontrahent::~TDmVLTKontrahent() = default;
@@ -66,7 +67,7 @@ void TDmVLTKontrahent::AfterLoad(bool isNew, int id) {
     return;
   }
   ZbieraczOsob osoby(m_osoby);
-  for (auto odczyt = Context.baza.Otworz("select Nazwisko from Osoba where KontrId = :KontrId",
+  for (auto odczyt = Context.baza.Otworz("select Nazwisko from Osoba where KontrId = :KontrId order by rowid",
                                          {TypPola::Tekst}, {{"KontrId", id}});
        odczyt.Nastepny();)
     osoby.Dodaj(odczyt[0].AsString());

@@ -89,9 +89,8 @@ OtoczenieZParametrow::~OtoczenieZParametrow() = default;
 
 TDmVLTTowar::TDmVLTTowar(KontekstSesji& context, const OtoczenieTowarow& otoczenie)
     : TDmVLTElement(context, kPola), m_otoczenie(otoczenie), m_nowyWiersz(NowyWiersz(context.parametry)) {
-  const char* const select =
-      context.baza.Jezyk().ZnaOuterJoin() ? kSelectTowaru : kSelectTowaruBezOuterJoin;
-  Query.SetSql(std::string(select) + "= :TowId");
+  const char* const select = context.baza.Jezyk().ZnaOuterJoin() ? kSelectTowaru : kSelectTowaruBezOuterJoin;
+  Query.SetSql(std::string(select) + "= :TowId" + context.baza.Jezyk().BlokadaWierszy("T"));
 }
 
 TDmVLTTowar::~TDmVLTTowar() = default;

@@ -7,13 +7,17 @@ struct Tytul {
   RodzajBleduBazy rodzaj;
   const char16_t* tytul;
 };
-constexpr std::array<Tytul, 8> kTytuly{{
+constexpr std::array<Tytul, 12> kTytuly{{
     {RodzajBleduBazy::Polaczenie, u"Brak połączenia z bazą"},
+    {RodzajBleduBazy::Logowanie, u"Serwer bazy danych odrzucił użytkownika lub hasło"},
+    {RodzajBleduBazy::Sterownik, u"Brak sterownika ODBC lub źródła danych"},
     {RodzajBleduBazy::PelnyDysk, u"Brak miejsca na dysku bazy danych"},
     {RodzajBleduBazy::TylkoOdczyt, u"Baza danych jest tylko do odczytu"},
     {RodzajBleduBazy::Wejscie, u"Błąd odczytu lub zapisu pliku bazy danych"},
     {RodzajBleduBazy::Blokada, u"Baza danych jest zablokowana przez inny program"},
+    {RodzajBleduBazy::Czas, u"Przekroczono czas oczekiwania na bazę danych"},
     {RodzajBleduBazy::Kolizja, u"Zmiany kolidują ze zmianami innego programu"},
+    {RodzajBleduBazy::Uprawnienia, u"Brak uprawnień do bazy danych"},
     {RodzajBleduBazy::Ograniczenie, u"Baza danych odrzuciła zapisywane wartości"},
     {RodzajBleduBazy::Inny, u"Błąd bazy danych"},
 }};

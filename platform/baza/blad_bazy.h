@@ -7,11 +7,15 @@
 // What a database failure means for a run.
 enum class RodzajBleduBazy {
   Polaczenie,    // the connection is lost or cannot be made
+  Logowanie,     // the server knows no such user or password
+  Sterownik,     // the ODBC driver or data source is missing
   PelnyDysk,     // no room for the data
   TylkoOdczyt,   // the database may not be written
   Wejscie,       // reading or writing the medium failed, the file is damaged or is no database
   Blokada,       // somebody else held a lock for longer than the time-out
+  Czas,          // a statement took longer than the server allows, or was cancelled there
   Kolizja,       // a deadlock or a serialisation failure: the transaction may be tried again
+  Uprawnienia,   // the database user may not do this
   Ograniczenie,  // a constraint, range or length refused the values
   Inny
 };

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include <QString>
 
@@ -11,6 +13,9 @@ class Dialekt {
   virtual ~Dialekt() = default;
 
   virtual QString Nazwa() const = 0;
+  // A statement of the common form in the words of the server: its clock for getdate(), the place of a row
+  // for rowid (rows in the order of their writing), quotes around the column names that it reserves.
+  virtual std::string Przeloz(std::string_view sql) const { return std::string(sql); }
   // The statement that returns the automatic key of the last insert.
   virtual std::string OstatnieAutoId() const = 0;
   // False where a server knows only the old outer join "*=" in the where clause.
@@ -18,12 +23,56 @@ class Dialekt {
   // Limits a select to its first rows; `select` begins with "select ".
   virtual std::string Pierwsze(int ile, const std::string& select) const = 0;
 
+  // Behind a select of rows that are written back as a whole: nobody else changes them until the transaction
+  // ends. `alias` names their table.
+  virtual std::string BlokadaWierszy(const std::string& /*alias*/) const { return {}; }
+
+  // Savepoints of a transaction; an empty text: there is nothing to do.
+  virtual std::string UstawPunkt(int poziom) const { return "savepoint p" + std::to_string(poziom); }
+  virtual std::string ZwolnijPunkt(int poziom) const { return "release p" + std::to_string(poziom); }
+  virtual std::string WycofDoPunktu(int poziom) const { return "rollback to p" + std::to_string(poziom); }
+
+  // Servers: the statements that make a new connection behave as the program expects.
+  virtual std::vector<std::string> UstawieniaSesji(int /*limitBlokadySekund*/) const { return {}; }
+  virtual std::string NazwaBazy() const { return {}; }  // a select
+  // Servers: a select of the number that a transaction keeps from its start to its end.
+  virtual std::string NumerTransakcji() const { return {}; }
+  // Servers: a select that returns when this transaction alone, of all importing programs, may write, and
+  // holds that right until the transaction ends.
+  virtual std::string BlokadaImportu() const { return {}; }
+
   // Column types of the schema.
   virtual std::string TypAutoKlucz() const = 0;  // an automatic integer primary key, "primary key" included
   virtual std::string TypCalkowity() const = 0;
   virtual std::string TypDziesietny() const = 0;
-  virtual std::string TypTekst() const = 0;  // unbounded
+  // A text of at most so many characters, compared and ordered by their codes. Only embedded databases take
+  // longer ones.
+  virtual std::string TypTekst(int znakow) const = 0;
   virtual std::string TypCzas() const = 0;
+  // The statements that make a trigger: after an insert into the table `polecenie` runs, in which {nowe}
+  // stands for the new rows' `klucz` column.
+  virtual std::vector<std::string> Wyzwalacz(const std::string& nazwa, const std::string& tabela,
+                                             const std::string& klucz, std::string polecenie) const = 0;
+  // After rows with identifiers of their own: the statement that makes the automatic ones go on behind them.
+  // Empty where they do so by themselves.
+  virtual std::string WyrownajAutoKlucz(const std::string& /*tabela*/, const std::string& /*klucz*/) const {
+    return {};
+  }
+
+  // What is in the program's part of the database, as selects. Tables: their names.
+  virtual std::string ListaTabel() const = 0;
+  // Columns: table, column, type, length of a bounded text (otherwise 0); in the order of the table.
+  virtual std::string KolumnyBazy() const = 0;
+  // Indexes: table, first column.
+  virtual std::string IndeksyBazy() const = 0;
+  // The encoding of texts; empty where they are always Unicode.
+  virtual std::string KodowanieBazy() const { return {}; }
+
+ protected:
+  // `tekst` with every `co` in it replaced.
+  static std::string Zamien(std::string tekst, std::string_view co, std::string_view na);
 };
 
 const Dialekt& DialektSqlite();
+const Dialekt& DialektPostgresql();
+const Dialekt& DialektTsql();

@@ -1,36 +1,73 @@
 #include "platform/baza/polaczenie.h"
 
+#include <algorithm>
+#include <vector>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
 
+#include "platform/baza/napis_odbc.h"
+
 namespace {
 
-constexpr QLatin1String kPrzedrostek("sqlite:");
+constexpr QLatin1String kSqlite("sqlite:");
+constexpr QLatin1String kOdbc("odbc:");
+constexpr QChar kZPliku(u'@');
+
+bool Haslo(const AtrybutOdbc& atrybut) {
+  return atrybut.klucz.compare(QLatin1String("PWD"), Qt::CaseInsensitive) == 0 ||
+         atrybut.klucz.compare(QLatin1String("Password"), Qt::CaseInsensitive) == 0;
+}
 
 }  // namespace
 
 QStringList ParametryPolaczenia::Pliki() const {
+  if (rodzaj != Rodzaj::Sqlite) return {};
   return {cel, cel + QLatin1String("-wal"), cel + QLatin1String("-shm"), cel + QLatin1String("-journal")};
 }
 
+QString ParametryPolaczenia::Opis() const {
+  if (rodzaj == Rodzaj::Sqlite) return cel;
+  if (!MaHaslo()) return kOdbc + cel;
+  std::vector<AtrybutOdbc> atrybuty = RozbierzNapisOdbc(cel);
+  std::erase_if(atrybuty, Haslo);
+  return kOdbc + ZlozNapisOdbc(atrybuty);
+}
+
+bool ParametryPolaczenia::MaHaslo() const {
+  if (rodzaj != Rodzaj::Odbc || cel.startsWith(kZPliku)) return false;
+  const std::vector<AtrybutOdbc> atrybuty = RozbierzNapisOdbc(cel);
+  return std::any_of(atrybuty.begin(), atrybuty.end(), Haslo);
+}
+
+void ParametryPolaczenia::UstawHaslo(const QString& haslo) {
+  if (haslo.isEmpty() || rodzaj != Rodzaj::Odbc || cel.startsWith(kZPliku)) return;
+  std::vector<AtrybutOdbc> atrybuty = RozbierzNapisOdbc(cel);
+  std::erase_if(atrybuty, Haslo);
+  atrybuty.push_back({QStringLiteral("PWD"), haslo});
+  cel = ZlozNapisOdbc(atrybuty);
+}
+
 std::optional<ParametryPolaczenia> ParametryPolaczenia::ZTekstu(const QString& tekst) {
-  QString cel = tekst.trimmed();
-  if (cel.startsWith(kPrzedrostek, Qt::CaseInsensitive)) {
-    cel.remove(0, kPrzedrostek.size());
-  } else if (cel.startsWith(QLatin1String("odbc:"), Qt::CaseInsensitive)) {
-    return std::nullopt;
-  }
-  if (cel.isEmpty()) return std::nullopt;
   ParametryPolaczenia parametry;
-  parametry.cel = cel;
+  parametry.cel = tekst.trimmed();
+  for (const auto& [przedrostek, rodzaj] : {std::pair(kSqlite, Rodzaj::Sqlite), {kOdbc, Rodzaj::Odbc}})
+    if (parametry.cel.startsWith(przedrostek, Qt::CaseInsensitive)) {
+      parametry.cel = parametry.cel.mid(przedrostek.size()).trimmed();
+      parametry.rodzaj = rodzaj;
+      break;
+    }
+  if (parametry.cel.isEmpty()) return std::nullopt;
   return parametry;
 }
 
 QString ParametryPolaczenia::Tekst() const {
-  return kPrzedrostek + QFileInfo(cel).absoluteFilePath();
+  if (rodzaj == Rodzaj::Sqlite) return kSqlite + QFileInfo(cel).absoluteFilePath();
+  if (cel.startsWith(kZPliku)) return kOdbc + kZPliku + QFileInfo(cel.mid(1)).absoluteFilePath();
+  return kOdbc + cel;
 }
 
 std::optional<ParametryPolaczenia> ParametryPolaczenia::Domyslne() {

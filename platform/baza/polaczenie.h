@@ -7,20 +7,28 @@
 
 // Where a database is and how it is reached.
 struct ParametryPolaczenia {
-  enum class Rodzaj { Sqlite };
+  enum class Rodzaj { Sqlite, Odbc };
 
   Rodzaj rodzaj = Rodzaj::Sqlite;
-  QString cel;                  // path of the database file
+  // Sqlite: path of the database file. Odbc: a connection string ("DSN=sklep;UID=..."), the name of a data
+  // source, or "@PATH", a file whose first line holds either.
+  QString cel;
   bool tworz = false;           // create the file when it is missing; otherwise a missing file is an error
   int limitBlokadySekund = 15;  // how long to wait for somebody else's lock
 
   // The files that make up an embedded database, whether or not they exist at the moment: the database and
   // what SQLite keeps beside it.
   QStringList Pliki() const;
+  // For people: without a password.
+  QString Opis() const;
+  // True when the text itself holds a password, which everybody could read in the list of processes.
+  bool MaHaslo() const;
+  // Adds a password to the text of a server's connection; an empty one changes nothing.
+  void UstawHaslo(const QString& haslo);
 
-  // Reads "PATH" or "sqlite:PATH"; nothing for an empty text or a kind that is not supported.
+  // Reads "PATH", "sqlite:PATH" or "odbc:TARGET"; nothing for an empty text.
   static std::optional<ParametryPolaczenia> ZTekstu(const QString& tekst);
-  // What ZTekstu reads, with a path that holds wherever the program is started.
+  // What ZTekstu reads, with a path that holds wherever the program is started. May hold a password.
   QString Tekst() const;
 
   // The remembered connection: the first line of polaczenie.cfg in the user's configuration folder.

@@ -16,6 +16,7 @@
 
 class Dialekt;
 class Polecenie;
+class Silnik;
 class TKMQuery;
 class TMConfig;
 
@@ -35,7 +36,8 @@ class Odczyt {
 
  private:
   friend class TVLTBazaDanych;
-  explicit Odczyt(std::shared_ptr<Polecenie> polecenie);
+  Odczyt(Silnik& silnik, std::shared_ptr<Polecenie> polecenie);
+  Silnik* m_silnik;
   std::shared_ptr<Polecenie> m_polecenie;
 };
 
@@ -57,7 +59,7 @@ class TVLTBazaDanych {
   void Polacz();
   void Odlacz();
   bool Polaczona() const;
-  // The database's name as shown in the window's caption.
+  // The database's name as shown in the window's caption; empty while not connected.
   QString Nazwa() const;
   const Dialekt& Jezyk() const;
 

@@ -41,7 +41,7 @@ class Wartosc {
   friend bool operator==(const Wartosc& a, const Wartosc& b);
 
  private:
-  friend class PolecenieSoci;
+  friend class PolecenieOdbc;
   friend class PolecenieSqlite;
   TypPola m_typ;
   bool m_pusta = true;

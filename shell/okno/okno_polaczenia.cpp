@@ -47,11 +47,24 @@ QString Tfrm_polaczenie::Baza() const {
   return m_ui->EdBaza->text().trimmed();
 }
 
+std::optional<ParametryPolaczenia> Tfrm_polaczenie::Parametry() const {
+  auto parametry = ParametryPolaczenia::ZTekstu(Baza());
+  if (parametry) parametry->UstawHaslo(m_ui->EdHaslo->text());
+  return parametry;
+}
+
 void Tfrm_polaczenie::Odswiez() {
-  m_ui->lbPodpowiedz->setText(NowaBaza() ? u"Powstanie nowy plik ze stawkami VAT, regułami nazw skróconych "
-                                           u"i parametrami kodów, bez towarów i kontrahentów."_s
-                                         : u"Ścieżka pliku bazy danych programu."_s);
-  m_ui->przyciski->button(QDialogButtonBox::Ok)->setEnabled(!Baza().isEmpty());
+  const auto parametry = ParametryPolaczenia::ZTekstu(Baza());
+  const bool serwer = parametry && parametry->rodzaj == ParametryPolaczenia::Rodzaj::Odbc;
+  m_ui->lbPodpowiedz->setText(
+      serwer ? u"Źródło danych ODBC albo opis połączenia, na przykład odbc:DSN=sklep;UID=zorvik. "_s +
+                   (NowaBaza() ? u"Baza danych musi być pusta."_s : QString())
+      : NowaBaza() ? u"Powstanie nowy plik ze stawkami VAT, regułami nazw skróconych "
+                     u"i parametrami kodów, bez towarów i kontrahentów."_s
+                   : u"Ścieżka pliku bazy danych programu albo odbc: i nazwa źródła danych serwera."_s);
+  m_ui->lbHaslo->setVisible(serwer);
+  m_ui->EdHaslo->setVisible(serwer);
+  m_ui->przyciski->button(QDialogButtonBox::Ok)->setEnabled(parametry.has_value());
 }
 
 void Tfrm_polaczenie::WybierzPlik() {
@@ -68,13 +81,10 @@ std::optional<ParametryPolaczenia> ZapytajOPolaczenie(QWidget* rodzic, Rozmowa& 
                                                       const TworzenieBazy& utworz) {
   Tfrm_polaczenie okno(rodzic, rozmowa);
   while (rozmowa.Pokaz(okno) == QDialog::Accepted) {
-    const auto parametry = ParametryPolaczenia::ZTekstu(okno.Baza());
-    if (!parametry) {
-      rozmowa.Powiedz(&okno, {u"BŁĄD"_s, u"Nieobsługiwany rodzaj bazy: \"%1\""_s.arg(okno.Baza())});
-      continue;
-    }
+    const auto parametry = okno.Parametry();
+    if (!parametry) continue;
     if (!okno.NowaBaza()) return parametry;
-    const std::optional<Komunikat> odmowa = utworz(parametry->cel);
+    const std::optional<Komunikat> odmowa = utworz(*parametry);
     if (!odmowa) return parametry;
     rozmowa.Powiedz(&okno, *odmowa);
   }

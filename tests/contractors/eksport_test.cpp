@@ -132,13 +132,13 @@ TEST_F(EksportKontrahentowTest, PolaZalezneOdInnych) {
       {"odpsSTNZU", "select 1", 2, 35, u"0"_s},
   };
   for (const auto& p : przypadki) {
+    if (NaSerwerze() && std::string_view(p.sql).ends_with("'x'")) continue;  // no date, no value
     SCOPED_TRACE(p.sql);
     Ustaw(p.pola);
-    b.baza.ExecSQL("savepoint p");
+    b.baza.StartTransakcji();
     b.baza.ExecSQL(p.sql);
     Eksportuj();
-    b.baza.ExecSQL("rollback to p");
-    b.baza.ExecSQL("release p");
+    b.baza.WycofTransakcji();
     const QStringList pola = LinieEksportu(Plik())[static_cast<std::size_t>(p.linia)];
     EXPECT_EQ(pola.size(), 36);
     EXPECT_EQ(pola[p.pole], p.tekst);
@@ -147,8 +147,8 @@ TEST_F(EksportKontrahentowTest, PolaZalezneOdInnych) {
 
 TEST_F(EksportKontrahentowTest, MowiOTymCoNieWroci) {
   const std::pair<const char*, QString> przypadki[] = {
-      {"update Kontrahent set Bank = 'a' || char(9) where KontrId = 3", u"333 O'Neil (tabulator)"_s},
-      {"update Kontrahent set Ulica = char(10) where KontrId = 3", u"333 O'Neil (koniec wiersza)"_s},
+      {"update Kontrahent set Bank = 'a\t' where KontrId = 3", u"333 O'Neil (tabulator)"_s},
+      {"update Kontrahent set Ulica = '\n' where KontrId = 3", u"333 O'Neil (koniec wiersza)"_s},
       {"update Kontrahent set NIP = ' 333' where KontrId = 3", u"333 O'Neil (odstęp na brzegu)"_s},
       {"update Kontrahent set Nazwa = '#a' where KontrId = 2", u"#a (nazwa czytana jako komentarz)"_s},
       {"update Kontrahent set Nazwa = '//' where KontrId = 3", u"333 // (nazwa czytana jako komentarz)"_s},
@@ -159,11 +159,10 @@ TEST_F(EksportKontrahentowTest, MowiOTymCoNieWroci) {
   b.baza.ExecSQL("insert into Osoba values (3, 'Nowak (syn)')");  // this one comes back
   for (const auto& [sql, rekord] : przypadki) {
     SCOPED_TRACE(sql);
-    b.baza.ExecSQL("savepoint p");
+    b.baza.StartTransakcji();
     b.baza.ExecSQL(sql);
     Eksportuj();
-    b.baza.ExecSQL("rollback to p");
-    b.baza.ExecSQL("release p");
+    b.baza.WycofTransakcji();
     EXPECT_EQ(postep.linie.value(postep.linie.indexOf(kKoniec) + 1),
               u"UWAGA: Rekordy, których import nie odczyta takimi, jakie są w bazie: 1\nSą to: "_s + rekord);
   }

@@ -19,8 +19,11 @@ struct Rodzaj {
   const char16_t* polecenie;
   QStringList ustawienia;
   std::string (*plik)(int ile);
-  int ile;
+  int rekordow;
   std::string_view zapisanych;
+
+  // A server answers each statement for itself.
+  int Ile() const { return NaSerwerze() ? rekordow / 6 : rekordow; }
   std::vector<std::string_view> niedozwolone;
 };
 
@@ -34,10 +37,10 @@ const Rodzaj kRodzaje[] = {
      {// Every good of the file has one additional code.
       "select cast(count(*) as text) from Towar t where (select count(*) from KodDod d "
       "where d.TowId = t.TowId and d.Kod = '591' || substr(t.Kod, 4)) <> 1",
-      "select cast(count(*) as text) from (select Kod from Towar union all select Kod from KodDod) "
+      "select cast(count(*) as text) from (select Kod from Towar union all select Kod from KodDod) kody "
       "group by Kod having count(*) > 1",
       "select cast(count(*) as text) from Towar group by Skrot having count(*) > 1",
-      "select cast(max(0, count(*) - 7) as text) from Asort where Nazwa like 'Asortyment%'"}},
+      "select cast(count(*) as text) from Asort where Nazwa like 'Asortyment%' having count(*) > 7"}},
     {"Kontrahenci",
      u"import-kontrahentow",
      kDodajIPopraw,
@@ -55,7 +58,7 @@ const Rodzaj kRodzaje[] = {
 class Awarie : public testing::TestWithParam<Rodzaj> {
  protected:
   int Zapisanych() const { return s.Ile(GetParam().zapisanych); }
-  void ZapiszPlik(int ile = GetParam().ile) const { s.Zapisz(u"plik"_s, GetParam().plik(ile)); }
+  void ZapiszPlik(int ile = GetParam().Ile()) const { s.Zapisz(u"plik"_s, GetParam().plik(ile)); }
   QStringList Slowa() const {
     return s.SlowaImportu(u"plik"_s, GetParam().ustawienia, QString::fromUtf16(GetParam().polecenie));
   }
@@ -66,8 +69,10 @@ class Awarie : public testing::TestWithParam<Rodzaj> {
   }
 
   void SprawdzCalosc() const {
-    EXPECT_EQ(s.Zapytaj("pragma integrity_check"), QStringList{u"ok"_s});
-    EXPECT_EQ(s.Zapytaj("select \"table\" from pragma_foreign_key_check"), QStringList());
+    if (!NaSerwerze()) {
+      EXPECT_EQ(s.Zapytaj("pragma integrity_check"), QStringList{u"ok"_s});
+      EXPECT_EQ(s.Zapytaj("select \"table\" from pragma_foreign_key_check"), QStringList());
+    }
     for (const std::string_view sql : GetParam().niedozwolone) EXPECT_EQ(s.Ile(sql), 0) << sql;
   }
 
@@ -77,8 +82,8 @@ class Awarie : public testing::TestWithParam<Rodzaj> {
     const Wynik wynik = s.Uruchom(Slowa());
     EXPECT_EQ(wynik.status, 0) << wynik.bledy.toStdString();
     EXPECT_EQ(wynik.Liczba(u"bezZmian"_s), bylo);
-    EXPECT_EQ(wynik.Liczba(u"dodanych"_s), GetParam().ile - bylo);
-    EXPECT_EQ(Zapisanych(), GetParam().ile);
+    EXPECT_EQ(wynik.Liczba(u"dodanych"_s), GetParam().Ile() - bylo);
+    EXPECT_EQ(Zapisanych(), GetParam().Ile());
     SprawdzCalosc();
   }
 
@@ -89,7 +94,7 @@ class Awarie : public testing::TestWithParam<Rodzaj> {
     EXPECT_TRUE(wynik.bledy.contains(powod)) << wynik.bledy.toStdString();
     EXPECT_TRUE(wynik.bledy.contains(u"apisano w bazie"_s)) << wynik.bledy.toStdString();
     EXPECT_EQ(wynik.Liczba(u"dodanych"_s), Zapisanych());
-    EXPECT_LT(Zapisanych(), GetParam().ile);
+    EXPECT_LT(Zapisanych(), GetParam().Ile());
     SprawdzCalosc();
   }
 
@@ -111,25 +116,25 @@ TEST_P(Awarie, CtrlCZostawiaToCoZapisano) {
   EXPECT_TRUE(wynik.bledy.contains(u"Aktualizacja przerwana przez operatora"_s));
   EXPECT_EQ(wynik.Liczba(u"dodanych"_s), Zapisanych());
   EXPECT_GT(Zapisanych(), 0);
-  EXPECT_LT(Zapisanych(), GetParam().ile);
+  EXPECT_LT(Zapisanych(), GetParam().Ile());
   Dokoncz();
 }
 
 TEST_P(Awarie, ZabityProgramNieZostawiaPolowyRekordu) {
   ZapiszPlik();
   const auto proces = s.Zacznij(Slowa());
-  PoczekajNaZapisane(*proces, 1000);
+  PoczekajNaZapisane(*proces, GetParam().Ile() / 30);
   proces->kill();
   proces->waitForFinished();
   ASSERT_EQ(proces->exitStatus(), QProcess::CrashExit);
-  EXPECT_GE(Zapisanych(), 1000);
-  EXPECT_LT(Zapisanych(), GetParam().ile);
+  EXPECT_GE(Zapisanych(), GetParam().Ile() / 30);
+  EXPECT_LT(Zapisanych(), GetParam().Ile());
   SprawdzCalosc();
   Dokoncz();
 }
 
 TEST_P(Awarie, DwaImportyNaRaz) {
-  const int ile = GetParam().ile / 4;
+  const int ile = GetParam().Ile() / 4;
   ZapiszPlik(ile);
   const auto pierwszy = s.Zacznij(Slowa());
   QStringList slowaDrugiego = Slowa();
@@ -155,6 +160,7 @@ void MalyDysk() {
 }
 
 TEST_P(Awarie, BazaPelnaZablokowanaTylkoDoOdczytu) {
+  if (NaSerwerze()) GTEST_SKIP() << "rights and disk of a file";
   ZapiszPlik();
   const std::string baza = s.Sciezka(u"baza.db"_s).toStdString();
   chmod(baza.c_str(), 0444);
@@ -172,6 +178,7 @@ TEST_P(Awarie, BazaPelnaZablokowanaTylkoDoOdczytu) {
 }
 
 TEST(NowaBaza, NiedokonczonaZnika) {
+  if (NaSerwerze()) GTEST_SKIP() << "disk of a file";
   const Stanowisko s;
   const auto ciasno = [] {
     const rlimit limit{20'000, 20'000};

@@ -13,7 +13,7 @@ TEST(ImportKontrahentow, WynikPlikPominietychIStatus) {
                                  Rekord("\t99") + Rekord("A\t1"));
   // The file is the one of the settings.
   const QStringList slowa =
-      QStringList{u"import-kontrahentow"_s, u"--baza"_s, u"baza.db"_s, u"--pominiete"_s, u"."_s} +
+      QStringList{u"import-kontrahentow"_s, u"--baza"_s, Stanowisko::Baza(), u"--pominiete"_s, u"."_s} +
       kDodajIPopraw + QStringList{u"--ustaw"_s, u"ParUstawOdbiorce=1"_s};
   const Wynik wynik = s.Uruchom(slowa + QStringList{u"--json"_s});
   EXPECT_EQ(wynik.status, 0) << wynik.bledy.toStdString();

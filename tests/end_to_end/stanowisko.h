@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -13,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/baza/sesja.h"
+#include "tests/wspolne/serwer_testowy.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -37,11 +38,15 @@ class Stanowisko {
   explicit Stanowisko(bool demo = false) {
     static int argc = 0;
     static QCoreApplication aplikacja(argc, nullptr);
-    QStringList slowa{u"nowa-baza"_s, u"baza.db"_s};
+    if (NaSerwerze()) Zapisz(u"baza.odbc"_s, m_serwera.emplace().Napis().toStdString());
+    QStringList slowa{u"nowa-baza"_s, Baza()};
     if (demo) slowa << u"--demo"_s;
     EXPECT_EQ(Uruchom(slowa).status, 0);
   }
 
+  // How the program is told of the database: a server's password stands in a file.
+  static QString Baza() { return NaSerwerze() ? u"odbc:@baza.odbc"_s : u"baza.db"_s; }
+  const BazaSerwera& Serwer() const { return *m_serwera; }
   QString Sciezka(const QString& nazwa) const { return m_folder.filePath(nazwa); }
   QByteArray Odczytaj(const QString& nazwa) const {
     QFile plik(Sciezka(nazwa));
@@ -68,7 +73,7 @@ class Stanowisko {
     return proces;
   }
   static Wynik Zakoncz(QProcess& proces) {
-    EXPECT_TRUE(proces.waitForFinished(120'000));
+    EXPECT_TRUE(proces.state() == QProcess::NotRunning || proces.waitForFinished(120'000));
     return {proces.exitStatus() == QProcess::NormalExit ? proces.exitCode() : -1,
             QString::fromUtf8(proces.readAllStandardOutput()),
             QString::fromUtf8(proces.readAllStandardError())};
@@ -80,15 +85,15 @@ class Stanowisko {
   // An import into the database of this place; its skipped-records file comes here too.
   QStringList SlowaImportu(const QString& plik, const QStringList& dalsze = {},
                            const QString& polecenie = u"import-towarow"_s) const {
-    return QStringList{polecenie, plik, u"--baza"_s, u"baza.db"_s, u"--pominiete"_s, u"."_s, u"--json"_s} +
-           dalsze;
+    return QStringList{polecenie, plik, u"--baza"_s, Baza(), u"--pominiete"_s, u"."_s, u"--json"_s} + dalsze;
   }
   Wynik Import(const QString& plik, const QStringList& dalsze = {}) const {
     return Uruchom(SlowaImportu(plik, dalsze));
   }
 
   void Polacz(TVLTBazaDanych& sesja) const {
-    sesja.UstawPolaczenie(*ParametryPolaczenia::ZTekstu(Sciezka(u"baza.db"_s)));
+    sesja.UstawPolaczenie(
+        *ParametryPolaczenia::ZTekstu(m_serwera ? u"odbc:"_s + m_serwera->Napis() : Sciezka(u"baza.db"_s)));
     sesja.Polacz();
   }
   // First column of every row, as text.
@@ -105,4 +110,5 @@ class Stanowisko {
 
  private:
   QTemporaryDir m_folder;
+  std::optional<BazaSerwera> m_serwera;
 };

@@ -36,7 +36,9 @@ class Rekord : public testing::Test {
     auto odczyt =
         i.b.baza.Otworz(std::string("select cast(") + kolumna + " as text) from Towar where Kod = :Kod",
                         {TypPola::Tekst}, {{"Kod", std::string(kod)}});
-    return odczyt.Nastepny() ? odczyt[0].AsString() : u"brak"_s;
+    QString tekst = odczyt.Nastepny() ? odczyt[0].AsString() : u"brak"_s;
+    if (tekst.endsWith(u".0"_s)) tekst.chop(2);  // how a decimal number is spelt is the database's affair
+    return tekst;
   }
 
   ImportTestowy i;
@@ -229,11 +231,18 @@ TEST_F(Rekord, NowyTowarBierzeWszystkiePola) {
   i.Importuj(
       "5900000000015;Żurek;2;sww;o4;7;12.5;12.30;12.35;1;A;Zupy;słoik;5900000000022;Zupy: Moc(5:1..9);111\n");
   EXPECT_THAT(i.Pominiete(), IsEmpty());
-  const std::pair<const char*, QString> kolumny[] = {
-      {"Nazwa", u"Żurek"_s},           {"Skrot", u"Żurek"_s}, {"TypTowaru", u"2"_s},
-      {"Indeks1", u"sww"_s},           {"Opis4", u"o4"_s},    {"TermWazn", u"7"_s},
-      {"round(Marza, 6)", u"0.125"_s}, {"CenaEw", u"10.0"_s}, {"round(CenaDet, 6)", u"10.04065"_s},
-      {"CenaOtwarta", u"1"_s},         {"Stawka", u"2300"_s}, {"Aktywny", u"1"_s}};
+  const std::pair<const char*, QString> kolumny[] = {{"Nazwa", u"Żurek"_s},
+                                                     {"Skrot", u"Żurek"_s},
+                                                     {"TypTowaru", u"2"_s},
+                                                     {"Indeks1", u"sww"_s},
+                                                     {"Opis4", u"o4"_s},
+                                                     {"TermWazn", u"7"_s},
+                                                     {"round(Marza * 1000000)", u"125000"_s},
+                                                     {"CenaEw", u"10"_s},
+                                                     {"round(CenaDet * 100000)", u"1004065"_s},
+                                                     {"CenaOtwarta", u"1"_s},
+                                                     {"Stawka", u"2300"_s},
+                                                     {"Aktywny", u"1"_s}};
   for (const auto& [kolumna, wartosc] : kolumny)
     EXPECT_EQ(Kolumna(kolumna, "5900000000015"), wartosc) << kolumna;
   EXPECT_EQ(
@@ -261,7 +270,7 @@ TEST_F(Rekord, PlikZKodemICenaNieRuszaReszty) {
   const WynikPrzebiegu wynik = i.Importuj("5901234123457;99\n73513537;5\n5909876543210;99\n");
   EXPECT_EQ(wynik.liczniki[Licznik::Poprawione], 2);
   EXPECT_EQ(wynik.liczniki[Licznik::BezZmian], 1);  // found by the additional code
-  EXPECT_EQ(Kolumna("CenaEw", "5901234123457"), u"99.0"_s);
+  EXPECT_EQ(Kolumna("CenaEw", "5901234123457"), u"99"_s);
   EXPECT_EQ(i.b.Tekst("select Nazwa || Skrot || Stawka || JMId || AsId from Towar where TowId = 1"),
             przedtem);
   EXPECT_EQ(i.b.Liczba("select count(*) from KodDod"), 1);
@@ -274,11 +283,11 @@ TEST_F(Rekord, PusteBlokiNieNiosaNiczegoACentralnyZachowujeNazwe) {
   i.Importuj("5901234123457;;;10.5;A;nabiał;szt.;;;;0\n73513537;Inna nazwa;;2;B;nabiał;szt.;;;;0\n");
   EXPECT_THAT(i.Pominiete(), ElementsAre(u"5901234123457 |  | Towar identyczny z towarem w bazie"_s));
   EXPECT_EQ(Kolumna("Nazwa", "5901234123457"), u"Mleko świeże"_s);
-  EXPECT_EQ(i.b.Tekst("select group_concat(Nazwa) from Asort"), u"nabiał"_s);
+  EXPECT_EQ(i.b.Kolumna("select Nazwa from Asort"), u"nabiał"_s);
   EXPECT_EQ(i.b.Liczba("select count(*) from KodDod"), 1);
   EXPECT_EQ(i.b.Liczba("select count(*) from TowDostawca"), 2);
   EXPECT_EQ(i.b.Liczba("select count(*) from TowWartosc"), 1);
-  EXPECT_EQ(Kolumna("Nazwa || Stawka || CenaDet", "73513537"), u"Centralny23002.0"_s);
+  EXPECT_EQ(Kolumna("Nazwa || Stawka || CenaDet", "73513537"), u"Centralny23002"_s);
 }
 
 TEST_F(Rekord, BrakujacyKontrahentNieZatrzymujeTowaru) {
@@ -301,10 +310,9 @@ TEST_F(Rekord, StatusIStanZmieniajaSieTakzeBezAktualizacji) {
       "73513537;Centralny;-3;1;0\n");          // negative stock is not written
   EXPECT_EQ(wynik.liczniki[Licznik::Poprawione], 2);
   EXPECT_EQ(wynik.liczniki[Licznik::Pominiete], 2);
-  EXPECT_EQ(i.b.Tekst("select group_concat(StanMag, ',') from (select StanMag from Istw order by TowId)"),
-            u"12.5,0.0,0.0,0.0"_s);
-  EXPECT_EQ(Kolumna("Aktywny || CenaEw", "4006381333931"), u"10.0"_s);
-  EXPECT_EQ(Kolumna("CenaEw", "5901234123457"), u"0.0"_s);
+  EXPECT_EQ(i.b.Kolumna("select StanMag from Istw order by TowId", TypPola::Dziesietne), u"12.5,0,0,0"_s);
+  EXPECT_EQ(Kolumna("Aktywny || ' ' || CenaEw", "4006381333931"), u"1 0"_s);
+  EXPECT_EQ(Kolumna("CenaEw", "5901234123457"), u"0"_s);
   EXPECT_TRUE(i.postep.linie.join(u'\n').contains(u"Wykonano import stanów magazynowych"_s));
 }
 
@@ -332,7 +340,7 @@ TEST_F(Rekord, NadaneKodyINazwySaKolejne) {
   i.opcje.EdKodyKrotkie = u"0"_s;
   i.Importuj(";;\n;;\n1003;Zajęty\n;;\n");
   EXPECT_THAT(i.Pominiete(), IsEmpty());
-  EXPECT_EQ(i.b.Tekst("select group_concat(Kod || ' ' || Nazwa, ',') from Towar where length(Kod) = 4"),
+  EXPECT_EQ(i.b.Kolumna("select Kod || ' ' || Nazwa from Towar where length(Kod) = 4 order by TowId"),
             u"1001 Towar bez nazwy 0001,1002 Towar bez nazwy 0002,1003 Zajęty,1004 Towar bez nazwy 0003"_s);
 }
 
@@ -341,10 +349,8 @@ TEST_F(Rekord, KodDochodziDoTowaruOTejSamejNazwie) {
   i.opcje.cb_akttow = false;
   const WynikPrzebiegu wynik = i.Importuj("5900000000015;Mleko świeże\n5900000000015;Mleko świeże\n");
   EXPECT_EQ(wynik.liczniki[Licznik::Poprawione], 1);
-  EXPECT_EQ(
-      i.b.Tekst(
-          "select group_concat(Kod, ',') from (select Kod from KodDod where TowId = 1 order by Kolejnosc)"),
-      u"5909876543210,5900000000015"_s);
+  EXPECT_EQ(i.b.Kolumna("select Kod from KodDod where TowId = 1 order by Kolejnosc"),
+            u"5909876543210,5900000000015"_s);
 }
 
 TEST_F(Rekord, OperatorPoprawiaRezygnujeAlboZatrzymuje) {

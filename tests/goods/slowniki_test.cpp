@@ -32,7 +32,10 @@ class SlownikiTest : public testing::Test, protected ImportTestowy {
     return linie.replaceInStrings(u"1 | A | "_s, QString());
   }
   QString NazwaW(const char* tabela, int id) {
-    return b.Tekst("select Nazwa from " + std::string(tabela) + " where rowid = " + std::to_string(id));
+    for (const KolumnaSchematu& k : KolumnySchematu())
+      if (k.tabela == tabela && k.znacznik == "{klucz}")
+        return b.Tekst("select Nazwa from " + k.tabela + " where " + k.nazwa + " = " + std::to_string(id));
+    return {};
   }
   long long Ile(const char* tabela) { return b.Liczba("select count(*) from " + std::string(tabela)); }
   void ZakazNowych() {
@@ -102,7 +105,7 @@ TEST_F(SlownikiTest, WpisyPoNazwie) {
     EXPECT_EQ(liczniki[p.licznik], 1);
   }
   EXPECT_EQ(liczniki[Licznik::Pominiete], 3);
-  EXPECT_EQ(b.Tekst("select group_concat(Precyzja) from JM order by JMId"), u"0,3"_s);
+  EXPECT_EQ(b.Kolumna("select Precyzja from JM order by JMId"), u"0,3"_s);
 }
 
 // Two entries that differ in case only: the good keeps its own as it is when the other bears the file's

@@ -13,7 +13,7 @@ TEST(Stany, PustaBazaDostajeJedenMagazyn) {
   Liczniki liczniki;
   Stany(i.sesja, liczniki).WczytajMagazyny();
   Stany(i.sesja, liczniki).WczytajMagazyny();
-  EXPECT_EQ(i.b.Tekst("select group_concat(Nazwa) from Magazyn"), u"Magazyn nr 1"_s);
+  EXPECT_EQ(i.b.Kolumna("select Nazwa from Magazyn"), u"Magazyn nr 1"_s);
 }
 
 TEST(Stany, ZapisujeDoMagazynuZListy) {
@@ -29,17 +29,17 @@ TEST(Stany, ZapisujeDoMagazynuZListy) {
     double ilosc;
     bool zmiana;
     QString stany;
-  } const przypadki[] = {{1, 0, false, u"0.0,0.0"_s},
-                         {1, 2.5, true, u"0.0,2.5"_s},
-                         {1, 2.5, false, u"0.0,2.5"_s},
-                         {3, 7, false, u"0.0,2.5"_s},
-                         {0, 7, false, u"0.0,2.5"_s},
+  } const przypadki[] = {{1, 0, false, u"0,0"_s},
+                         {1, 2.5, true, u"0,2.5"_s},
+                         {1, 2.5, false, u"0,2.5"_s},
+                         {3, 7, false, u"0,2.5"_s},
+                         {0, 7, false, u"0,2.5"_s},
                          {2, -1.0 / 3, true, u"-0.333333,2.5"_s},
                          {2, -1.0 / 3, false, u"-0.333333,2.5"_s}};
   for (const auto& p : przypadki) {
     SCOPED_TRACE(p.ilosc);
     EXPECT_EQ(stany.Ustaw(1, p.n, p.ilosc), p.zmiana);
-    EXPECT_EQ(i.b.Tekst("select group_concat(StanMag) from Istw order by MagId"), p.stany);
+    EXPECT_EQ(i.b.Kolumna("select StanMag from Istw order by MagId", TypPola::Dziesietne), p.stany);
   }
   EXPECT_THROW(stany.Ustaw(1, 2, 1e300), EVLTWDError);
   i.b.baza.ExecSQL("delete from Istw where MagId = 1");

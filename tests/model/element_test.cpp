@@ -7,6 +7,7 @@
 #include "model/lista_elementow.h"
 #include "model/parametry_systemu.h"
 #include "model/slowniki.h"
+#include "platform/baza/dialekt.h"
 #include "tests/wspolne/baza_testowa.h"
 
 namespace {
@@ -65,7 +66,7 @@ class ListaRzeczy final : public TDmVLTListaElementow {
 class Element : public testing::Test {
  protected:
   void SetUp() override {
-    b.baza.ExecSQL("create table T (Id integer primary key autoincrement, Nazwa text)");
+    b.baza.ExecSQL("create table T (Id " + b.baza.Jezyk().TypAutoKlucz() + ", Nazwa varchar(20))");
     for (const char* nazwa : {"c", "a", "b"})
       b.baza.ExecSQL("insert into T (Nazwa) values (:Nazwa)", {{"Nazwa", std::string(nazwa)}});
   }

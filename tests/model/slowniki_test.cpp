@@ -27,8 +27,7 @@ class Slowniki : public TowaryProbne {
     Wpis jest(kontekst);
     jest.Wczytaj(id);
     EXPECT_EQ(jest.Nazwa(), u"ŻÓŁTE");
-    EXPECT_EQ(b.Tekst("select Opis from DziennikZmian order by rowid desc limit 1"),
-              u"Zmiana pozycji: Żółte na ŻÓŁTE");
+    EXPECT_EQ(b.OstatniWpis(), u"Zmiana pozycji: Żółte na ŻÓŁTE");
   }
 };
 

@@ -10,6 +10,7 @@
 #include "model/reguly_kodow.h"
 #include "model/towar.h"
 #include "tests/wspolne/baza_testowa.h"
+#include "tests/wspolne/zrzut_bazy.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,14 +54,9 @@ class TowaryProbne : public testing::Test {
   }
   // All rows of a table as one text.
   QString Wiersze(const std::string& tabela) {
-    QStringList kolumny;
-    for (auto odczyt =
-             b.baza.Otworz("select name from pragma_table_info('" + tabela + "')", {TypPola::Tekst});
-         odczyt.Nastepny();)
-      if (odczyt[0].AsString() != u"Zmiana" && odczyt[0].AsString() != u"Czas")
-        kolumny << u"coalesce("_s + odczyt[0].AsString() + u",'-')"_s;
-    return b.Tekst("select group_concat(w, ' ') from (select " + kolumny.join(u"||'|'||"_s).toStdString() +
-                   " as w from " + tabela + " order by 1)");
+    return WierszeTabeli(b.baza, tabela,
+                         [](const std::string& kolumna) { return kolumna != "Zmiana" && kolumna != "Czas"; })
+        .join(u' ');
   }
 
   BazaTestowa b;

@@ -218,10 +218,10 @@ TEST_F(OknoGlowne, PierwszeUruchomienie) {
   StartOkna start = Start();
   start.baza.reset();
   QStringList tworzone;
-  start.utworzBaze = [&](const QString& sciezka) -> std::optional<Komunikat> {
-    tworzone << sciezka;
+  start.utworzBaze = [&](const ParametryPolaczenia& parametry) -> std::optional<Komunikat> {
+    tworzone << parametry.cel;
     if (tworzone.size() == 1) return Komunikat{u"UWAGA"_s, u"zajęta"_s};
-    EXPECT_TRUE(QFile::copy(b.Sciezka(), sciezka));
+    EXPECT_TRUE(QFile::copy(b.Sciezka(), parametry.cel));
     return std::nullopt;
   };
   const QString nowa = Sciezka(u"nowa.db"_s);

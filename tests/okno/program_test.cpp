@@ -16,7 +16,7 @@ TEST(Program, WierszPolecen) {
       {{u"--version"_s}, 0, u"zorvik "},
       {{u"--json"_s}, 2, u"--json"},
       {{u"cennik.txt"_s}, 2, u"cennik.txt"},
-      {{u"--baza=odbc:DSN=x"_s}, 2, u"odbc:DSN=x"},
+      {{u"--baza=odbc:DSN=x;PWD=tajne"_s}, 2, u"Hasła nie podaje się"},
   };
   for (const auto& p : przypadki) {
     QProcess program;

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/baza/dialekt.h"
 #include "platform/baza/transakcja.h"
 #include "platform/baza/zapytanie.h"
 #include "platform/config.h"
@@ -19,10 +20,12 @@ constexpr OpisPola kPola[] = {{"Id", TypPola::Calkowite},
 class Baza : public testing::Test {
  protected:
   void SetUp() override {
-    b.baza.ExecSQL(
-        "create table T (Id integer primary key autoincrement, Nazwa text, Cena real, Duza bigint)");
+    const Dialekt& d = b.baza.Jezyk();
+    b.baza.ExecSQL("create table T (Id " + d.TypAutoKlucz() + ", Nazwa " + d.TypTekst(1000) + ", Cena " +
+                   d.TypDziesietny() + ", Duza bigint, Czas " + d.TypCzas() + ")");
     b.baza.ExecSQL("create unique index T_Nazwa on T (Nazwa)");
-    b.baza.ExecSQL("create table Konfiguracja (Nazwa text, Kolejnosc integer, Parametr text, Wartosc text)");
+    b.baza.ExecSQL("create table Konfiguracja (Nazwa " + d.TypTekst(50) + ", Kolejnosc integer, Parametr " +
+                   d.TypTekst(50) + ", Wartosc " + d.TypTekst(50) + ")");
   }
   void Dodaj(const QString& nazwa) {
     b.baza.ExecSQL("insert into T (Nazwa) values (:Nazwa)", {{"Nazwa", nazwa}});
@@ -176,11 +179,13 @@ TEST_F(Baza, RodzajeBledow) {
   };
   EXPECT_EQ(rodzaj([&] { druga.StartTransakcji(); }), RodzajBleduBazy::Blokada);
   b.baza.WycofTransakcji();
+  const bool serwer = NaSerwerze();
   EXPECT_EQ(rodzaj([&] {
-              druga.ExecSQL("pragma query_only = on");
+              druga.ExecSQL(serwer ? "set default_transaction_read_only = on" : "pragma query_only = on");
               druga.ExecSQL("insert into T (Nazwa) values ('x')");
             }),
             RodzajBleduBazy::TylkoOdczyt);
+  if (serwer) return;
   b.baza.ExecSQL("pragma max_page_count = 6");
   EXPECT_EQ(rodzaj([&] { Dodaj(QString(200'000, QLatin1Char('x'))); }), RodzajBleduBazy::PelnyDysk);
 

@@ -1,19 +1,28 @@
 #pragma once
 
+#include <optional>
+
+#include <QStringList>
 #include <QTemporaryDir>
 
-#include "platform/baza/sesja.h"
+#include "tests/wspolne/serwer_testowy.h"
 
-// A database file of one test, gone with it.
+// A database of one test, gone with it: a file, or one of the test server.
 class BazaTestowa {
  public:
-  BazaTestowa() { Polacz(baza, true); }
+  BazaTestowa() {
+    if (NaSerwerze()) m_serwera.emplace();
+    Polacz(baza, true);
+  }
 
   QString Sciezka() const { return m_folder.filePath(QStringLiteral("test.db")); }
-  // Another session of the same file.
+  ParametryPolaczenia Parametry() const {
+    return *ParametryPolaczenia::ZTekstu(m_serwera ? QStringLiteral("odbc:") + m_serwera->Napis()
+                                                   : Sciezka());
+  }
+  // Another session of the same database.
   void Polacz(TVLTBazaDanych& sesja, bool tworz = false, int limitSekund = 1) const {
-    ParametryPolaczenia parametry;
-    parametry.cel = Sciezka();
+    ParametryPolaczenia parametry = Parametry();
     parametry.tworz = tworz;
     parametry.limitBlokadySekund = limitSekund;
     sesja.UstawPolaczenie(parametry);
@@ -28,9 +37,18 @@ class BazaTestowa {
     auto odczyt = baza.Otworz(sql, {TypPola::Tekst});
     return odczyt.Nastepny() ? odczyt[0].AsString() : QString();
   }
+  // The first column of every row, joined.
+  QString Kolumna(std::string_view sql, TypPola typ = TypPola::Tekst, QChar lacznik = u',') {
+    QStringList wartosci;
+    for (auto odczyt = baza.Otworz(sql, {typ}); odczyt.Nastepny();) wartosci << odczyt[0].AsString();
+    return wartosci.join(lacznik);
+  }
+  // What the change log says of the last change.
+  QString OstatniWpis() { return Tekst("select Opis from DziennikZmian order by rowid desc"); }
 
  private:
   QTemporaryDir m_folder;
+  std::optional<BazaSerwera> m_serwera;
 
  public:
   TVLTBazaDanych baza;

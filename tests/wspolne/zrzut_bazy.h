@@ -1,24 +1,46 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include <QStringList>
 
+#include "database/schemat.h"
 #include "platform/baza/sesja.h"
 
-// Every row of every table, one text each, in a fixed order.
-inline QStringList ZrzutBazy(TVLTBazaDanych& baza) {
-  const auto kolumna = [&](const std::string& sql) {
+// The rows of a table, one text each, in a fixed order: the values of the columns that `bierz` takes.
+template <typename Bierz>
+QStringList WierszeTabeli(TVLTBazaDanych& baza, const std::string& tabela, Bierz bierz) {
+  std::string kolumny;
+  std::vector<TypPola> typy;
+  for (const KolumnaSchematu& k : KolumnySchematu()) {
+    if (k.tabela != tabela || !bierz(k.nazwa)) continue;
+    kolumny += (kolumny.empty() ? "" : ", ") + k.nazwa;
+    typy.push_back(k.znacznik == "{dzies}"                             ? TypPola::Dziesietne
+                   : k.znacznik == "{calk}" || k.znacznik == "{klucz}" ? TypPola::Calkowite
+                                                                       : TypPola::Tekst);
+  }
+  QStringList wiersze;
+  for (auto odczyt = baza.Otworz("select " + kolumny + " from " + tabela, typy, {}); odczyt.Nastepny();) {
     QStringList wartosci;
-    for (auto odczyt = baza.Otworz(sql, {TypPola::Tekst}); odczyt.Nastepny();)
-      wartosci << odczyt[0].AsString();
-    return wartosci;
-  };
+    for (std::size_t i = 0; i < typy.size(); ++i)
+      wartosci << (odczyt[i].IsNull() ? QStringLiteral("-") : odczyt[i].AsString());
+    wiersze << wartosci.join(u'|');
+  }
+  wiersze.sort();
+  return wiersze;
+}
+
+// Every row of every table, in a fixed order.
+inline QStringList ZrzutBazy(TVLTBazaDanych& baza) {
   QStringList zrzut;
-  for (const QString& nazwa :
-       kolumna("select name from sqlite_master where type = 'table' and name not like 'sqlite%'")) {
-    std::string sql = "select '" + nazwa.toStdString();
-    for (const QString& pole : kolumna("select name from pragma_table_info('" + nazwa.toStdString() + "')"))
-      sql += " " + pole.toStdString() + "=' || quote(" + pole.toStdString() + ") || '";
-    zrzut << kolumna(sql + "' from " + nazwa.toStdString());
+  std::string poprzednia;
+  for (const KolumnaSchematu& k : KolumnySchematu()) {
+    if (k.tabela == poprzednia) continue;
+    poprzednia = k.tabela;
+    const QString tabela = QString::fromStdString(k.tabela);
+    for (const QString& wiersz : WierszeTabeli(baza, k.tabela, [](const std::string&) { return true; }))
+      zrzut << tabela + u' ' + wiersz;
   }
   zrzut.sort();
   return zrzut;

@@ -1,0 +1,163 @@
+#include "database/kontrola_bazy.h"
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+#include "database/schemat.h"
+#include "platform/baza/dialekt.h"
+#include "platform/baza/sesja.h"
+#include "platform/baza/transakcja.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Words of a server's type by which a column of the schema's kind is known.
+struct Rodzaj {
+  std::string_view znacznik;
+  const char16_t* nazwa;
+  QStringList slowa;
+};
+const Rodzaj kRodzaje[] = {
+    {"{klucz}", u"liczba całkowita", {u"int"_s, u"serial"_s}},
+    {"{calk}", u"liczba całkowita", {u"int"_s, u"bit"_s}},
+    {"{dzies}",
+     u"liczba dziesiętna",
+     {u"double"_s, u"real"_s, u"float"_s, u"numeric"_s, u"decimal"_s, u"money"_s}},
+    {"{tekst}", u"tekst", {u"char"_s, u"text"_s}},
+    {"{dlugi}", u"tekst", {u"char"_s, u"text"_s}},
+    {"{czas}", u"data i czas", {u"time"_s, u"text"_s}},
+};
+
+struct Kolumna {
+  QString nazwa, typ;
+  int dlugosc;  // of a bounded text
+};
+using Tabele = std::map<QString, std::vector<Kolumna>>;  // names in small letters
+
+QString Napis(const std::string& tekst) {
+  return QString::fromStdString(tekst);
+}
+
+Tabele WczytajTabele(TVLTBazaDanych& baza) {
+  Tabele tabele;
+  for (auto odczyt = baza.Otworz(baza.Jezyk().KolumnyBazy(),
+                                 {TypPola::Tekst, TypPola::Tekst, TypPola::Tekst, TypPola::Calkowite});
+       odczyt.Nastepny();)
+    tabele[odczyt[0].AsString().toLower()].push_back({odczyt[1].AsString().toLower(),
+                                                      odczyt[2].AsString().toLower(),
+                                                      static_cast<int>(odczyt[3].AsInteger())});
+  return tabele;
+}
+
+void SprawdzKolumne(const KolumnaSchematu& wzor, const std::vector<Kolumna>& kolumny, bool serwer,
+                    QStringList& braki) {
+  const QString nazwa = Napis(wzor.tabela) + u'.' + Napis(wzor.nazwa);
+  const auto kolumna = std::find_if(kolumny.begin(), kolumny.end(),
+                                    [&](const Kolumna& k) { return k.nazwa == Napis(wzor.nazwa).toLower(); });
+  if (kolumna == kolumny.end()) {
+    braki << u"Brak kolumny %1"_s.arg(nazwa);
+    return;
+  }
+  for (const Rodzaj& rodzaj : kRodzaje) {
+    if (rodzaj.znacznik != wzor.znacznik) continue;
+    const bool zgodny = std::any_of(rodzaj.slowa.begin(), rodzaj.slowa.end(),
+                                    [&](const QString& slowo) { return kolumna->typ.contains(slowo); });
+    if (!zgodny)
+      braki << u"Kolumna %1 ma typ %2, a powinna to być %3"_s.arg(nazwa, kolumna->typ,
+                                                                  QString::fromUtf16(rodzaj.nazwa));
+    else if (serwer && QString::fromUtf16(rodzaj.nazwa) == u"tekst"_s && kolumna->dlugosc <= 0)
+      braki << u"Kolumna %1 jest tekstem bez ograniczonej długości: programy łączące się przez ODBC obcinają "
+               u"takie "
+               u"teksty i mogą zapisać obcięte"_s.arg(nazwa);
+  }
+}
+
+// Records are read with all columns of their table, in the table's order.
+void SprawdzKolejnosc(const std::string& tabela, const std::vector<Kolumna>& kolumny, QStringList& braki) {
+  std::size_t ktora = 0;
+  for (const KolumnaSchematu& wzor : KolumnySchematu()) {
+    if (wzor.tabela != tabela) continue;
+    if (ktora >= kolumny.size() || kolumny[ktora].nazwa != Napis(wzor.nazwa).toLower()) {
+      braki
+          << u"Tabela %1 ma kolumny w innej kolejności, niż czyta je program: %2 powinna być kolumną nr %3"_s
+                 .arg(Napis(tabela), Napis(wzor.nazwa))
+                 .arg(ktora + 1);
+      return;
+    }
+    ++ktora;
+  }
+  if (ktora != kolumny.size()) braki << u"Tabela %1 ma kolumny, których program nie zna"_s.arg(Napis(tabela));
+}
+
+void SprawdzIndeksy(TVLTBazaDanych& baza, const Tabele& tabele, QStringList& braki) {
+  QStringList indeksy;
+  for (auto odczyt = baza.Otworz(baza.Jezyk().IndeksyBazy(), {TypPola::Tekst, TypPola::Tekst});
+       odczyt.Nastepny();)
+    indeksy << (odczyt[0].AsString() + u'.' + odczyt[1].AsString()).toLower();
+  for (const auto& [tabela, kolumna] : IndeksySchematu()) {
+    const QString nazwa = Napis(tabela) + u'.' + Napis(kolumna);
+    if (tabele.count(Napis(tabela).toLower()) > 0 && !indeksy.contains(nazwa.toLower()))
+      braki << u"Brak indeksu zaczynającego się od kolumny %1: praca będzie bardzo wolna"_s.arg(nazwa);
+  }
+}
+
+// Statements that touch no row are allowed or refused like any other.
+void SprawdzPrawa(TVLTBazaDanych& baza, const PrawaTabeli& prawa, QStringList& braki) {
+  const std::string tabela = prawa.tabela;
+  const auto sprobuj = [&](const char16_t* czego, const auto& praca) {
+    try {
+      JednostkaZapisu jednostka(baza);
+      praca();
+    } catch (const EBladBazy& blad) {
+      braki << u"Brak prawa %1 w tabeli %2: %3"_s.arg(QString::fromUtf16(czego), Napis(tabela),
+                                                      blad.MacDescription().section(u'\r', 0, 0));
+    }
+  };
+  sprobuj(u"odczytu", [&] {
+    baza.Otworz("select count(*) from " + tabela + " where 1 = 0", {TypPola::Calkowite}).Nastepny();
+  });
+  const std::string kolumna = prawa.kolumna;
+  const struct {
+    bool potrzebne;
+    const char16_t* czego;
+    std::string sql;
+  } proby[] = {
+      {prawa.dopisuje, u"dopisywania", "insert into " + tabela + " select * from " + tabela + " where 1 = 0"},
+      {prawa.poprawia, u"poprawiania",
+       "update " + tabela + " set " + kolumna + " = " + kolumna + " where 1 = 0"},
+      {prawa.usuwa, u"usuwania", "delete from " + tabela + " where 1 = 0"},
+  };
+  for (const auto& proba : proby)
+    if (proba.potrzebne) sprobuj(proba.czego, [&] { baza.ExecSQL(proba.sql); });
+}
+
+}  // namespace
+
+QStringList SprawdzBaze(TVLTBazaDanych& baza) {
+  QStringList braki;
+  const bool serwer = baza.Parametry().rodzaj == ParametryPolaczenia::Rodzaj::Odbc;
+  if (const std::string pytanie = baza.Jezyk().KodowanieBazy(); !pytanie.empty()) {
+    auto odczyt = baza.Otworz(pytanie, {TypPola::Tekst});
+    const QString kodowanie = odczyt.Nastepny() ? odczyt[0].AsString() : QString();
+    if (kodowanie.compare(u"UTF8"_s, Qt::CaseInsensitive) != 0)
+      braki << u"Baza danych koduje teksty jako %1, a nie UTF8: innych znaków nie da się w niej zapisać"_s
+                   .arg(kodowanie);
+  }
+  const Tabele tabele = WczytajTabele(baza);
+  for (const PrawaTabeli& prawa : PrawaTabel()) {
+    const auto tabela = tabele.find(Napis(prawa.tabela).toLower());
+    if (tabela == tabele.end()) {
+      braki << u"Brak tabeli %1"_s.arg(Napis(prawa.tabela));
+      continue;
+    }
+    const qsizetype dotad = braki.size();
+    for (const KolumnaSchematu& wzor : KolumnySchematu())
+      if (wzor.tabela == prawa.tabela) SprawdzKolumne(wzor, tabela->second, serwer, braki);
+    if (prawa.czytanaWcalosci && braki.size() == dotad) SprawdzKolejnosc(prawa.tabela, tabela->second, braki);
+    SprawdzPrawa(baza, prawa, braki);
+  }
+  SprawdzIndeksy(baza, tabele, braki);
+  return braki;
+}

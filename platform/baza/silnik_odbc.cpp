@@ -1,0 +1,248 @@
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <cstring>
+
+#include <QFile>
+
+#include <soci/odbc/soci-odbc.h>
+#include <soci/soci.h>
+
+#include "platform/baza/dialekt.h"
+#include "platform/baza/napis_odbc.h"
+#include "platform/baza/polaczenie.h"
+#include "platform/baza/polecenie_odbc.h"
+#include "platform/baza/silnik.h"
+
+namespace {
+
+// What the standard's states mean; the first line whose beginning fits.
+struct StanSql {
+  std::string_view poczatek;
+  RodzajBleduBazy rodzaj;
+};
+constexpr StanSql kStany[] = {
+    {"08", RodzajBleduBazy::Polaczenie},     {"57P", RodzajBleduBazy::Polaczenie},
+    {"53300", RodzajBleduBazy::Polaczenie},  {"HYT01", RodzajBleduBazy::Polaczenie},
+    {"28", RodzajBleduBazy::Logowanie},      {"IM", RodzajBleduBazy::Sterownik},
+    {"53100", RodzajBleduBazy::PelnyDysk},   {"58030", RodzajBleduBazy::Wejscie},
+    {"XX001", RodzajBleduBazy::Wejscie},     {"XX002", RodzajBleduBazy::Wejscie},
+    {"25006", RodzajBleduBazy::TylkoOdczyt}, {"55P03", RodzajBleduBazy::Blokada},
+    {"57014", RodzajBleduBazy::Czas},        {"HYT00", RodzajBleduBazy::Czas},
+    {"40", RodzajBleduBazy::Kolizja},        {"42501", RodzajBleduBazy::Uprawnienia},
+    {"22", RodzajBleduBazy::Ograniczenie},   {"23", RodzajBleduBazy::Ograniczenie},
+    {"54", RodzajBleduBazy::Ograniczenie},
+};
+
+RodzajBleduBazy RodzajStanu(std::string_view stan) {
+  for (const StanSql& s : kStany)
+    if (stan.starts_with(s.poczatek)) return s.rodzaj;
+  return RodzajBleduBazy::Inny;
+}
+
+// The server's words without its details, which quote values, and without the driver's remark on where it
+// was.
+QString TrescBledu(const char* komunikat) {
+  QString tresc = QString::fromUtf8(komunikat).section(u'\n', 0, 0).trimmed();
+  if (tresc.endsWith(u';')) tresc.chop(1);
+  return tresc;
+}
+
+// psqlODBC told to leave transactions alone (7.4-0: an error undoes nothing by itself; the program's own
+// savepoints do), to hand texts over as they are and to write no log of its own. Behind the operator's text:
+// the last of two equal keys holds.
+constexpr char kNarzucone[] =
+    "Protocol=7.4-0;UseServerSidePrepare=1;UseDeclareFetch=0;LFConversion=0;TrueIsMinus1=0;"
+    "UpdatableCursors=0;ConnSettings=;CommLog=0;Debug=0";
+
+QString NapisPolaczenia(const ParametryPolaczenia& parametry) {
+  QString napis = parametry.cel;
+  if (napis.startsWith(u'@')) {
+    QFile plik(napis.mid(1));
+    if (!plik.open(QIODevice::ReadOnly | QIODevice::Text))
+      throw EBladBazy(
+          RodzajBleduBazy::Polaczenie,
+          QStringLiteral("Nie można odczytać pliku %1\n%2").arg(plik.fileName(), plik.errorString()), {});
+    napis = QString::fromUtf8(plik.readLine(4096)).trimmed();
+  }
+  return ZlozNapisOdbc(RozbierzNapisOdbc(napis)) + QLatin1String(kNarzucone);
+}
+
+class SilnikOdbc final : public Silnik {
+ public:
+  SilnikOdbc(const ParametryPolaczenia& parametry, const Podsluch& podsluch) : Silnik(podsluch) {
+    // The driver would take the encoding of texts from the process's locale.
+    qputenv("PGCLIENTENCODING", "UTF8");
+    try {
+      soci::connection_parameters polaczenie(soci::odbc, NapisPolaczenia(parametry).toStdString());
+      polaczenie.set_option(soci::odbc_option_driver_complete, std::to_string(SQL_DRIVER_NOPROMPT));
+      m_sesja.open(polaczenie);
+      m_jezyk = WybierzJezyk();
+      if (soci::is_odbc_error(SQLAllocHandle(SQL_HANDLE_STMT, Uchwyt(), &m_sterujace)))
+        throw soci::odbc_soci_error(SQL_HANDLE_DBC, Uchwyt(), "allocating a statement");
+    } catch (const soci::soci_error& blad) {
+      Rzuc(blad, {});
+    }
+  }
+
+  void Skonfiguruj(const ParametryPolaczenia& parametry) {
+    for (const std::string& sql : m_jezyk->UstawieniaSesji(parametry.limitBlokadySekund)) Steruj(sql);
+    m_nazwa = Zapytaj(m_jezyk->NazwaBazy(), TypPola::Tekst).AsString();
+  }
+
+  // SOCI's session must find no transaction open when it disconnects: its destructor could not tell.
+  ~SilnikOdbc() override {
+    try {
+      if (m_stan != Stan::Brak || m_bezAutomatu) Wycofaj();
+    } catch (const EBladBazy&) {
+    }
+    PorzucPolecenia();
+    if (m_sterujace) SQLFreeHandle(SQL_HANDLE_STMT, m_sterujace);
+  }
+
+  const Dialekt& Jezyk() const override { return *m_jezyk; }
+  QString NazwaBazy() const override { return m_nazwa; }
+
+  void Rozpocznij() override {
+    Oglos("begin");
+    Tlumacz("begin", [&] { m_sesja.begin(); });
+    m_bezAutomatu = true;
+    m_stan = Stan::Otwarta;
+    try {
+      Zapytaj(m_jezyk->BlokadaImportu());
+      m_numer = Zapytaj(m_jezyk->NumerTransakcji());
+      ++m_znacznik;
+    } catch (const EBladBazy&) {
+      PorzucTransakcje();
+      throw;
+    }
+  }
+
+  // The driver would report success for a transaction that the server has given up: so nothing is committed
+  // unless no error stands in it and it is still the one that was begun.
+  void Zatwierdz() override {
+    if (m_stan == Stan::Zepsuta || !(Zapytaj(m_jezyk->NumerTransakcji()) == m_numer))
+      throw EBladBazy(RodzajBleduBazy::Inny,
+                      QStringLiteral("Serwer wycofał transakcję po wcześniejszym błędzie"), {});
+    Oglos("commit");
+    Tlumacz("commit", [&] { m_sesja.commit(); });
+    m_stan = Stan::Brak;
+    m_bezAutomatu = false;
+  }
+
+  void Wycofaj() override {
+    Oglos("rollback");
+    m_stan = Stan::Brak;
+    Tlumacz("rollback", [&] { m_sesja.rollback(); });
+    m_bezAutomatu = false;
+  }
+
+  bool WTransakcji() const override { return m_stan != Stan::Brak; }
+
+  void WycofDoPunktu(int poziom) override {
+    Silnik::WycofDoPunktu(poziom);
+    if (m_stan == Stan::Zepsuta) m_stan = Stan::Otwarta;
+  }
+
+  // Nobody can be asked whether others have written, and on a server somebody always does: whatever was not
+  // read in the transaction at hand is old. The import lock keeps other importing programs out of it.
+  long long ZnacznikObcychZmian() override { return m_stan == Stan::Brak ? ++m_znacznik : +m_znacznik; }
+
+ protected:
+  std::shared_ptr<Polecenie> Przygotuj(const std::string& sql, std::span<const TypPola> kolumny,
+                                       std::span<const Parametr> parametry) override {
+    return std::make_shared<PolecenieOdbc>(m_sesja, sql, m_jezyk->Przeloz(sql), kolumny, parametry);
+  }
+
+  // Not prepared: a prepared one could not be run where it is needed most, in a spoiled transaction.
+  void Steruj(const std::string& sql) override {
+    if (sql.empty()) return;
+    Oglos(sql);
+    Tlumacz(sql, [&] {
+      auto* tekst = reinterpret_cast<SQLCHAR*>(const_cast<char*>(sql.data()));  // the C interface
+      const SQLRETURN wynik = SQLExecDirect(m_sterujace, tekst, static_cast<SQLINTEGER>(sql.size()));
+      if (soci::is_odbc_error(wynik)) throw soci::odbc_soci_error(SQL_HANDLE_STMT, m_sterujace, "control");
+      SQLFreeStmt(m_sterujace, SQL_CLOSE);
+    });
+  }
+
+  Rozpoznanie Rozpoznaj(const soci::soci_error& blad) override {
+    if (m_stan == Stan::Otwarta) m_stan = Stan::Zepsuta;
+    const auto* odbc = dynamic_cast<const soci::odbc_soci_error*>(&blad);
+    if (!odbc) return {RodzajBleduBazy::Inny, QString::fromStdString(blad.get_error_message())};
+    const auto* stan = reinterpret_cast<const char*>(odbc->odbc_error_code());
+    const QString tresc = TrescBledu(reinterpret_cast<const char*>(odbc->odbc_error_message()));
+    if (!m_sesja.get_backend()) return {RodzajOdmowyPolaczenia(stan, tresc), tresc};
+    if (!Zerwane()) return {RodzajStanu(stan), tresc};
+    m_stan = Stan::Brak;  // the server undoes what it had of it
+    return {RodzajBleduBazy::Polaczenie, tresc};
+  }
+
+ private:
+  enum class Stan {
+    Brak,
+    Otwarta,
+    Zepsuta  // a statement failed outside of a savepoint: the server keeps nothing of it
+  };
+
+  template <typename Praca>
+  void Tlumacz(std::string_view sql, Praca praca) {
+    try {
+      praca();
+    } catch (const soci::soci_error& blad) {
+      Rzuc(blad, sql);
+    }
+  }
+
+  void PorzucTransakcje() noexcept {
+    try {
+      Wycofaj();
+    } catch (...) {
+    }
+  }
+
+  // Without a connection the driver has no state of the standard's for a refused user.
+  static RodzajBleduBazy RodzajOdmowyPolaczenia(std::string_view stan, const QString& tresc) {
+    if (stan == "01000") return RodzajBleduBazy::Sterownik;  // the driver's library
+    const bool haslo = tresc.contains(QLatin1String("password")) || tresc.contains(QLatin1String("hasł"));
+    return haslo ? RodzajBleduBazy::Logowanie : RodzajStanu(stan);
+  }
+
+  const Dialekt* WybierzJezyk() {
+    using Sesja = soci::odbc_session_backend;
+    switch (static_cast<Sesja*>(m_sesja.get_backend())->get_database_product()) {
+      case Sesja::prod_postgresql:
+        return &DialektPostgresql();
+      case Sesja::prod_mssql:
+        return &DialektTsql();
+      default:
+        throw EBladBazy(RodzajBleduBazy::Sterownik,
+                        QStringLiteral("Program nie zna rodzaju tego serwera bazy danych"), {});
+    }
+  }
+
+  SQLHDBC Uchwyt() { return static_cast<soci::odbc_session_backend*>(m_sesja.get_backend())->hdbc_; }
+
+  bool Zerwane() {
+    SQLUINTEGER zerwane = SQL_CD_FALSE;
+    SQLGetConnectAttr(Uchwyt(), SQL_ATTR_CONNECTION_DEAD, &zerwane, 0, nullptr);
+    return zerwane == SQL_CD_TRUE;
+  }
+
+  soci::session m_sesja;
+  SQLHSTMT m_sterujace = nullptr;
+  const Dialekt* m_jezyk = nullptr;
+  QString m_nazwa;
+  Stan m_stan = Stan::Brak;
+  bool m_bezAutomatu = false;  // SOCI has switched the automatic commit off
+  Wartosc m_numer;
+  inline static std::atomic<long long> m_znacznik = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<Silnik> PolaczOdbc(const ParametryPolaczenia& parametry, const Silnik::Podsluch& podsluch) {
+  auto silnik = std::make_unique<SilnikOdbc>(parametry, podsluch);
+  silnik->Skonfiguruj(parametry);
+  return silnik;
+}

@@ -1,0 +1,172 @@
+#include <gtest/gtest.h>
+
+#include "platform/baza/dialekt.h"
+#include "platform/baza/transakcja.h"
+#include "tests/wspolne/baza_testowa.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+TEST(ParametryPolaczenia, TekstINapisDlaLudzi) {
+  const struct {
+    QString tekst, opis;
+    bool haslo;
+  } przypadki[] = {
+      {u"/a/b.db"_s, u"/a/b.db"_s, false},
+      {u"ODBC: sklep "_s, u"odbc:sklep"_s, false},
+      {u"odbc:@/a/plik"_s, u"odbc:@/a/plik"_s, false},
+      {u"odbc:DSN=sklep;UID=ja"_s, u"odbc:DSN=sklep;UID=ja"_s, false},
+      {u"odbc:DSN=sklep;pwd={taj;n}}e};UID=ja"_s, u"odbc:DSN=sklep;UID=ja;"_s, true},
+      {u"odbc:Driver={P;Q};PASSWORD=x"_s, u"odbc:Driver={P;Q};"_s, true},
+  };
+  for (const auto& p : przypadki) {
+    const auto parametry = *ParametryPolaczenia::ZTekstu(p.tekst);
+    EXPECT_EQ(parametry.Opis(), p.opis);
+    EXPECT_EQ(parametry.MaHaslo(), p.haslo);
+    EXPECT_EQ(ParametryPolaczenia::ZTekstu(parametry.Tekst())->cel, parametry.cel);
+  }
+  auto zHaslem = *ParametryPolaczenia::ZTekstu(u"odbc:sklep"_s);
+  zHaslem.UstawHaslo(u"a;b}"_s);
+  EXPECT_EQ(zHaslem.cel, u"DSN=sklep;PWD={a;b}}};");
+  EXPECT_EQ(ParametryPolaczenia::ZTekstu(u"odbc:"_s), std::nullopt);
+}
+
+TEST(Dialekt, SlowaInneNaSerwerze) {
+  EXPECT_EQ(DialektPostgresql().Przeloz("update P set Do = :Do where Nazwa = 'Do getdate()' and Dom = 1"),
+            "update P set \"do\" = :Do where Nazwa = 'Do getdate()' and Dom = 1");
+  EXPECT_EQ(DialektPostgresql().Przeloz("select P.Do from T order by rowid"),
+            "select P.\"do\" from T order by ctid");
+  EXPECT_EQ(DialektTsql().Pierwsze(3, "select A from T"), "select top 3 A from T");
+}
+
+class Serwer : public testing::Test {
+ protected:
+  Serwer() { m_b.emplace(); }
+  void SetUp() override {
+    if (!NaSerwerze()) GTEST_SKIP() << "of servers only";
+    const Dialekt& d = b().baza.Jezyk();
+    b().baza.ExecSQL("create table T (Id " + d.TypAutoKlucz() + ", Nazwa " + d.TypTekst(1000) +
+                     " unique, Opis " + d.TypTekst(100'000) + ", Liczba integer, Czas " + d.TypCzas() + ")");
+  }
+  BazaTestowa& b() { return *m_b; }
+  void Dodaj(TVLTBazaDanych& baza, const QString& nazwa) {
+    baza.ExecSQL("insert into T (Nazwa) values (:Nazwa)", {{"Nazwa", nazwa}});
+  }
+  // One record of a batch, as the program saves it.
+  void Zapisz(TVLTBazaDanych& baza, const QString& nazwa) {
+    try {
+      JednostkaZapisu jednostka(baza);
+      Dodaj(baza, nazwa);
+      jednostka.Zatwierdz();
+    } catch (const EBladBazy& blad) {
+      EXPECT_EQ(blad.Rodzaj(), RodzajBleduBazy::Ograniczenie) << blad.MacDescription().toStdString();
+      EXPECT_FALSE(blad.MacDescription().contains(nazwa)) << "a bound value";
+    }
+  }
+  QString Nazwy() { return b().Kolumna("select Nazwa from T order by Nazwa"); }
+
+ private:
+  std::optional<BazaTestowa> m_b;
+};
+
+// Texts longer in bytes than in characters, and than any buffer; what does not fit is refused, never cut.
+TEST_F(Serwer, TekstyWracajaCaleAlboWcale) {
+  for (const qsizetype znakow : {1, 127, 128, 255, 256, 257, 1000}) {
+    const QString nazwa(znakow, u'ż');
+    const QString opis = QString(znakow * 100, u'ą') + u"\n\r\n'\"\\%_:;?"_s.left(znakow > 999 ? 0 : -1);
+    b().baza.ExecSQL("insert into T (Nazwa, Opis) values (:Nazwa, :Opis)",
+                     {{"Nazwa", nazwa}, {"Opis", opis}});
+    auto odczyt = b().baza.Otworz("select Nazwa, Opis from T where Nazwa = :Nazwa",
+                                  {TypPola::Tekst, TypPola::Tekst}, {{"Nazwa", nazwa}});
+    ASSERT_TRUE(odczyt.Nastepny());
+    EXPECT_TRUE(odczyt[0].AsString() == nazwa && odczyt[1].AsString() == opis) << znakow;
+  }
+  for (const QString& zla : {QString(1001, u'x'), u"a"_s + QChar(0) + u"b"_s}) {
+    try {
+      Dodaj(b().baza, zla);
+      ADD_FAILURE() << "accepted";
+    } catch (const EBladBazy& blad) {
+      EXPECT_EQ(blad.Rodzaj(), RodzajBleduBazy::Ograniczenie);
+    }
+  }
+  EXPECT_EQ(b().Liczba("select count(*) from T"), 7);
+  EXPECT_EQ(b().Tekst("select getdate()").size(), 19);
+  // By the codes of letters, whatever the server's language.
+  b().baza.ExecSQL("delete from T");
+  for (const QString& nazwa : {u"ł"_s, u"a"_s, u"B"_s, u"z"_s}) Dodaj(b().baza, nazwa);
+  EXPECT_EQ(Nazwy(), u"B,a,z,ł"_s);
+}
+
+// Whatever the operator's text asks of the driver.
+TEST_F(Serwer, OdrzuconyRekordNieZabieraSasiadow) {
+  for (const QString& dopisek :
+       {u""_s, u";Protocol=7.4-1;A1=7.4-1"_s, u";UseServerSidePrepare=0;LFConversion=1"_s}) {
+    SCOPED_TRACE(dopisek.toStdString());
+    b().baza.ExecSQL("delete from T");
+    ParametryPolaczenia parametry = b().Parametry();
+    parametry.cel += dopisek;
+    TVLTBazaDanych baza(parametry);
+    baza.Polacz();
+    baza.StartTransakcji();
+    for (const char* nazwa : {"pierwszy", "drugi", "pierwszy", "trzeci"})
+      Zapisz(baza, QString::fromUtf8(nazwa));
+    baza.KoniecTransakcji();
+    EXPECT_EQ(Nazwy(), u"drugi,pierwszy,trzeci"_s);
+
+    // An error outside of a unit spoils all of it, and the commit says so.
+    baza.StartTransakcji();
+    Dodaj(baza, u"czwarty"_s);
+    EXPECT_THROW(Dodaj(baza, u"drugi"_s), EBladBazy);
+    EXPECT_THROW(Dodaj(baza, u"piąty"_s), EBladBazy);
+    EXPECT_THROW(baza.KoniecTransakcji(), EBladBazy);
+    baza.WycofTransakcji();
+    EXPECT_FALSE(baza.GetCzyWTransakcji());
+    // One that somebody ended behind our back is not the one that was begun.
+    baza.StartTransakcji();
+    Dodaj(baza, u"szósty"_s);
+    baza.ExecSQL("rollback");
+    baza.ExecSQL("begin");
+    Dodaj(baza, u"siódmy"_s);
+    EXPECT_THROW(baza.KoniecTransakcji(), EBladBazy);
+    baza.WycofTransakcji();
+    EXPECT_EQ(Nazwy(), u"drugi,pierwszy,trzeci"_s);
+  }
+}
+
+TEST_F(Serwer, ZerwanePolaczenieKonczyTransakcje) {
+  TVLTBazaDanych inna;
+  b().Polacz(inna);
+  inna.StartTransakcji();
+  Dodaj(inna, u"x"_s);
+  b().baza.ExecSQL(
+      "select pg_terminate_backend(pid) from pg_locks where locktype = 'advisory'"
+      " and objid = cast(to_regnamespace(current_schema()) as oid)");
+  try {
+    inna.KoniecTransakcji();
+    ADD_FAILURE() << "committed";
+  } catch (const EBladBazy& blad) {
+    EXPECT_EQ(blad.Rodzaj(), RodzajBleduBazy::Polaczenie);
+  }
+  EXPECT_FALSE(inna.GetCzyWTransakcji());
+  b().Polacz(inna);
+  EXPECT_EQ(Nazwy(), QString());
+}
+
+// Two importing programs take turns; who waits for longer than allowed is told.
+TEST_F(Serwer, JedenImportNaRaz) {
+  TVLTBazaDanych inna;
+  b().Polacz(inna);
+  b().baza.StartTransakcji();
+  try {
+    inna.StartTransakcji();
+    ADD_FAILURE() << "both write";
+  } catch (const EBladBazy& blad) {
+    EXPECT_EQ(blad.Rodzaj(), RodzajBleduBazy::Blokada);
+  }
+  b().baza.KoniecTransakcji();
+  inna.StartTransakcji();
+  inna.WycofTransakcji();
+}
+
+}  // namespace
