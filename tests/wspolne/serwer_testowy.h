@@ -22,7 +22,13 @@ class BazaSerwera {
   BazaSerwera() : m_nazwa(QStringLiteral("zorvik_%1_%2").arg(getpid()).arg(++s_ile)) {
     Zlec("create schema " + m_nazwa.toStdString());
   }
-  ~BazaSerwera() { Zlec("drop schema " + m_nazwa.toStdString() + " cascade"); }
+  ~BazaSerwera() {
+    try {
+      Zlec("drop schema " + m_nazwa.toStdString() + " cascade");
+    } catch (const EBladBazy& blad) {
+      ADD_FAILURE() << "the schema stays: " << blad.MacDescription().toStdString();
+    }
+  }
   BazaSerwera(const BazaSerwera&) = delete;
   BazaSerwera& operator=(const BazaSerwera&) = delete;
 
