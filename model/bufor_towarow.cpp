@@ -1,9 +1,12 @@
 #include "model/bufor_towarow.h"
 
 #include <algorithm>
+#include <string>
+#include <utility>
 
 #include <QHashFunctions>
 
+#include "platform/baza/dialekt.h"
 #include "platform/baza/sesja.h"
 
 namespace {
@@ -26,12 +29,20 @@ void Wyjmij(std::unordered_multimap<std::uint64_t, int>& indeks, const QString& 
   if (para != koniec) indeks.erase(para);
 }
 
+long long Chwila(TVLTBazaDanych& baza) {
+  const std::string select = baza.Jezyk().ZnacznikChwili();
+  if (select.empty()) return 0;
+  auto odczyt = baza.Otworz(select, {TypPola::Calkowite});
+  return odczyt.Nastepny() ? odczyt[0].AsInteger() : 0;
+}
+
 }  // namespace
 
 bool TVLTBuforTowarow::Napelnij(TVLTBazaDanych& baza, const Postep& postep) {
   Uniewaznij();
   // Asked first: what others write while we read counts as written afterwards.
   m_znacznik = baza.ZnacznikObcychZmian();
+  m_chwila = Chwila(baza);
   m_obceZmiany = false;
   for (auto odczyt = baza.Otworz("select (select count(*) from Towar), (select count(*) from KodDod)",
                                  {TypPola::Calkowite, TypPola::Calkowite});
@@ -76,7 +87,29 @@ void TVLTBuforTowarow::Uniewaznij() {
   m_gotowy = false;
 }
 
+// What a text was before stays a candidate, which the caller confirms anyway.
+void TVLTBuforTowarow::DoczytajZapisane(TVLTBazaDanych& baza) {
+  const long long od = std::exchange(m_chwila, Chwila(baza));
+  const auto dopisz = [](Indeks& indeks, const QString& tekst, int towId) {
+    const auto [poczatek, koniec] = indeks.equal_range(Odcisk(tekst));
+    if (std::none_of(poczatek, koniec, [towId](const auto& p) { return p.second == towId; }))
+      Wstaw(indeks, tekst, towId);
+  };
+  const auto czytaj = [&](std::string_view sql, std::vector<Indeks*> indeksy) {
+    std::vector<TypPola> kolumny{TypPola::Calkowite};
+    kolumny.resize(1 + indeksy.size(), TypPola::Tekst);
+    const Parametr parametry[] = {{"Od", od}};
+    for (auto odczyt = baza.Otworz(std::string(sql) + baza.Jezyk().ZapisaneOd(), kolumny, parametry);
+         odczyt.Nastepny();)
+      for (std::size_t i = 0; i < indeksy.size(); ++i)
+        dopisz(*indeksy[i], odczyt[1 + i].AsString(), static_cast<int>(odczyt[0].AsInteger()));
+  };
+  czytaj("select TowId, Nazwa, Kod, Skrot from Towar where ", {&m_nazwy, &m_kody, &m_skroty});
+  czytaj("select TowId, Kod, Skrot from KodDod where ", {&m_kody, &m_skroty});
+}
+
 void TVLTBuforTowarow::SprawdzObceZmiany(TVLTBazaDanych& baza) {
+  if (m_gotowy && !baza.Jezyk().ZapisaneOd().empty()) return DoczytajZapisane(baza);
   m_obceZmiany = m_obceZmiany || baza.ZnacznikObcychZmian() != m_znacznik;
 }
 

@@ -26,8 +26,9 @@ class TVLTBuforTowarow {
   // After a failed commit memory may be ahead of the database: the next run fills the buffer anew.
   void Uniewaznij();
 
-  // Asks the session whether another connection has written since the buffer was filled. Called at the start
-  // of every write transaction, inside which the answer holds.
+  // Asks the session whether another connection has written since the buffer was filled; where the server can
+  // tell what, that is taken over. Called at the start of every write transaction, inside which the answer
+  // holds.
   void SprawdzObceZmiany(TVLTBazaDanych& baza);
   // True when a miss is as good as the database's word.
   bool BrakJestPewny() const { return !m_obceZmiany; }
@@ -66,6 +67,7 @@ class TVLTBuforTowarow {
     Teksty bylo, jest;
     bool nowy;
   };
+  void DoczytajZapisane(TVLTBazaDanych& baza);
   void Wpisz(int towId, const Teksty& bylo, const Teksty& jest);
 
   using Indeks = std::unordered_multimap<std::uint64_t, int>;
@@ -77,4 +79,5 @@ class TVLTBuforTowarow {
   bool m_gotowy = false;
   bool m_obceZmiany = false;
   long long m_znacznik = 0;
+  long long m_chwila = 0;  // up to which the texts of others are known; on servers that can tell
 };

@@ -2,6 +2,7 @@
 
 #include "model/bledy.h"
 #include "model/kontekst.h"
+#include "platform/baza/dialekt.h"
 #include "platform/baza/sesja.h"
 #include "platform/baza/transakcja.h"
 
@@ -68,13 +69,24 @@ int TDmVLTElement::Zapisz() {
   int id = Id();
   if (nowy)
     id = InsertRecord();
-  else
+  else {
+    PrzyjmijCudzeZmiany();
     UpdateRecord(id);
+  }
   jednostka.Zatwierdz();
   if (nowy) PoleId().SetInteger(id);
   Query.ZatwierdzZmiany();
   AfterSave();
   return id;
+}
+
+void TDmVLTElement::PrzyjmijCudzeZmiany() {
+  const auto zrodlo = BlokowanyWiersz();
+  if (!zrodlo) return;
+  const std::string select = Context.baza.Jezyk().ZBlokadaWierszy(Query.Sql(), zrodlo->tabela, zrodlo->alias);
+  if (select.empty()) return;
+  SetLoadParams(Id());  // a record that was new has none yet
+  if (!Query.Odswiez(select)) throw EVLTWDError(2001);
 }
 
 int TDmVLTElement::Id() const {

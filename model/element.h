@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <span>
 
 #include "platform/baza/zapytanie.h"
@@ -53,6 +54,13 @@ class TDmVLTElement {
   virtual const char* IdFieldName() const = 0;
   virtual bool ExtraUnsavedTest() const { return false; }
   virtual void SetLoadParams(int id) = 0;
+  // Table and alias of the row that a save writes over, in the record's select. On a server the row is read
+  // again under a lock before that: what the save does not change stays as others have left it meanwhile.
+  struct ZrodloWiersza {
+    const char* tabela;
+    const char* alias;
+  };
+  virtual std::optional<ZrodloWiersza> BlokowanyWiersz() const { return std::nullopt; }
   // The record's row where it was read ahead; empty: the query asks the database.
   virtual std::span<const Wartosc> OdczytanyWiersz(int /*id*/) const { return {}; }
   virtual void ClearDetails() {}
@@ -69,6 +77,7 @@ class TDmVLTElement {
   KontekstSesji& Context;
 
  private:
+  void PrzyjmijCudzeZmiany();
   TMField& PoleId();
   const TMField& PoleId() const;
 

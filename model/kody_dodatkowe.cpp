@@ -24,7 +24,7 @@ bool TenSam(const KodDodatkowy* a, const KodDodatkowy& b) {
 }
 
 void Wstaw(TVLTBazaDanych& baza, int towId, const KodDodatkowy& kod) {
-  baza.ExecSQL(
+  baza.Wstaw(
       "insert into KodDod (TowId, Kolejnosc, Skrot, Kod, PoziomCen, PrefPLU, IleWKodzie)"
       " values (:TowId, :Kolejnosc, :Skrot, :Kod, :PoziomCen, :PrefPLU, :IleWKodzie)",
       {{"TowId", towId},

@@ -46,7 +46,7 @@ const std::vector<Wartosc>& NowyWiersz() {
 
 TDmVLTKontrahent::TDmVLTKontrahent(KontekstSesji& context) : TDmVLTElement(context, kPola) {
   const Dialekt& jezyk = context.baza.Jezyk();
-  Query.SetSql((jezyk.ZnaOuterJoin() ? kSelect : kSelectBezOuterJoin) + jezyk.BlokadaWierszy("K"));
+  Query.SetSql(jezyk.ZnaOuterJoin() ? kSelect : kSelectBezOuterJoin);
 }
 
 TDmVLTKontrahent::~TDmVLTKontrahent() = default;

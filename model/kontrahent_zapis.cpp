@@ -110,8 +110,7 @@ class OpisWpisu {
 int TDmVLTKontrahent::InsertRecord() {
   Sprawdz();
   static const std::string sql = Insert(Query);
-  Context.baza.ExecSQL(sql, ParametryZapisu());
-  const int id = Context.baza.PobierzAutoId();
+  const int id = Context.baza.WstawZKluczem("Kontrahent", "KontrId", sql, ParametryZapisu());
   ZapiszOsoby(id);
   if (Sklep()) WstawSklep(id);
   Context.baza.RejestrujZmiane(kDziennikKontrahent, OpisNowego(), id, -1);
@@ -180,8 +179,8 @@ std::vector<Parametr>& TDmVLTKontrahent::ParametryZapisu() {
 
 void TDmVLTKontrahent::ZapiszOsoby(int id) const {
   for (const QString& osoba : m_osoby)
-    Context.baza.ExecSQL("insert into Osoba (KontrId, Nazwisko) values (:KontrId, :Nazwisko)",
-                         {{"KontrId", id}, {"Nazwisko", osoba}});
+    Context.baza.Wstaw("insert into Osoba (KontrId, Nazwisko) values (:KontrId, :Nazwisko)",
+                       {{"KontrId", id}, {"Nazwisko", osoba}});
 }
 
 void TDmVLTKontrahent::ZapiszSklep(int id) {

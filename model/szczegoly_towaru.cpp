@@ -91,8 +91,8 @@ void WartosciParametrow::Zapisz(TVLTBazaDanych& baza, int towId) const {
   if (m_wartosci == m_zBazy) return;
   if (!m_zBazy.empty()) baza.ExecSQL("delete from TowWartosc where TowId = :TowId", {{"TowId", towId}});
   for (const auto& [parId, wartosc] : m_wartosci)
-    baza.ExecSQL("insert into TowWartosc (TowId, ParId, Wartosc) values (:TowId, :ParId, :Wartosc)",
-                 {{"TowId", towId}, {"ParId", parId}, {"Wartosc", WymagajZakresu(wartosc)}});
+    baza.Wstaw("insert into TowWartosc (TowId, ParId, Wartosc) values (:TowId, :ParId, :Wartosc)",
+               {{"TowId", towId}, {"ParId", parId}, {"Wartosc", WymagajZakresu(wartosc)}});
 }
 
 void DostawcyTowaru::UstawZNipem(std::span<const int> kontrahenci) {
@@ -149,8 +149,8 @@ void DostawcyTowaru::Zapisz(TVLTBazaDanych& baza, int towId) const {
   if (!m_zBazy.empty()) baza.ExecSQL("delete from TowDostawca where TowId = :TowId", {{"TowId", towId}});
   int kolejnosc = 0;
   for (const Dostawca& dostawca : m_dostawcy)
-    baza.ExecSQL("insert into TowDostawca (TowId, KontrId, Kolejnosc) values (:TowId, :KontrId, :Kolejnosc)",
-                 {{"TowId", towId}, {"KontrId", dostawca.kontrId}, {"Kolejnosc", kolejnosc++}});
+    baza.Wstaw("insert into TowDostawca (TowId, KontrId, Kolejnosc) values (:TowId, :KontrId, :Kolejnosc)",
+               {{"TowId", towId}, {"KontrId", dostawca.kontrId}, {"Kolejnosc", kolejnosc++}});
 }
 
 const StanyTowaru::Stan& StanyTowaru::operator[](int indeks) const {

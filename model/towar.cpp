@@ -90,7 +90,7 @@ OtoczenieZParametrow::~OtoczenieZParametrow() = default;
 TDmVLTTowar::TDmVLTTowar(KontekstSesji& context, const OtoczenieTowarow& otoczenie)
     : TDmVLTElement(context, kPola), m_otoczenie(otoczenie), m_nowyWiersz(NowyWiersz(context.parametry)) {
   const char* const select = context.baza.Jezyk().ZnaOuterJoin() ? kSelectTowaru : kSelectTowaruBezOuterJoin;
-  Query.SetSql(std::string(select) + "= :TowId" + context.baza.Jezyk().BlokadaWierszy("T"));
+  Query.SetSql(std::string(select) + "= :TowId");
 }
 
 TDmVLTTowar::~TDmVLTTowar() = default;

@@ -132,8 +132,8 @@ struct WynikWalidacji {
 // - what was read stays beside what was set: TakiSamJakWBazie and TekstyZBazy need no second reading, and the
 // update
 //   describes its changes from it;
-// - reading a good that was not read ahead takes four selects (main row, additional codes, parameter values, suppliers); stock, note
-// and
+// - reading a good that was not read ahead takes four selects (main row, additional codes, parameter values,
+// suppliers); stock, note and
 //   registers are read when they are asked for;
 // - Zapisz first plans (validation, change description), then writes: refusals are EVLTWDError with the code
 // of the
@@ -227,6 +227,9 @@ class TDmVLTTowar final : public TDmVLTElement {
   }
   void SetLoadParams(int id) override;
   std::span<const Wartosc> OdczytanyWiersz(int id) const override;
+  std::optional<ZrodloWiersza> BlokowanyWiersz() const override {
+    return ZrodloWiersza{"Towar", "T"};
+  }
   void ClearDetails() override;
   void AfterLoad(bool isNew, int id) override;
   int InsertRecord() override;

@@ -116,8 +116,7 @@ int TDmVLTTowar::InsertRecord() {
   m_plan = std::make_unique<Plan>(Zaplanuj());
   return ZOdmowaZapisu([&] {
     static const std::string sql = Insert(Query);
-    Context.baza.ExecSQL(sql, ParametryZapisu());
-    const int id = Context.baza.PobierzAutoId();
+    const int id = Context.baza.WstawZKluczem("Towar", "TowId", sql, ParametryZapisu());
     ZapiszNotatke(id);
     WstawPowiazanie(id);
     ZapiszSzczegoly(id);
@@ -212,7 +211,7 @@ bool TDmVLTTowar::Zmienione(std::initializer_list<KolumnaTowaru::Numer> kolumny)
 
 void TDmVLTTowar::WstawPowiazanie(int id) const {
   if (OpakId() < 0) return;
-  Context.baza.ExecSQL(
+  Context.baza.Wstaw(
       "insert into Powiazanie (TowId, OpakId, IleWOpak, Tandem) values (:TowId, :OpakId, :IleWOpak, :Tandem)",
       {{"TowId", id}, {"OpakId", OpakId()}, {"IleWOpak", IleWOpak()}, {"Tandem", Tandem()}});
 }

@@ -16,8 +16,7 @@ Odczyt OtworzWiersze(TVLTBazaDanych& baza, const ListaId& lista) {
     return typy;
   }();
   const char* const select = baza.Jezyk().ZnaOuterJoin() ? kSelectTowaru : kSelectTowaruBezOuterJoin;
-  return baza.Otworz(select + ListaId::Warunek() + baza.Jezyk().BlokadaWierszy("T"), kolumny,
-                     lista.Parametry());
+  return baza.Otworz(select + ListaId::Warunek(), kolumny, lista.Parametry());
 }
 
 }  // namespace

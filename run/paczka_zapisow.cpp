@@ -17,6 +17,7 @@ void PaczkaZapisow::PrzedRekordem() {
 
 void PaczkaZapisow::Otworz() {
   if (m_otwarta) return;
+  m_baza.GrupujWstawienia(!m_pojedynczo);
   m_baza.StartTransakcji();
   m_otwarta = true;
   m_rekordow = 0;
@@ -37,7 +38,7 @@ void PaczkaZapisow::Zatwierdz() {
       Porzuc();
       throw;
     }
-    m_otwarta = false;
+    m_otwarta = m_pojedynczo = false;
     ++m_zakonczonych;
   }
   m_liczniki.Zatwierdz();

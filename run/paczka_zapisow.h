@@ -52,6 +52,8 @@ class PaczkaZapisow {
   // Undoes the open batch as if it had not been begun: its records can be gone through again. What is kept of
   // the database is then read anew.
   void Wycofaj() noexcept;
+  // The next batch writes every row alone, so that a refused one is met by its own record.
+  void PiszPojedynczo() { m_pojedynczo = true; }
   // After an exception: keeps the whole units done so far when the database still can, drops them otherwise.
   void UratujCoSieDa() noexcept;
 
@@ -64,6 +66,7 @@ class PaczkaZapisow {
   Liczniki& m_liczniki;
   RaportProblemow& m_raport;
   bool m_otwarta = false;
+  bool m_pojedynczo = false;
   int m_zakonczonych = 0;
   int m_rekordow = 0;
   Zegar::time_point m_poczatek{};

@@ -139,8 +139,12 @@ PrzebiegImportu::Krok PrzebiegImportu::Rozpatrz(const RekordPliku& rekord, Pytan
 
 // The records of the batch come again.
 bool PrzebiegImportu::PowtorzPaczke(const EBladBazy& blad, KolejkaRekordow& kolejka) {
-  if (blad.Rodzaj() != RodzajBleduBazy::Kolizja || m_powtorzen == kNajwiecejPowtorzen) return false;
-  ++m_powtorzen;
+  if (blad.Rodzaj() == RodzajBleduBazy::Grupa)
+    m_paczka.PiszPojedynczo();
+  else if (blad.Rodzaj() == RodzajBleduBazy::Kolizja && m_powtorzen < kNajwiecejPowtorzen)
+    ++m_powtorzen;
+  else
+    return false;
   ZapomnijZatwierdzone(kolejka);
   m_paczka.Wycofaj();
   PoWycofaniuPaczki();

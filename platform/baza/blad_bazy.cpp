@@ -7,7 +7,7 @@ struct Tytul {
   RodzajBleduBazy rodzaj;
   const char16_t* tytul;
 };
-constexpr std::array<Tytul, 12> kTytuly{{
+constexpr std::array<Tytul, 13> kTytuly{{
     {RodzajBleduBazy::Polaczenie, u"Brak połączenia z bazą"},
     {RodzajBleduBazy::Logowanie, u"Serwer bazy danych odrzucił użytkownika lub hasło"},
     {RodzajBleduBazy::Sterownik, u"Brak sterownika ODBC lub źródła danych"},
@@ -18,6 +18,7 @@ constexpr std::array<Tytul, 12> kTytuly{{
     {RodzajBleduBazy::Czas, u"Przekroczono czas oczekiwania na bazę danych"},
     {RodzajBleduBazy::Kolizja, u"Zmiany kolidują ze zmianami innego programu"},
     {RodzajBleduBazy::Uprawnienia, u"Brak uprawnień do bazy danych"},
+    {RodzajBleduBazy::Grupa, u"Baza danych odrzuciła zapisywane wartości"},
     {RodzajBleduBazy::Ograniczenie, u"Baza danych odrzuciła zapisywane wartości"},
     {RodzajBleduBazy::Inny, u"Błąd bazy danych"},
 }};

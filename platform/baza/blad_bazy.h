@@ -16,6 +16,7 @@ enum class RodzajBleduBazy {
   Czas,          // a statement took longer than the server allows, or was cancelled there
   Kolizja,       // a deadlock or a serialisation failure: the transaction may be tried again
   Uprawnienia,   // the database user may not do this
+  Grupa,         // one of several rows that were written together was refused; which one is not known
   Ograniczenie,  // a constraint, range or length refused the values
   Inny
 };

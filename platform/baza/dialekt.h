@@ -23,10 +23,6 @@ class Dialekt {
   // Limits a select to its first rows; `select` begins with "select ".
   virtual std::string Pierwsze(int ile, const std::string& select) const = 0;
 
-  // Behind a select of rows that are written back as a whole: nobody else changes them until the transaction
-  // ends. `alias` names their table.
-  virtual std::string BlokadaWierszy(const std::string& /*alias*/) const { return {}; }
-
   // Savepoints of a transaction; an empty text: there is nothing to do.
   virtual std::string UstawPunkt(int poziom) const { return "savepoint p" + std::to_string(poziom); }
   virtual std::string ZwolnijPunkt(int poziom) const { return "release p" + std::to_string(poziom); }
@@ -37,6 +33,22 @@ class Dialekt {
   virtual std::string NazwaBazy() const { return {}; }  // a select
   // Servers: a select of the number that a transaction keeps from its start to its end.
   virtual std::string NumerTransakcji() const { return {}; }
+  // Servers that are worth writing to by many rows at a time: a select of the next automatic keys of a table,
+  // one a row. Empty: every row is written alone and its key asked for afterwards.
+  virtual std::string NoweKlucze(const std::string& /*tabela*/, const std::string& /*klucz*/,
+                                 int /*ile*/) const {
+    return {};
+  }
+  // Servers: the select with the rows of that table (its name and its alias in the text) locked until the
+  // transaction ends. Empty where a write transaction keeps everybody else from writing.
+  virtual std::string ZBlokadaWierszy(const std::string& /*select*/, const std::string& /*tabela*/,
+                                      const std::string& /*alias*/) const {
+    return {};
+  }
+  // Servers that can tell what others have written: a select of a mark of the present moment, and a condition
+  // that holds for the rows written since the mark :Od. Empty where nobody can.
+  virtual std::string ZnacznikChwili() const { return {}; }
+  virtual std::string ZapisaneOd() const { return {}; }
   // Servers: a select that returns when this transaction alone, of all importing programs, may write, and
   // holds that right until the transaction ends.
   virtual std::string BlokadaImportu() const { return {}; }

@@ -33,6 +33,12 @@ class Tsql final : public Dialekt {
     return "declare @w int exec @w = sp_getapplock 'zorvik', 'Exclusive', 'Transaction' select @w";
   }
 
+  std::string ZBlokadaWierszy(const std::string& select, const std::string& tabela,
+                              const std::string& alias) const override {
+    const std::string zrodlo = tabela + ' ' + alias;
+    return Zamien(select, zrodlo, zrodlo + " with (updlock)");
+  }
+
   std::string TypAutoKlucz() const override { return "int identity primary key"; }
   std::string TypCalkowity() const override { return "int"; }
   std::string TypDziesietny() const override { return "float"; }

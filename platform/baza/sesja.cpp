@@ -1,19 +1,103 @@
 #include "platform/baza/sesja.h"
 
+#include <algorithm>
+#include <map>
 #include <string>
+#include <vector>
 
 #include "platform/baza/dialekt.h"
+#include "platform/baza/kolejka_wstawien.h"
 #include "platform/baza/polecenie.h"
 #include "platform/baza/silnik.h"
 #include "platform/baza/transakcja.h"
 #include "platform/baza/zapytanie.h"
 #include "platform/config.h"
 
+namespace {
+constexpr TypPola kLiczba[] = {TypPola::Calkowite};
+}  // namespace
+
 struct TVLTBazaDanych::Wnetrze {
   ParametryPolaczenia polaczenie;
   Podsluch podsluch;
   std::unique_ptr<Silnik> silnik;
   long long zatwierdzen = 0;
+
+  // Grouped inserts. A unit's savepoint is set only when a statement other than such an insert comes: until
+  // then the unit is undone by forgetting its rows.
+  struct Jednostka {
+    int poziom;
+    std::size_t pierwszyWiersz;  // in the queue
+    bool ustawiona;
+  };
+  bool grupuj = false;
+  KolejkaWstawien kolejka;
+  std::vector<Jednostka> jednostki;
+  struct Klucze {
+    std::vector<int> wolne;  // taken from the server, not used yet; the next one last
+    int blok = 1;
+  };
+  std::map<std::string, Klucze> klucze;  // by table
+
+  bool Grupuje() const { return grupuj && silnik && silnik->WTransakcji(); }
+  // A row of a unit whose savepoint is set is written at once.
+  bool MozeCzekac() const { return Grupuje() && (jednostki.empty() || !jednostki.back().ustawiona); }
+  // Keys are taken in blocks which grow, so that a short import leaves few of them unused.
+  int NastepnyKlucz(const char* tabela, const char* klucz) {
+    constexpr int kNajwiecej = 256;
+    Klucze& k = klucze[tabela];
+    if (k.wolne.empty()) {
+      k.blok = std::min(kNajwiecej, k.blok * 4);
+      const auto polecenie = silnik->Wykonaj(silnik->Jezyk().NoweKlucze(tabela, klucz, k.blok), kLiczba, {});
+      while (silnik->Nastepny(*polecenie))
+        k.wolne.push_back(static_cast<int>(polecenie->Wiersz().front().AsInteger()));
+      polecenie->Zwolnij();
+      std::reverse(k.wolne.begin(), k.wolne.end());
+    }
+    const int id = k.wolne.back();
+    k.wolne.pop_back();
+    return id;
+  }
+  void Zapomnij() {
+    kolejka.Utnij(0);
+    jednostki.clear();
+  }
+  // Writes what waits, so that the statement that comes sees it and can be undone alone.
+  void Dopisz() {
+    if (kolejka.Ilosc() == 0 && (jednostki.empty() || jednostki.back().ustawiona)) return;
+    std::size_t wykonanych = 0;
+    for (Jednostka& jednostka : jednostki) {
+      if (jednostka.ustawiona) continue;
+      WykonajKolejke(jednostka.pierwszyWiersz - std::min(wykonanych, jednostka.pierwszyWiersz));
+      wykonanych = std::max(wykonanych, jednostka.pierwszyWiersz);
+      silnik->UstawPunkt(jednostka.poziom);
+      jednostka.ustawiona = true;
+      jednostka.pierwszyWiersz = 0;
+    }
+    WykonajKolejke(kolejka.Ilosc());
+  }
+  void Wstaw(std::size_t ile) {
+    kolejka.Wykonaj(ile, [this](std::string_view sql, std::span<const Parametr> parametry) {
+      silnik->Wykonaj(sql, {}, parametry)->Zwolnij();
+    });
+  }
+  // Rows of several units: when they fail nobody knows what is there of which, so nothing stays.
+  void WykonajKolejke(std::size_t ile) {
+    try {
+      Wstaw(ile);
+    } catch (const EBladBazy& blad) {
+      Wycofaj();
+      if (blad.KonczyPrzebieg()) throw;
+      throw EBladBazy(RodzajBleduBazy::Grupa, blad.Tresc(), {});
+    }
+  }
+  void Wycofaj() noexcept {
+    Zapomnij();
+    try {
+      if (silnik && silnik->WTransakcji()) silnik->Wycofaj();
+    } catch (...) {
+    }
+  }
 
   Silnik& Polaczony() const {
     if (!silnik)
@@ -75,6 +159,8 @@ void TVLTBazaDanych::Polacz() {
 
 void TVLTBazaDanych::Odlacz() {
   if (GetCzyWTransakcji()) WycofTransakcji();
+  m->Zapomnij();
+  m->klucze.clear();
   m->silnik.reset();
 }
 
@@ -83,6 +169,7 @@ long long TVLTBazaDanych::ExecSQL(std::string_view sql, std::initializer_list<Pa
 }
 
 long long TVLTBazaDanych::ExecSQL(std::string_view sql, std::span<const Parametr> parametry) {
+  m->Dopisz();
   const auto polecenie = m->Polaczony().Wykonaj(sql, {}, parametry);
   const long long ile = polecenie->Dotknietych();
   polecenie->Zwolnij();
@@ -98,6 +185,7 @@ Odczyt TVLTBazaDanych::Otworz(std::string_view sql, std::initializer_list<TypPol
 Odczyt TVLTBazaDanych::Otworz(std::string_view sql, std::span<const TypPola> kolumny,
                               std::span<const Parametr> parametry) {
   Silnik& silnik = m->Polaczony();
+  m->Dopisz();
   return {silnik, silnik.Wykonaj(sql, kolumny, parametry)};
 }
 
@@ -110,20 +198,45 @@ int TVLTBazaDanych::PobierzAutoId() {
   return id.IsNull() ? -1 : static_cast<int>(id.AsInteger());
 }
 
+void TVLTBazaDanych::Wstaw(std::string_view sql, std::initializer_list<Parametr> parametry) {
+  const std::span<const Parametr> wartosci(parametry.begin(), parametry.size());
+  if (m->MozeCzekac())
+    m->kolejka.Dodaj(sql, wartosci);
+  else
+    ExecSQL(sql, wartosci);
+}
+
+int TVLTBazaDanych::WstawZKluczem(const char* tabela, const char* klucz, std::string_view sql,
+                                  std::span<const Parametr> parametry) {
+  if (!GetCzyWTransakcji() || Jezyk().NoweKlucze(tabela, klucz, 1).empty()) {
+    ExecSQL(sql, parametry);
+    return PobierzAutoId();
+  }
+  const bool czeka = m->MozeCzekac();
+  if (!czeka) m->Dopisz();
+  const int id = m->NastepnyKlucz(tabela, klucz);
+  m->kolejka.Dodaj(sql, parametry, klucz, id);
+  if (!czeka) m->Wstaw(1);
+  return id;
+}
+
+void TVLTBazaDanych::GrupujWstawienia(bool grupuj) {
+  m->grupuj = grupuj;
+}
+
 void TVLTBazaDanych::StartTransakcji() {
+  m->Zapomnij();
   m->Polaczony().Rozpocznij();
 }
 
 void TVLTBazaDanych::KoniecTransakcji() {
+  m->Dopisz();
   m->Polaczony().Zatwierdz();
   ++m->zatwierdzen;
 }
 
 void TVLTBazaDanych::WycofTransakcji() noexcept {
-  try {
-    if (GetCzyWTransakcji()) m->silnik->Wycofaj();
-  } catch (...) {
-  }
+  m->Wycofaj();
 }
 
 bool TVLTBazaDanych::GetCzyWTransakcji() const {
@@ -131,17 +244,30 @@ bool TVLTBazaDanych::GetCzyWTransakcji() const {
 }
 
 void TVLTBazaDanych::UstawPunkt(int poziom) {
-  m->Polaczony().UstawPunkt(poziom);
+  const bool odlozona = m->Grupuje();
+  m->jednostki.push_back({poziom, m->kolejka.Ilosc(), !odlozona});
+  if (!odlozona) m->Polaczony().UstawPunkt(poziom);
 }
 
 void TVLTBazaDanych::ZwolnijPunkt(int poziom) {
-  m->Polaczony().ZwolnijPunkt(poziom);
+  // Many rows would make the last ones wait for a long time.
+  constexpr std::size_t kNajwiecejWierszy = 400;
+  if (m->jednostki.empty() || m->jednostki.back().ustawiona) {
+    m->Dopisz();
+    m->Polaczony().ZwolnijPunkt(poziom);
+  }
+  if (!m->jednostki.empty()) m->jednostki.pop_back();
+  if (m->jednostki.empty() && m->kolejka.Ilosc() >= kNajwiecejWierszy) m->Dopisz();
 }
 
 void TVLTBazaDanych::WycofDoPunktu(int poziom) noexcept {
   try {
+    const auto jednostka = m->jednostki.empty() ? Wnetrze::Jednostka{poziom, 0, true} : m->jednostki.back();
+    m->kolejka.Utnij(jednostka.pierwszyWiersz);
+    if (!m->jednostki.empty()) m->jednostki.pop_back();
+    if (!jednostka.ustawiona) return;
     m->Polaczony().WycofDoPunktu(poziom);
-    ZwolnijPunkt(poziom);
+    m->silnik->ZwolnijPunkt(poziom);
   } catch (...) {
     // Half a unit must not be committed with what surrounds it.
     WycofTransakcji();
@@ -161,7 +287,7 @@ void TVLTBazaDanych::Utrwal() {
 }
 
 void TVLTBazaDanych::RejestrujZmiane(int tabela, const QString& opis, int id1, int id2) {
-  ExecSQL(
+  Wstaw(
       "insert into DziennikZmian (Czas, Tabela, Opis, Id1, Id2)"
       " values (getdate(), :Tabela, :Opis, :Id1, :Id2)",
       {{"Tabela", tabela}, {"Opis", opis}, {"Id1", id1}, {"Id2", id2}});

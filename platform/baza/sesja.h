@@ -66,6 +66,18 @@ class TVLTBazaDanych {
   // Runs a statement that returns no rows; returns the number of rows it touched.
   long long ExecSQL(std::string_view sql, std::initializer_list<Parametr> parametry = {});
   long long ExecSQL(std::string_view sql, std::span<const Parametr> parametry);
+  // Inserts a row whose number nobody asks for. While inserts are grouped it may wait for others: it is
+  // written before the next statement of any other kind and before the commit, in the order that
+  // KolejkaWstawien keeps. A group that is refused leaves as EBladBazy of kind Grupa and spoils the
+  // transaction.
+  void Wstaw(std::string_view sql, std::initializer_list<Parametr> parametry);
+  // The same for a row with an automatic key, which is returned: "insert into `tabela` (columns) ..." without
+  // the column `klucz`.
+  int WstawZKluczem(const char* tabela, const char* klucz, std::string_view sql,
+                    std::span<const Parametr> parametry);
+  // Whether inserts of the next transactions are grouped, where the server is worth it.
+  void GrupujWstawienia(bool grupuj);
+
   // Starts a select whose columns have the given kinds.
   Odczyt Otworz(std::string_view sql, std::initializer_list<TypPola> kolumny,
                 std::initializer_list<Parametr> parametry = {});

@@ -50,6 +50,13 @@ void TMField::Wczytaj(const Wartosc& wartosc) {
   m_zmienione = false;
 }
 
+void TMField::Odswiez(const Wartosc& wartosc) {
+  if (m_zmienione)
+    *m_stara = wartosc;
+  else
+    m_wartosc = wartosc;
+}
+
 void TMField::Oproznij() {
   m_wartosc.Clear();
   m_zmienione = false;
@@ -92,8 +99,6 @@ void TKMQuery::Open() {
     throw EBladBazy(RodzajBleduBazy::Polaczenie, QStringLiteral("Sesja nie jest otwarta"), QString());
   Close();
   if (!m_otwierajPusty) {
-    if (m_typy.empty())
-      for (const OpisPola& opis : m_opisy) m_typy.push_back(opis.typ);
     try {
       CzytajWiersze();
     } catch (...) {
@@ -114,7 +119,7 @@ void TKMQuery::OpenZ(std::span<const Wartosc> wiersz) {
 }
 
 void TKMQuery::CzytajWiersze() {
-  Odczyt odczyt = m_baza->Otworz(m_sql, m_typy, m_parametry);
+  Odczyt odczyt = m_baza->Otworz(m_sql, Typy(), m_parametry);
   while (odczyt.Nastepny()) {
     Append();
     std::vector<TMField>& wiersz = m_wiersze.back();
@@ -122,6 +127,20 @@ void TKMQuery::CzytajWiersze() {
     if (m_tylkoPierwszy) break;
   }
   m_biezacy = m_wiersze.empty() ? -1 : 0;
+}
+
+bool TKMQuery::Odswiez(const std::string& select) {
+  Odczyt odczyt = m_baza->Otworz(select, Typy(), m_parametry);
+  if (!odczyt.Nastepny()) return false;
+  std::vector<TMField>& wiersz = m_wiersze[static_cast<std::size_t>(m_biezacy)];
+  for (std::size_t i = 0; i < wiersz.size(); ++i) wiersz[i].Odswiez(odczyt[i]);
+  return true;
+}
+
+std::span<const TypPola> TKMQuery::Typy() {
+  if (m_typy.empty())
+    for (const OpisPola& opis : m_opisy) m_typy.push_back(opis.typ);
+  return m_typy;
 }
 
 void TKMQuery::Close() {

@@ -43,6 +43,7 @@ class TMField {
   friend class TKMQuery;
   void Przyjmij(Wartosc nowa);
   void Wczytaj(const Wartosc& wartosc);
+  void Odswiez(const Wartosc& wartosc);
   void Oproznij();
 
   const OpisPola* m_opis;
@@ -100,6 +101,7 @@ class TKMQuery final : public TMCustomDataSet {
   void Powiaz(TVLTBazaDanych& baza) { m_baza = &baza; }
   TVLTBazaDanych* Baza() const { return m_baza; }
   void SetSql(std::string sql) { m_sql = std::move(sql); }
+  const std::string& Sql() const { return m_sql; }
   void SetParam(const char* nazwa, Wartosc wartosc);
   // With open-empty on, Open gives an empty dataset without asking the database.
   void SetOpenEmpty(bool pusty) { m_otwierajPusty = pusty; }
@@ -110,6 +112,9 @@ class TKMQuery final : public TMCustomDataSet {
   // Opens with one row that was read already.
   void OpenZ(std::span<const Wartosc> wiersz);
   void Close();
+  // Reads the current row again by `select`, which has the same columns and parameters: fields that were not
+  // changed take the new values, the others keep theirs as a change of them. False when the row is gone.
+  bool Odswiez(const std::string& select);
 
   // Gives the current row these values as if they had been read: how a new record starts.
   void UstawWiersz(std::span<const Wartosc> wartosci);
@@ -120,6 +125,7 @@ class TKMQuery final : public TMCustomDataSet {
 
  private:
   void CzytajWiersze();
+  std::span<const TypPola> Typy();
 
   TVLTBazaDanych* m_baza = nullptr;
   std::string m_sql;

@@ -327,7 +327,9 @@ TEST_F(ImportTest, BladBazyKonczyPrzebiegAPamiecZgadzaSieZBaza) {
       b.baza.UstawPodsluch({});
       SCOPED_TRACE(std::to_string(ktore) + ": " + polecenie);
       EXPECT_FALSE(b.baza.GetCzyWTransakcji());
-      EXPECT_EQ(wynik.koniec == KoniecPrzebiegu::Blad, !polecenie.starts_with("pragma wal_checkpoint"));
+      // A server's keys come in blocks: a later run may need fewer statements.
+      const bool bezSkutku = polecenie.empty() || polecenie.starts_with("pragma wal_checkpoint");
+      EXPECT_EQ(wynik.koniec == KoniecPrzebiegu::Blad, !bezSkutku);
       EXPECT_EQ(wynik.liczniki[Licznik::Dodane], Kontrahentow());
       EXPECT_EQ(wynik.liczniki[Licznik::Dodane] + wynik.liczniki[Licznik::Poprawione], ile("DziennikZmian"));
       Importuj(rekordy);

@@ -345,7 +345,7 @@ TEST_F(Towary, NieudanyZapisNieZostawiaSladu) {
         EXPECT_TRUE(dynamic_cast<const EBladBazy*>(blad.Przyczyna()));
         EXPECT_EQ(rodzaj, RodzajBleduBazy::Ograniczenie);
       } catch (const EBladBazy& blad) {
-        EXPECT_EQ(blad.Rodzaj(), rodzaj);
+        EXPECT_EQ(blad.Rodzaj(), rodzaj) << blad.MacDescription().toStdString();
         EXPECT_TRUE(!zapis || rodzaj == RodzajBleduBazy::PelnyDysk) << ktora;
       }
       b.baza.UstawPodsluch({});
