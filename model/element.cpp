@@ -86,7 +86,7 @@ void TDmVLTElement::PrzyjmijCudzeZmiany() {
   const std::string select = Context.baza.Jezyk().ZBlokadaWierszy(Query.Sql(), zrodlo->tabela, zrodlo->alias);
   if (select.empty()) return;
   SetLoadParams(Id());  // a record that was new has none yet
-  if (!Query.Odswiez(select)) throw EVLTWDError(2001);
+  if (!Query.Odswiez(select, zrodlo->kolumn)) throw EVLTWDError(2001);
 }
 
 int TDmVLTElement::Id() const {

@@ -59,6 +59,7 @@ class TDmVLTElement {
   struct ZrodloWiersza {
     const char* tabela;
     const char* alias;
+    std::size_t kolumn;  // the first ones of the select are the table's own
   };
   virtual std::optional<ZrodloWiersza> BlokowanyWiersz() const { return std::nullopt; }
   // The record's row where it was read ahead; empty: the query asks the database.

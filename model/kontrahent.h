@@ -107,7 +107,9 @@ class TDmVLTKontrahent final : public TDmVLTElement {
  protected:
   const char* IdFieldName() const override { return "KontrId"; }
   void SetLoadParams(int id) override;
-  std::optional<ZrodloWiersza> BlokowanyWiersz() const override { return ZrodloWiersza{"Kontrahent", "K"}; }
+  std::optional<ZrodloWiersza> BlokowanyWiersz() const override {
+    return ZrodloWiersza{"Kontrahent", "K", Kolumna::SklepId};
+  }
   void ClearDetails() override;
   void AfterLoad(bool isNew, int id) override;
   int InsertRecord() override;

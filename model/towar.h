@@ -228,7 +228,7 @@ class TDmVLTTowar final : public TDmVLTElement {
   void SetLoadParams(int id) override;
   std::span<const Wartosc> OdczytanyWiersz(int id) const override;
   std::optional<ZrodloWiersza> BlokowanyWiersz() const override {
-    return ZrodloWiersza{"Towar", "T"};
+    return ZrodloWiersza{"Towar", "T", Kolumna::OpakId};
   }
   void ClearDetails() override;
   void AfterLoad(bool isNew, int id) override;

@@ -329,7 +329,10 @@ TEST_F(ImportTest, BladBazyKonczyPrzebiegAPamiecZgadzaSieZBaza) {
       EXPECT_FALSE(b.baza.GetCzyWTransakcji());
       // A server's keys come in blocks: a later run may need fewer statements.
       const bool bezSkutku = polecenie.empty() || polecenie.starts_with("pragma wal_checkpoint");
-      EXPECT_EQ(wynik.koniec == KoniecPrzebiegu::Blad, !bezSkutku);
+      // Rows refused together are written again one by one.
+      const bool osobno = wynik.koniec == KoniecPrzebiegu::Zakonczono && NaSerwerze() &&
+                          rodzaj == RodzajBleduBazy::Ograniczenie && polecenie.starts_with("insert");
+      EXPECT_EQ(wynik.koniec == KoniecPrzebiegu::Blad, !bezSkutku && !osobno);
       EXPECT_EQ(wynik.liczniki[Licznik::Dodane], Kontrahentow());
       EXPECT_EQ(wynik.liczniki[Licznik::Dodane] + wynik.liczniki[Licznik::Poprawione], ile("DziennikZmian"));
       Importuj(rekordy);

@@ -19,11 +19,10 @@ struct Rodzaj {
   const char16_t* polecenie;
   QStringList ustawienia;
   std::string (*plik)(int ile);
-  int rekordow;
+  int rekordow, naSerwerze;  // enough for several batches
   std::string_view zapisanych;
 
-  // A server answers each statement for itself.
-  int Ile() const { return NaSerwerze() ? rekordow / 6 : rekordow; }
+  int Ile() const { return NaSerwerze() ? naSerwerze : rekordow; }
   std::vector<std::string_view> niedozwolone;
 };
 
@@ -32,6 +31,7 @@ const Rodzaj kRodzaje[] = {
      u"import-towarow",
      {},
      DuzyPlik,
+     12000,
      12000,
      "select cast(count(*) as text) from Towar",
      {// Every good of the file has one additional code.
@@ -46,6 +46,7 @@ const Rodzaj kRodzaje[] = {
      kDodajIPopraw,
      DuzyPlikKontrahentow,
      30000,
+     5000,
      "select cast(count(*) as text) from Kontrahent",
      {// Every contractor has two persons, a shop and a line of the change log; numbers are there once.
       "select cast(count(*) as text) from Kontrahent k where"
