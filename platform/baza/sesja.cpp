@@ -245,8 +245,8 @@ bool TVLTBazaDanych::GetCzyWTransakcji() const {
 
 void TVLTBazaDanych::UstawPunkt(int poziom) {
   const bool odlozona = m->Grupuje();
-  m->jednostki.push_back({poziom, m->kolejka.Ilosc(), !odlozona});
   if (!odlozona) m->Polaczony().UstawPunkt(poziom);
+  m->jednostki.push_back({poziom, m->kolejka.Ilosc(), !odlozona});
 }
 
 void TVLTBazaDanych::ZwolnijPunkt(int poziom) {
