@@ -14,6 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int kOkresMs = 200;
+constexpr int kOkresPrzedKoncemMs = 5;  // the worker is about to finish: nobody should wait to see it
 
 // In the order of KoniecPrzebiegu.
 constexpr std::u16string_view kKonce[] = {u"Zakończono", u"Przerwano", u"Zakończono z powodu błędu",
@@ -51,6 +52,7 @@ void Tfrm_progress::PokazWynik(const WynikPrzebiegu& wynik) {
                       ? u"%1 po %2 s"_s.arg(koniec, QString::number(wynik.sekund, 'f', 1).replace(u'.', u','))
                       : koniec;
   m_plikPominietych = wynik.plikPominietych;
+  if (m_timer->isActive()) m_timer->start(kOkresPrzedKoncemMs);
   m_ui->pominiete->setVisible(QFileInfo(m_plikPominietych).size() > 0);
 }
 
