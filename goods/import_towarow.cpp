@@ -77,6 +77,10 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
     m_zasoby.emplace(Parametry(), m_opcje, m_bufor, m_raport, m_liczniki);
     m_zasoby->stany.WczytajMagazyny();
     m_paczka.PoOtwarciu = [this](bool obceZmiany) { PoOtwarciuPaczki(obceZmiany); };
+    m_paczka.PoZatwierdzeniu = [this] {
+      m_zasoby->skroty.ZatwierdzPaczke();
+      m_bufor.Zatwierdz();
+    };
     m_kontekst.emplace(KontekstImportu{
         Parametry().sesja, m_opcje, Parametry().struktura, Plik(), Parametry().separatorDziesietny, m_bufor,
         m_nipy ? &*m_nipy : nullptr, m_zasoby->slowniki, m_zasoby->stany, m_zasoby->reguly,
@@ -127,8 +131,6 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
   // Inside the transaction nobody else writes, so that what is looked up in memory from here on holds.
   void PoOtwarciuPaczki(bool obceZmiany) {
     m_zasoby->zapas.Wyczysc();
-    m_zasoby->skroty.ZatwierdzPaczke();
-    m_bufor.Zatwierdz();
     m_bufor.SprawdzObceZmiany(Parametry().sesja.baza);
     if (!obceZmiany) return;
     m_zasoby->slowniki.Wczytaj();

@@ -40,6 +40,7 @@ void PaczkaZapisow::Zatwierdz() {
     }
     m_otwarta = m_pojedynczo = false;
     ++m_zakonczonych;
+    if (PoZatwierdzeniu) PoZatwierdzeniu();
   }
   m_liczniki.Zatwierdz();
   m_raport.Zatwierdz();

@@ -18,8 +18,9 @@ class TVLTBazaDanych;
 // 1. the unit of rollback is the savepoint; a refused record keeps the units it completed;
 // 2. memory changes only after its unit succeeded;
 // 3. when a commit fails, or the database ends the transaction by itself, the counters and lines of the batch
-// are
-//    dropped and the exception ends the run, whose frame marks the longer-lived buffers as not ready;
+//    are dropped. After a collision with another program what outlives the batch goes back with it and its
+//    records come again; any other exception ends the run, whose frame marks the longer-lived buffers as not
+//    ready;
 // 4. whether a transaction is open is asked of the database, not remembered.
 class PaczkaZapisow {
  public:
@@ -38,6 +39,8 @@ class PaczkaZapisow {
   // connection has committed something since the batch before: what is kept of the database must be read
   // anew.
   std::function<void(bool obceZmiany)> PoOtwarciu;
+  // Called when a batch is committed: what its records changed in memory is there for good.
+  std::function<void()> PoZatwierdzeniu;
 
   // Before every record: commits a full batch and makes sure that one is open.
   void PrzedRekordem();

@@ -221,7 +221,8 @@ int TVLTBazaDanych::WstawZKluczem(const char* tabela, const char* klucz, std::st
 }
 
 void TVLTBazaDanych::GrupujWstawienia(bool grupuj) {
-  m->grupuj = grupuj;
+  // Only servers that hand out keys ahead: elsewhere every record asks for its key at once.
+  m->grupuj = grupuj && !Jezyk().NoweKlucze({}, {}, 1).empty();
 }
 
 void TVLTBazaDanych::StartTransakcji() {

@@ -155,6 +155,18 @@ TEST_F(SterownikTest, PamiecZgadzaSieZBaza) {
     }
   }
   EXPECT_GT(powtorzonych, polecen * 3 / 4);
+  // A batch that collides before it has begun takes nothing of the one committed before with it.
+  wyczysc();
+  Importuj(rekordy);
+  int rozpoczec = 0;
+  b.baza.UstawPodsluch([&](std::string_view sql) {
+    if (sql.starts_with("begin") && ++rozpoczec == 1)
+      throw EBladBazy(RodzajBleduBazy::Kolizja, u"Błąd"_s, {});
+  });
+  EXPECT_EQ(Importuj(rekordy).koniec, KoniecPrzebiegu::Zakonczono);
+  b.baza.UstawPodsluch({});
+  EXPECT_EQ(rozpoczec, 2);
+  EXPECT_EQ(ile("Towar"), oczekiwane.front());
 }
 
 }  // namespace
