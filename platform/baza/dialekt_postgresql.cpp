@@ -71,8 +71,9 @@ class Postgresql final : public Dialekt {
   }
 
   std::string NoweKlucze(const std::string& tabela, const std::string& klucz, int ile) const override {
-    return "select nextval(pg_get_serial_sequence('" + tabela + "', lower('" + klucz +
-           "'))) from generate_series(1, " + std::to_string(ile) + ")";
+    // "offset 0" keeps the name of the sequence from being looked up for every key.
+    return "select nextval(S.Nazwa) from (select cast(pg_get_serial_sequence('" + tabela + "', lower('" +
+           klucz + "')) as regclass) as Nazwa offset 0) S, generate_series(1, " + std::to_string(ile) + ")";
   }
   std::string ZBlokadaWierszy(const std::string& select, const std::string& /*tabela*/,
                               const std::string& alias) const override {
