@@ -58,7 +58,6 @@ struct Zasoby {
   KodyWlasne kodyWlasne;
   TDmVLTNazwySkrocone skroty;
   NumeracjaNazw nazwy;
-  PotwierdzoneSlowniki potwierdzone;
   ZapasTowarow zapas;
 };
 
@@ -81,11 +80,11 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
       m_zasoby->skroty.ZatwierdzPaczke();
       m_bufor.Zatwierdz();
     };
-    m_kontekst.emplace(KontekstImportu{
-        Parametry().sesja, m_opcje, Parametry().struktura, Plik(), Parametry().separatorDziesietny, m_bufor,
-        m_nipy ? &*m_nipy : nullptr, m_zasoby->slowniki, m_zasoby->stany, m_zasoby->reguly,
-        m_zasoby->kodyWlasne, m_zasoby->skroty, m_zasoby->nazwy, m_zasoby->potwierdzone, m_zasoby->zapas,
-        m_raport, m_liczniki, Operator()});
+    m_kontekst.emplace(KontekstImportu{Parametry().sesja, m_opcje, Parametry().struktura, Plik(),
+                                       Parametry().separatorDziesietny, m_bufor, m_nipy ? &*m_nipy : nullptr,
+                                       m_zasoby->slowniki, m_zasoby->stany, m_zasoby->reguly,
+                                       m_zasoby->kodyWlasne, m_zasoby->skroty, m_zasoby->nazwy,
+                                       m_zasoby->zapas, m_raport, m_liczniki, Operator()});
     m_rekord.emplace(*m_kontekst);
   }
 
@@ -135,7 +134,6 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
     if (!obceZmiany) return;
     m_zasoby->slowniki.Wczytaj();
     m_zasoby->nazwy.Zapomnij();
-    m_zasoby->potwierdzone.Zapomnij();
   }
 
   const OpcjeImportuTowarow& m_opcje;

@@ -18,7 +18,6 @@ class TVLTBuforTowarow;
 class ZapasTowarow;
 struct KontekstSesji;
 struct OpcjeImportuTowarow;
-struct PotwierdzoneSlowniki;
 struct RegulyKodow;
 
 // What the records of one goods import share. The run owns everything that is referred to here; nothing of it
@@ -42,7 +41,6 @@ struct KontekstImportu {
   KodyWlasne& kodyWlasne;
   TDmVLTNazwySkrocone& skroty;
   NumeracjaNazw& nazwy;
-  PotwierdzoneSlowniki& potwierdzone;
   ZapasTowarow& zapas;
 
   RaportProblemow& raport;

@@ -32,7 +32,8 @@ RekordTowaru::RekordTowaru(KontekstImportu& import)
       m_towar(import.sesja, {.reguly = import.reguly,
                              .skroty = import.skroty,
                              .bufor = &import.bufor,
-                             .potwierdzone = &import.potwierdzone,
+                             .asortymenty = &import.slowniki.Asortymenty(),
+                             .jednostki = &import.slowniki.Jednostki(),
                              .zapas = &import.zapas}),
       m_zapis(import, m_towar) {}
 

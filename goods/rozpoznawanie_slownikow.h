@@ -30,6 +30,10 @@ class RozpoznawanieSlownikow {
   // Reads all dictionaries: in the first batch of the run and whenever somebody else has written.
   void Wczytaj();
 
+  // The dictionaries themselves, as they stand in the transaction at hand.
+  TDmVLTListaSlownika& Asortymenty() { return m_asortymenty; }
+  TDmVLTListaSlownika& Jednostki() { return m_jednostki; }
+
   // `biezacy` is the identifier the good has now, 0 or -1 for none. An assortment or unit whose letter case
   // differs from the file's is renamed. -1 for an empty name, when there is no entry and none is added
   // (reported), or when the database refused the new entry (not reported).

@@ -4,7 +4,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 #include <QString>
@@ -15,20 +14,12 @@
 #include "model/kolumny.h"
 #include "model/szczegoly_towaru.h"
 
+class TDmVLTListaSlownika;
 class TDmVLTNazwySkrocone;
 class TVLTBazaDanych;
 class ZapasTowarow;
 struct RegulyKodow;
 struct SkrotyTowaru;
-
-// Dictionary entries that were seen in the database. Whoever opens the transactions forgets them when another
-// connection has written.
-struct PotwierdzoneSlowniki {
-  std::unordered_set<int> asortymenty;
-  std::unordered_set<int> jednostki;
-
-  void Zapomnij() { *this = {}; }
-};
 
 // What the goods records of one run share beside the session. Everything is held by reference: a rule changed
 // during the run (a new weighted-code format) holds from the next save on.
@@ -38,8 +29,10 @@ struct OtoczenieTowarow {
   // Spares the statements that would look for a code which nobody has. Whoever opens the transaction has it
   // look for other connections' changes first. None: the database is always asked.
   const TVLTBuforTowarow* bufor = nullptr;
-  // Spares looking for the same assortment and unit at every save. None: the database is always asked.
-  PotwierdzoneSlowniki* potwierdzone = nullptr;
+  // Spare looking for the assortment and the unit at every save. Whoever opens the transactions reads them
+  // anew when another connection has written. None, or an entry that they do not hold: the database is asked.
+  TDmVLTListaSlownika* asortymenty = nullptr;
+  TDmVLTListaSlownika* jednostki = nullptr;
   // Whether central codes must be unique.
   bool unikalneCKU = false;
   // Goods read ahead: loading one of them asks the database nothing. None: the database is always asked.

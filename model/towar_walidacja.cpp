@@ -4,6 +4,7 @@
 #include "model/kontekst.h"
 #include "model/nazwy_skrocone.h"
 #include "model/reguly_kodow.h"
+#include "model/slowniki.h"
 #include "model/szukanie_towaru.h"
 #include "model/towar.h"
 #include "model/towar_plan.h"
@@ -52,10 +53,9 @@ class TDmVLTTowar::Walidacja {
   }
 
   WynikWalidacji Slowniki() {
-    using P = PotwierdzoneSlowniki;
-    if (!Jest(&P::asortymenty, "select AsId from Asort where AsId = :AsId", "AsId", m_t.AsId()))
+    if (!Jest(m_o.asortymenty, "select AsId from Asort where AsId = :AsId", "AsId", m_t.AsId()))
       return {2813};
-    if (!Jest(&P::jednostki, "select JMId from JM where JMId = :JMId", "JMId", m_t.JMId())) return {2814};
+    if (!Jest(m_o.jednostki, "select JMId from JM where JMId = :JMId", "JMId", m_t.JMId())) return {2814};
     return {};
   }
 
@@ -119,12 +119,9 @@ class TDmVLTTowar::Walidacja {
     return m_baza.Otworz(sql, kKolumny, parametry);
   }
 
-  bool Jest(std::unordered_set<int> PotwierdzoneSlowniki::*slownik, std::string_view sql, const char* nazwa,
-            int id) {
-    if (m_o.potwierdzone && (m_o.potwierdzone->*slownik).contains(id)) return true;
-    if (!m_baza.Otworz(sql, {TypPola::Calkowite}, {{nazwa, id}}).Nastepny()) return false;
-    if (m_o.potwierdzone) (m_o.potwierdzone->*slownik).insert(id);
-    return true;
+  bool Jest(TDmVLTListaSlownika* slownik, std::string_view sql, const char* nazwa, int id) {
+    return (slownik && slownik->Znajdz(id)) ||
+           m_baza.Otworz(sql, {TypPola::Calkowite}, {{nazwa, id}}).Nastepny();
   }
 
   static WynikWalidacji Wynik(WynikKodu wynik) { return {wynik.kod, std::move(wynik.szczegol)}; }
