@@ -23,7 +23,7 @@ namespace {
   argumenty.reserve(polecenie.size() + 1);
   for (const std::string& a : polecenie) argumenty.push_back(const_cast<char*>(a.c_str()));
   argumenty.push_back(nullptr);
-  ::execv(argumenty[0], argumenty.data());
+  ::execvp(argumenty[0], argumenty.data());
   ::_exit(127);
 }
 

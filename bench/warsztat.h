@@ -30,7 +30,7 @@ class Warsztat {
   struct Zadanie {
     std::string operacja;
     std::string plik;
-    std::string baza;
+    std::string baza;  // or "odbc:...", a server's
     std::string konfiguracja;
     char separator;
     const char* licznik;  // of the result; it must have counted `ile`: a run that did something else would
