@@ -64,8 +64,9 @@ int TDmVLTElement::Zapisz() {
   if (CzyKopia()) throw EVLTWDError(2033);
   // A record that was never loaded has nothing to save.
   if (Query.IsEmpty()) throw EVLTWDError(2001);
-  JednostkaZapisu jednostka(Context.baza);
   const bool nowy = CzyNowy();
+  if (!nowy) PrzedJednostka();
+  JednostkaZapisu jednostka(Context.baza);
   int id = Id();
   if (nowy)
     id = InsertRecord();
@@ -83,10 +84,12 @@ int TDmVLTElement::Zapisz() {
 void TDmVLTElement::PrzyjmijCudzeZmiany() {
   const auto zrodlo = BlokowanyWiersz();
   if (!zrodlo) return;
+  if (const auto wiersz = ZablokowanyWiersz(Id()); !wiersz.empty())
+    return Query.Odswiez(wiersz.first(zrodlo->kolumn));
   const std::string select = Context.baza.Jezyk().ZBlokadaWierszy(Query.Sql(), zrodlo->tabela, zrodlo->alias);
   if (select.empty()) return;
   SetLoadParams(Id());  // a record that was new has none yet
-  if (!Query.Odswiez(select, zrodlo->kolumn)) throw EVLTWDError(2001);
+  if (!Query.OdswiezZ(select, zrodlo->kolumn)) throw EVLTWDError(2001);
 }
 
 int TDmVLTElement::Id() const {

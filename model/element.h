@@ -62,6 +62,10 @@ class TDmVLTElement {
     std::size_t kolumn;  // the first ones of the select are the table's own
   };
   virtual std::optional<ZrodloWiersza> BlokowanyWiersz() const { return std::nullopt; }
+  // Called before the unit of an update begins: the place for locks that are to outlive its undoing.
+  virtual void PrzedJednostka() {}
+  // The row where it was locked together with others; empty: it is locked alone.
+  virtual std::span<const Wartosc> ZablokowanyWiersz(int /*id*/) const { return {}; }
   // The record's row where it was read ahead; empty: the query asks the database.
   virtual std::span<const Wartosc> OdczytanyWiersz(int /*id*/) const { return {}; }
   virtual void ClearDetails() {}

@@ -99,8 +99,21 @@ void TDmVLTTowar::SetLoadParams(int id) {
   Query.SetParam("TowId", id);
 }
 
+const OdczytanyTowar* TDmVLTTowar::Odczytany(int id) const {
+  return m_otoczenie.zapas ? m_otoczenie.zapas->Znajdz(id) : nullptr;
+}
+
+void TDmVLTTowar::PrzedJednostka() {
+  if (m_otoczenie.zapas) m_otoczenie.zapas->Zablokuj(Context.baza, Id());
+}
+
+std::span<const Wartosc> TDmVLTTowar::ZablokowanyWiersz(int id) const {
+  const OdczytanyTowar* const towar = Odczytany(id);
+  return towar && towar->zablokowany ? std::span<const Wartosc>(towar->wiersz) : std::span<const Wartosc>();
+}
+
 std::span<const Wartosc> TDmVLTTowar::OdczytanyWiersz(int id) const {
-  const OdczytanyTowar* const towar = m_otoczenie.zapas ? m_otoczenie.zapas->Znajdz(id) : nullptr;
+  const OdczytanyTowar* const towar = Odczytany(id);
   return towar ? std::span<const Wartosc>(towar->wiersz) : std::span<const Wartosc>();
 }
 
@@ -118,7 +131,7 @@ void TDmVLTTowar::AfterLoad(bool isNew, int id) {
     Query.UstawWiersz(m_nowyWiersz);
     return;
   }
-  if (const OdczytanyTowar* const towar = m_otoczenie.zapas ? m_otoczenie.zapas->Znajdz(id) : nullptr) {
+  if (const OdczytanyTowar* const towar = Odczytany(id)) {
     m_kody.UstawZBazy(towar->kody);
     m_wartosci.UstawZBazy(towar->wartosci);
     m_dostawcy.UstawZBazy(towar->dostawcy);

@@ -18,6 +18,7 @@ class TDmVLTListaSlownika;
 class TDmVLTNazwySkrocone;
 class TVLTBazaDanych;
 class ZapasTowarow;
+struct OdczytanyTowar;
 struct RegulyKodow;
 struct SkrotyTowaru;
 
@@ -219,6 +220,8 @@ class TDmVLTTowar final : public TDmVLTElement {
     return "TowId";
   }
   void SetLoadParams(int id) override;
+  void PrzedJednostka() override;
+  std::span<const Wartosc> ZablokowanyWiersz(int id) const override;
   std::span<const Wartosc> OdczytanyWiersz(int id) const override;
   std::optional<ZrodloWiersza> BlokowanyWiersz() const override {
     return ZrodloWiersza{"Towar", "T", Kolumna::OpakId};
@@ -235,6 +238,8 @@ class TDmVLTTowar final : public TDmVLTElement {
 
   std::vector<QString> SkrotyDodatkowych() const;
   void UstawStatus(bool aktywny);
+  // Null when it was not read ahead.
+  const OdczytanyTowar* Odczytany(int id) const;
   void ZapomnijOdczytany() const;
 
   WynikWalidacji SprawdzDoPlanu(Plan& plan) const;

@@ -133,7 +133,7 @@ void TDmVLTTowar::UpdateRecord(int id) {
     static const std::string sql = Update(Query);
     std::vector<Parametr>& parametry = ParametryZapisu();
     parametry.push_back({"TowId", id});
-    if (Context.baza.ExecSQL(sql, parametry) == 0) throw EVLTWDError(2001);
+    if (!Context.baza.Popraw(sql, parametry)) throw EVLTWDError(2001);
     ZapiszNotatke(id);
     if (Zmienione({K::OpakId, K::IleWOpak, K::Tandem})) {
       Context.baza.ExecSQL("delete from Powiazanie where TowId = :TowId", {{"TowId", id}});
@@ -141,7 +141,7 @@ void TDmVLTTowar::UpdateRecord(int id) {
     }
     ZapiszSzczegoly(id);
     ZaznaczNaKasach(id);
-    Context.baza.ExecSQL("update SklepFlagi set Zmiana = getdate() where TowId = :TowId", {{"TowId", id}});
+    Context.baza.Popraw("update SklepFlagi set Zmiana = getdate() where TowId = :TowId", {{"TowId", id}});
     Context.baza.RejestrujZmiane(kDziennikTowar, OpisZmian(), id, -1);
   });
 }
@@ -240,10 +240,10 @@ void TDmVLTTowar::ZaznaczNaKasach(int id) const {
   for (std::size_t i = 0; i < K::kIlosc; ++i)
     if (Query.Field(i).Zmienione()) (CenaSprzedazy(i) ? ceny : inne) = true;
   if (!ceny && !inne) return;
-  Context.baza.ExecSQL(ceny && inne ? "update KasTow set ZmianyCen = 1, ZmianyInne = 1 where TowId = :TowId"
-                       : ceny       ? "update KasTow set ZmianyCen = 1 where TowId = :TowId"
-                                    : "update KasTow set ZmianyInne = 1 where TowId = :TowId",
-                       {{"TowId", id}});
+  Context.baza.Popraw(ceny && inne ? "update KasTow set ZmianyCen = 1, ZmianyInne = 1 where TowId = :TowId"
+                      : ceny       ? "update KasTow set ZmianyCen = 1 where TowId = :TowId"
+                                   : "update KasTow set ZmianyInne = 1 where TowId = :TowId",
+                      {{"TowId", id}});
 }
 
 QString TDmVLTTowar::OpisZmian() const {

@@ -17,7 +17,7 @@ void PaczkaZapisow::PrzedRekordem() {
 
 void PaczkaZapisow::Otworz() {
   if (m_otwarta) return;
-  m_baza.GrupujWstawienia(!m_pojedynczo);
+  m_baza.GrupujZapisy(!m_pojedynczo);
   m_baza.StartTransakcji();
   m_otwarta = true;
   m_rekordow = 0;

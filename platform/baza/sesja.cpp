@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/baza/dialekt.h"
-#include "platform/baza/kolejka_wstawien.h"
+#include "platform/baza/kolejka_zapisow.h"
 #include "platform/baza/polecenie.h"
 #include "platform/baza/silnik.h"
 #include "platform/baza/transakcja.h"
@@ -23,7 +23,7 @@ struct TVLTBazaDanych::Wnetrze {
   std::unique_ptr<Silnik> silnik;
   long long zatwierdzen = 0;
 
-  // Grouped inserts. A unit's savepoint is set only when a statement other than such an insert comes: until
+  // Grouped writes. A unit's savepoint is set only when a statement of another kind comes: until
   // then the unit is undone by forgetting its rows.
   struct Jednostka {
     int poziom;
@@ -31,7 +31,7 @@ struct TVLTBazaDanych::Wnetrze {
     bool ustawiona;
   };
   bool grupuj = false;
-  KolejkaWstawien kolejka;
+  KolejkaZapisow kolejka;
   std::vector<Jednostka> jednostki;
   struct Klucze {
     std::vector<int> wolne;  // taken from the server, not used yet; the next one last
@@ -76,7 +76,7 @@ struct TVLTBazaDanych::Wnetrze {
     }
     WykonajKolejke(kolejka.Ilosc());
   }
-  void Wstaw(std::size_t ile) {
+  void Zapisz(std::size_t ile) {
     kolejka.Wykonaj(ile, [this](std::string_view sql, std::span<const Parametr> parametry) {
       silnik->Wykonaj(sql, {}, parametry)->Zwolnij();
     });
@@ -84,7 +84,7 @@ struct TVLTBazaDanych::Wnetrze {
   // Rows of several units: when they fail nobody knows what is there of which, so nothing stays.
   void WykonajKolejke(std::size_t ile) {
     try {
-      Wstaw(ile);
+      Zapisz(ile);
     } catch (const EBladBazy& blad) {
       Wycofaj();
       if (blad.KonczyPrzebieg()) throw;
@@ -201,7 +201,7 @@ int TVLTBazaDanych::PobierzAutoId() {
 void TVLTBazaDanych::Wstaw(std::string_view sql, std::initializer_list<Parametr> parametry) {
   const std::span<const Parametr> wartosci(parametry.begin(), parametry.size());
   if (m->MozeCzekac())
-    m->kolejka.Dodaj(sql, wartosci);
+    m->kolejka.Wstaw(sql, wartosci);
   else
     ExecSQL(sql, wartosci);
 }
@@ -215,12 +215,22 @@ int TVLTBazaDanych::WstawZKluczem(const char* tabela, const char* klucz, std::st
   const bool czeka = m->MozeCzekac();
   if (!czeka) m->Dopisz();
   const int id = m->NastepnyKlucz(tabela, klucz);
-  m->kolejka.Dodaj(sql, parametry, klucz, id);
-  if (!czeka) m->Wstaw(1);
+  m->kolejka.Wstaw(sql, parametry, klucz, id);
+  if (!czeka) m->Zapisz(1);
   return id;
 }
 
-void TVLTBazaDanych::GrupujWstawienia(bool grupuj) {
+bool TVLTBazaDanych::Popraw(std::string_view sql, std::span<const Parametr> parametry) {
+  if (!m->MozeCzekac()) return ExecSQL(sql, parametry) != 0;
+  m->kolejka.Popraw(sql, parametry);
+  return true;
+}
+
+bool TVLTBazaDanych::Popraw(std::string_view sql, std::initializer_list<Parametr> parametry) {
+  return Popraw(sql, std::span<const Parametr>(parametry.begin(), parametry.size()));
+}
+
+void TVLTBazaDanych::GrupujZapisy(bool grupuj) {
   // Only servers that hand out keys ahead: elsewhere every record asks for its key at once.
   m->grupuj = grupuj && !Jezyk().NoweKlucze({}, {}, 1).empty();
 }
@@ -246,6 +256,7 @@ bool TVLTBazaDanych::GetCzyWTransakcji() const {
 
 void TVLTBazaDanych::UstawPunkt(int poziom) {
   const bool odlozona = m->Grupuje();
+  if (m->jednostki.empty()) m->kolejka.NowaJednostka();
   if (!odlozona) m->Polaczony().UstawPunkt(poziom);
   m->jednostki.push_back({poziom, m->kolejka.Ilosc(), !odlozona});
 }
@@ -273,6 +284,10 @@ void TVLTBazaDanych::WycofDoPunktu(int poziom) noexcept {
     // Half a unit must not be committed with what surrounds it.
     WycofTransakcji();
   }
+}
+
+bool TVLTBazaDanych::WJednostce() const {
+  return !m->jednostki.empty();
 }
 
 long long TVLTBazaDanych::ZnacznikObcychZmian() {

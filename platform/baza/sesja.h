@@ -66,17 +66,21 @@ class TVLTBazaDanych {
   // Runs a statement that returns no rows; returns the number of rows it touched.
   long long ExecSQL(std::string_view sql, std::initializer_list<Parametr> parametry = {});
   long long ExecSQL(std::string_view sql, std::span<const Parametr> parametry);
-  // Inserts a row whose number nobody asks for. While inserts are grouped it may wait for others: it is
+  // Inserts a row whose number nobody asks for. While writes are grouped it may wait for others: it is
   // written before the next statement of any other kind and before the commit, in the order that
-  // KolejkaWstawien keeps. A group that is refused leaves as EBladBazy of kind Grupa and spoils the
+  // KolejkaZapisow keeps. A group that is refused leaves as EBladBazy of kind Grupa and spoils the
   // transaction.
   void Wstaw(std::string_view sql, std::initializer_list<Parametr> parametry);
   // The same for a row with an automatic key, which is returned: "insert into `tabela` (columns) ..." without
   // the column `klucz`.
   int WstawZKluczem(const char* tabela, const char* klucz, std::string_view sql,
                     std::span<const Parametr> parametry);
-  // Whether inserts of the next transactions are grouped, where the server is worth it.
-  void GrupujWstawienia(bool grupuj);
+  // Writes over the row with a key: "update T set ... where K = :K". It may wait in the same way. False when
+  // no row has the key; of one that waits nobody knows: the caller has the row locked or does not care.
+  bool Popraw(std::string_view sql, std::span<const Parametr> parametry);
+  bool Popraw(std::string_view sql, std::initializer_list<Parametr> parametry);
+  // Whether writes of the next transactions are grouped, where the server is worth it.
+  void GrupujZapisy(bool grupuj);
 
   // Starts a select whose columns have the given kinds.
   Odczyt Otworz(std::string_view sql, std::initializer_list<TypPola> kolumny,
@@ -99,6 +103,8 @@ class TVLTBazaDanych {
   void ZwolnijPunkt(int poziom);
   // Never throws; when the database cannot undo the unit alone, the whole transaction is rolled back.
   void WycofDoPunktu(int poziom) noexcept;
+  // Whether a unit is open: undoing it gives back the locks that were taken inside.
+  bool WJednostce() const;
 
   // A number that changes whenever another connection has committed a change since it was last asked, and
   // with every new connection of this session. Constant between StartTransakcji and KoniecTransakcji.

@@ -129,7 +129,12 @@ void TKMQuery::CzytajWiersze() {
   m_biezacy = m_wiersze.empty() ? -1 : 0;
 }
 
-bool TKMQuery::Odswiez(const std::string& select, std::size_t kolumn) {
+void TKMQuery::Odswiez(std::span<const Wartosc> wartosci) {
+  std::vector<TMField>& wiersz = m_wiersze[static_cast<std::size_t>(m_biezacy)];
+  for (std::size_t i = 0; i < wartosci.size(); ++i) wiersz[i].Odswiez(wartosci[i]);
+}
+
+bool TKMQuery::OdswiezZ(const std::string& select, std::size_t kolumn) {
   Odczyt odczyt = m_baza->Otworz(select, Typy(), m_parametry);
   if (!odczyt.Nastepny()) return false;
   std::vector<TMField>& wiersz = m_wiersze[static_cast<std::size_t>(m_biezacy)];

@@ -112,10 +112,12 @@ class TKMQuery final : public TMCustomDataSet {
   // Opens with one row that was read already.
   void OpenZ(std::span<const Wartosc> wiersz);
   void Close();
-  // Reads the current row again by `select`, which has the same columns and parameters. Of the first `kolumn`
-  // fields those that were not changed take the new values, the others keep theirs as a change of them. False
-  // when the row is gone.
-  bool Odswiez(const std::string& select, std::size_t kolumn);
+  // The current row as it was read again, of its first fields: those that were not changed take the new
+  // values, the others keep theirs as a change of them.
+  void Odswiez(std::span<const Wartosc> wartosci);
+  // The same for the first `kolumn` fields by `select`, which has the same columns and parameters. False when
+  // the row is gone.
+  bool OdswiezZ(const std::string& select, std::size_t kolumn);
 
   // Gives the current row these values as if they had been read: how a new record starts.
   void UstawWiersz(std::span<const Wartosc> wartosci);

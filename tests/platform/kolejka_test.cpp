@@ -1,33 +1,39 @@
 #include <gtest/gtest.h>
 
-#include "platform/baza/kolejka_wstawien.h"
+#include "platform/baza/kolejka_zapisow.h"
 
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-TEST(KolejkaWstawien, WierszeJednegoTekstuIdaRazem) {
-  KolejkaWstawien kolejka;
-  const auto dodaj = [&](int id) {
-    const Parametr towar[] = {{"Nazwa", u"n%1"_s.arg(id)}, {"Cena", 0.5}};
-    const Parametr wpis[] = {{"Id1", id}};
-    kolejka.Dodaj("insert into Towar (Nazwa, Cena, Zmiana)\r\nselect :Nazwa,\r\n:Cena, getdate()", towar,
-                  "TowId", id);
-    kolejka.Dodaj("insert into Dziennik (Czas, Id1) values (getdate(), :Id1)", wpis);
-  };
-  for (int id = 0; id < 12; ++id) dodaj(id);
-  std::vector<std::pair<std::string, std::string>> wykonane;
-  const auto wykonaj = [&](std::string_view sql, std::span<const Parametr> parametry) {
+using Wykonane = std::vector<std::pair<std::string, std::string>>;  // the statement and its values
+
+Wykonane Wykonaj(KolejkaZapisow& kolejka) {
+  Wykonane wykonane;
+  kolejka.Wykonaj(kolejka.Ilosc(), [&](std::string_view sql, std::span<const Parametr> parametry) {
     std::string wartosci;
     for (const Parametr& p : parametry) {
       EXPECT_NE(sql.find(':' + std::string(p.nazwa)), std::string_view::npos);
       wartosci += p.wartosc.AsString().toStdString() + ' ';
     }
     wykonane.emplace_back(sql, wartosci);
-  };
-  kolejka.Utnij(22);  // the last good with its log line
-  kolejka.Wykonaj(22, wykonaj);
+  });
   EXPECT_EQ(kolejka.Ilosc(), 0u);
+  return wykonane;
+}
+
+TEST(KolejkaZapisow, WierszeJednegoTekstuIdaRazem) {
+  KolejkaZapisow kolejka;
+  for (int id = 0; id < 12; ++id) {
+    const Parametr towar[] = {{"Nazwa", u"n%1"_s.arg(id)}, {"Cena", 0.5}};
+    const Parametr wpis[] = {{"Id1", id}};
+    kolejka.NowaJednostka();
+    kolejka.Wstaw("insert into Towar (Nazwa, Cena, Zmiana)\r\nselect :Nazwa,\r\n:Cena, getdate()", towar,
+                  "TowId", id);
+    kolejka.Wstaw("insert into Dziennik (Czas, Id1) values (getdate(), :Id1)", wpis);
+  }
+  kolejka.Utnij(22);  // the last good with its log line
+  const Wykonane wykonane = Wykonaj(kolejka);
   ASSERT_EQ(wykonane.size(), 4u);  // 10 and 1 of each
   EXPECT_EQ(wykonane[1].first,
             "insert into Towar (TowId, Nazwa, Cena, Zmiana) values (:TowId_0, :Nazwa_0, :Cena_0, getdate())");
@@ -36,6 +42,32 @@ TEST(KolejkaWstawien, WierszeJednegoTekstuIdaRazem) {
   EXPECT_TRUE(wykonane[2].first.starts_with(
       "insert into Dziennik (Czas, Id1) values (getdate(), :Id1_0), (getdate(), :Id1_1), "));
   EXPECT_EQ(wykonane[3].second, "10 ");
+}
+
+// A code that a changed good gets must not draw the codes of new goods before the goods themselves.
+TEST(KolejkaZapisow, WierszeJednostkiIdaWSwojejKolejnosci) {
+  KolejkaZapisow kolejka;
+  const auto zapisz = [&](int id, bool nowy) {
+    const Parametr parametry[] = {{"Cena", 0.5}, {"TowId", id}};
+    const Parametr kod[] = {{"TowId", id}};
+    kolejka.NowaJednostka();
+    if (nowy)
+      kolejka.Wstaw("insert into Towar (Cena) values (:Cena)", std::span(parametry).first(1), "TowId", id);
+    else
+      kolejka.Popraw("update Towar set Cena = :Cena, Zmiana = getdate() where TowId = :TowId", parametry);
+    kolejka.Wstaw("insert into KodDod (TowId) values (:TowId)", kod);
+  };
+  for (const int id : {1, 2, 3, 4}) zapisz(id, id % 2 == 0);
+  std::string razem;
+  for (const auto& [sql, wartosci] : Wykonaj(kolejka)) razem += sql.substr(0, 14) + ' ' + wartosci;
+  EXPECT_EQ(razem,
+            "update Towar s 0.5 1 update Towar s 0.5 3 insert into Ko 1 insert into Ko 3 "
+            "insert into To 2 0.5 insert into To 4 0.5 insert into Ko 2 insert into Ko 4 ");
+
+  for (int id = 0; id < 10; ++id) zapisz(id, false);
+  EXPECT_TRUE(Wykonaj(kolejka).front().first.starts_with(
+      "update Towar set Cena = W.Cena, Zmiana = getdate() from (values (cast(:Cena_0 as double precision), "
+      "cast(:TowId_0 as bigint)), (:Cena_1, :TowId_1), "));
 }
 
 }  // namespace
