@@ -130,6 +130,7 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
   // Inside the transaction nobody else writes, so that what is looked up in memory from here on holds.
   void PoOtwarciuPaczki(bool obceZmiany) {
     m_zasoby->zapas.Wyczysc();
+    m_zasoby->stany.Zapomnij();
     m_bufor.SprawdzObceZmiany(Parametry().sesja.baza);
     if (!obceZmiany) return;
     m_zasoby->slowniki.Wczytaj();

@@ -44,6 +44,8 @@ void RekordTowaru::CzytajZWyprzedzeniem(std::span<const RekordPliku> rekordy) {
   for (const RekordPliku& rekord : rekordy)
     if (const auto kandydat = bufor.JedynyZKodem(rekord.Linia().Tekst().trimmed()))
       towary.push_back(*kandydat);
+  if (m_import.opcje.CBImportStanow > 0 && m_import.NiesiePole(PoleTowaru::Stan))
+    m_import.stany.CzytajZWyprzedzeniem(towary, m_import.opcje.CBImportStanow);
   m_import.zapas.Wczytaj(m_import.sesja.baza, std::move(towary));
 }
 
@@ -248,6 +250,7 @@ RekordTowaru::Krok RekordTowaru::DodajTowar() {
     return krok;
   PotwierdzNadane();
   m_import.liczniki.Zwieksz(Licznik::Dodane);
+  if (m_stan) m_import.stany.PrzyjmijNowy(m_towar.Id(), m_import.opcje.CBImportStanow);
   ZapiszStan(m_towar.Id());
   return Krok::Koniec;
 }

@@ -37,7 +37,7 @@ void Wstaw(TVLTBazaDanych& baza, int towId, const KodDodatkowy& kod) {
 }
 
 void Popraw(TVLTBazaDanych& baza, int towId, const KodDodatkowy& kod) {
-  baza.ExecSQL(
+  baza.Popraw(
       "update KodDod set PrefPLU = :PrefPLU, Skrot = :Skrot, PoziomCen = :PoziomCen,"
       " IleWKodzie = :IleWKodzie where TowId = :TowId and Kolejnosc = :Kolejnosc",
       {{"PrefPLU", kod.prefPLU},

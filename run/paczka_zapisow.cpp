@@ -12,6 +12,7 @@ void PaczkaZapisow::PrzedRekordem() {
     UstapInnym();
   }
   Otworz();
+  m_baza.NowyRekord();
   ++m_rekordow;
 }
 

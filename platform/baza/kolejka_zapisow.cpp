@@ -34,6 +34,12 @@ const char* TypWiersza(TypPola typ) {
   }
 }
 
+std::string Zamien(std::string tekst, std::string_view co, const std::string& na) {
+  for (std::size_t i = 0; (i = tekst.find(co, i)) != std::string::npos; i += na.size())
+    tekst.replace(i, co.size(), na);
+  return tekst;
+}
+
 }  // namespace
 
 // insert into T (columns) values (row), (row)
@@ -59,7 +65,7 @@ KolejkaZapisow::Wzor KolejkaZapisow::Wstawienie(std::string_view sql, const char
   return wzor;
 }
 
-// update T set column = W.Name, ... from (values (row), (row)) as W (names) where T.K = W.K
+// update T set column = W.Name, ... from (values (row), (row)) as W (names) where T.K = W.K and ...
 KolejkaZapisow::Wzor KolejkaZapisow::Poprawka(std::string_view sql, std::span<const Parametr> parametry) {
   constexpr std::string_view kUpdate = "update ", kSet = " set ", kWhere = " where ";
   const std::string tekst = JednaLinia(sql);
@@ -71,13 +77,11 @@ KolejkaZapisow::Wzor KolejkaZapisow::Poprawka(std::string_view sql, std::span<co
     wzor.wyrazenia.push_back({parametr.nazwa, true, TypWiersza(parametr.wartosc.Typ())});
     nazwy += (nazwy.empty() ? "" : ", ") + std::string(parametr.nazwa);
   }
-  const auto zWiersza = [](std::string wyrazenia) {
-    for (std::size_t i = 0; (i = wyrazenia.find(':', i)) != std::string::npos;) wyrazenia.replace(i, 1, "W.");
-    return wyrazenia;
-  };
-  wzor.poczatek = zWiersza(tekst.substr(0, where)) + " from (values ";
+  const std::string zTabeli = tabela + '.';
+  const std::string warunek = zTabeli + tekst.substr(where + kWhere.size());
+  wzor.poczatek = Zamien(tekst.substr(0, where), ":", "W.") + " from (values ";
   wzor.koniec =
-      ") as W (" + nazwy + ") where " + tabela + '.' + zWiersza(tekst.substr(where + kWhere.size()));
+      ") as W (" + nazwy + ") where " + Zamien(Zamien(warunek, " and ", " and " + zTabeli), ":", "W.");
   return wzor;
 }
 
@@ -109,7 +113,7 @@ void KolejkaZapisow::Dodaj(std::string_view sql, const Wartosc* klucz, std::span
                            Zrob zrob) {
   auto wzor = m_wzory.find(sql);
   if (wzor == m_wzory.end()) wzor = m_wzory.emplace(std::string(sql), zrob()).first;
-  Wiersz& wiersz = m_wiersze.emplace_back(Wiersz{&wzor->second, m_jednostka, {}});
+  Wiersz& wiersz = m_wiersze.emplace_back(Wiersz{&wzor->second, m_rekord, {}});
   wiersz.wartosci.reserve(parametry.size() + 1);
   if (klucz) wiersz.wartosci.push_back(*klucz);
   for (const Parametr& parametr : parametry) wiersz.wartosci.push_back(parametr.wartosc);
@@ -144,11 +148,11 @@ void KolejkaZapisow::Wykonaj(std::size_t ile, const Wykonawca& wykonaj) {
 
 std::vector<KolejkaZapisow::Grupa> KolejkaZapisow::Pogrupuj(std::span<Wiersz> wiersze) {
   std::vector<Grupa> grupy;
-  std::size_t najwczesniej = 0;  // the group of the row before, of the same unit
-  int jednostka = -1;
+  std::size_t najwczesniej = 0;  // the group of the row before, of the same record
+  int rekord = -1;
   for (Wiersz& wiersz : wiersze) {
-    if (wiersz.jednostka != jednostka) najwczesniej = 0;
-    jednostka = wiersz.jednostka;
+    if (wiersz.rekord != rekord) najwczesniej = 0;
+    rekord = wiersz.rekord;
     auto grupa = std::find_if(grupy.begin() + static_cast<std::ptrdiff_t>(najwczesniej), grupy.end(),
                               [&](const Grupa& g) { return g.wzor == wiersz.wzor; });
     if (grupa == grupy.end()) grupa = grupy.insert(grupy.end(), {wiersz.wzor, {}});

@@ -10,23 +10,23 @@
 #include "platform/baza/wartosc.h"
 
 // Rows that wait to be written many at a time: on a server every statement costs a journey there and back.
-// The rows of one unit are written in their order; between units, rows of one statement text go together, as
-// early as their own unit lets them. Whoever queues rows of different units that refer to each other queues
-// the one referred to first, and nobody queues two updates of one row.
+// The rows that belong to one record are written in their order; between records, rows of one statement text
+// go together, as early as their own record lets them. Nobody queues two updates of one row, or rows of
+// different records that refer to each other.
 class KolejkaZapisow {
  public:
   // Runs one statement.
   using Wykonawca = std::function<void(std::string_view sql, std::span<const Parametr>)>;
 
-  // The rows that come belong to another unit than those before.
-  void NowaJednostka() { ++m_jednostka; }
+  // The rows that come belong to another record than those before.
+  void NowyRekord() { ++m_rekord; }
   // `sql`: "insert into T (columns) values (...)" or "... select ..." with one expression a column and no
   // comma inside of one; the parameters in the order of their placeholders. The same text always comes with
   // the same key column or without one.
   void Wstaw(std::string_view sql, std::span<const Parametr> parametry);
   // The same with the value of a key column that the text does not name.
   void Wstaw(std::string_view sql, std::span<const Parametr> parametry, const char* klucz, int id);
-  // `sql`: "update T set column = expression, ... where K = :K".
+  // `sql`: "update T set column = expression, ... where K = :K and ...".
   void Popraw(std::string_view sql, std::span<const Parametr> parametry);
   std::size_t Ilosc() const { return m_wiersze.size(); }
   // Forgets the rows from that one on.
@@ -56,7 +56,7 @@ class KolejkaZapisow {
   };
   struct Wiersz {
     Wzor* wzor;
-    int jednostka;
+    int rekord;
     std::vector<Wartosc> wartosci;
   };
   struct Grupa {
@@ -73,5 +73,5 @@ class KolejkaZapisow {
 
   std::map<std::string, Wzor, std::less<>> m_wzory;  // by text
   std::vector<Wiersz> m_wiersze;
-  int m_jednostka = 0;
+  int m_rekord = 0;
 };

@@ -230,6 +230,10 @@ bool TVLTBazaDanych::Popraw(std::string_view sql, std::initializer_list<Parametr
   return Popraw(sql, std::span<const Parametr>(parametry.begin(), parametry.size()));
 }
 
+void TVLTBazaDanych::NowyRekord() {
+  m->kolejka.NowyRekord();
+}
+
 void TVLTBazaDanych::GrupujZapisy(bool grupuj) {
   // Only servers that hand out keys ahead: elsewhere every record asks for its key at once.
   m->grupuj = grupuj && !Jezyk().NoweKlucze({}, {}, 1).empty();
@@ -256,14 +260,13 @@ bool TVLTBazaDanych::GetCzyWTransakcji() const {
 
 void TVLTBazaDanych::UstawPunkt(int poziom) {
   const bool odlozona = m->Grupuje();
-  if (m->jednostki.empty()) m->kolejka.NowaJednostka();
   if (!odlozona) m->Polaczony().UstawPunkt(poziom);
   m->jednostki.push_back({poziom, m->kolejka.Ilosc(), !odlozona});
 }
 
 void TVLTBazaDanych::ZwolnijPunkt(int poziom) {
   // Many rows would make the last ones wait for a long time.
-  constexpr std::size_t kNajwiecejWierszy = 400;
+  constexpr std::size_t kNajwiecejWierszy = 1000;
   if (m->jednostki.empty() || m->jednostki.back().ustawiona) {
     m->Dopisz();
     m->Polaczony().ZwolnijPunkt(poziom);

@@ -79,6 +79,8 @@ class TVLTBazaDanych {
   // no row has the key; of one that waits nobody knows: the caller has the row locked or does not care.
   bool Popraw(std::string_view sql, std::span<const Parametr> parametry);
   bool Popraw(std::string_view sql, std::initializer_list<Parametr> parametry);
+  // What is written from here on belongs to another record: its writes keep their order among themselves.
+  void NowyRekord();
   // Whether writes of the next transactions are grouped, where the server is worth it.
   void GrupujZapisy(bool grupuj);
 
