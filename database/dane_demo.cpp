@@ -6,29 +6,30 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Identifiers are given so that the rows below can name each other.
+// In a new database rows are numbered from 1, in the order in which they are written: so they can name each
+// other.
 constexpr std::string_view kSlowniki[] = {
-    "insert into Magazyn (MagId, Nazwa) values (1, 'Sklep')",
-    "insert into Magazyn (MagId, Nazwa) values (2, 'Zaplecze')",
-    "insert into JM (JMId, Nazwa, Precyzja) values (1, 'szt', 0)",
-    "insert into JM (JMId, Nazwa, Precyzja) values (2, 'kg', 3)",
+    "insert into Magazyn (Nazwa) values ('Sklep')",
+    "insert into Magazyn (Nazwa) values ('Zaplecze')",
+    "insert into JM (Nazwa, Precyzja) values ('szt', 0)",
+    "insert into JM (Nazwa, Precyzja) values ('kg', 3)",
     "insert into KodWazony (Nazwa, Prefix, CzescStala) values ('KW typ 1', 27, 4)",
-    "insert into Asort (AsId, Nazwa) values (1, 'Nabiał')",
-    "insert into Asort (AsId, Nazwa) values (2, 'Pieczywo')",
-    "insert into Asort (AsId, Nazwa) values (3, 'Napoje')",
-    "insert into Asort (AsId, Nazwa) values (4, 'Piwo')",
-    "insert into Asort (AsId, Nazwa) values (5, 'Słodycze')",
-    "insert into Asort (AsId, Nazwa) values (6, 'Produkty sypkie')",
-    "insert into Asort (AsId, Nazwa) values (7, 'Konserwy i przetwory')",
-    "insert into Asort (AsId, Nazwa) values (8, 'Kawa i herbata')",
-    "insert into Asort (AsId, Nazwa) values (9, 'Chemia gospodarcza')",
-    "insert into Asort (AsId, Nazwa) values (10, 'Różne')",
-    "insert into Kategoria (KatId, Nazwa) values (1, 'Napoje')",
-    "insert into Kategoria (KatId, Nazwa) values (2, 'Piwo')",
-    "insert into Kategoria (KatId, Nazwa) values (3, 'Kawa')",
-    "insert into Parametr (ParId, Nazwa, Typ, Od, Do) values (1, 'Pojemność ml', 1, 100, 5000)",
-    "insert into Parametr (ParId, Nazwa, Typ, Od, Do) values (2, 'Ekstrakt', 1, 5, 30)",
-    "insert into Parametr (ParId, Nazwa, Typ) values (3, 'Palenie', 0)",
+    "insert into Asort (Nazwa) values ('Nabiał')",
+    "insert into Asort (Nazwa) values ('Pieczywo')",
+    "insert into Asort (Nazwa) values ('Napoje')",
+    "insert into Asort (Nazwa) values ('Piwo')",
+    "insert into Asort (Nazwa) values ('Słodycze')",
+    "insert into Asort (Nazwa) values ('Produkty sypkie')",
+    "insert into Asort (Nazwa) values ('Konserwy i przetwory')",
+    "insert into Asort (Nazwa) values ('Kawa i herbata')",
+    "insert into Asort (Nazwa) values ('Chemia gospodarcza')",
+    "insert into Asort (Nazwa) values ('Różne')",
+    "insert into Kategoria (Nazwa) values ('Napoje')",
+    "insert into Kategoria (Nazwa) values ('Piwo')",
+    "insert into Kategoria (Nazwa) values ('Kawa')",
+    "insert into Parametr (Nazwa, Typ, Od, Do) values ('Pojemność ml', 1, 100, 5000)",
+    "insert into Parametr (Nazwa, Typ, Od, Do) values ('Ekstrakt', 1, 5, 30)",
+    "insert into Parametr (Nazwa, Typ) values ('Palenie', 0)",
     "insert into ParWartosc (ParId, Kolejnosc, Wartosc) values (3, 0, 'jasne')",
     "insert into ParWartosc (ParId, Kolejnosc, Wartosc) values (3, 1, 'średnie')",
     "insert into ParWartosc (ParId, Kolejnosc, Wartosc) values (3, 2, 'ciemne')",
@@ -295,14 +296,11 @@ const Towar kTowary[] = {
 };
 
 void DodajKontrahentow(TVLTBazaDanych& baza) {
-  int id = 0;
   for (const Kontrahent& k : kKontrahenci) {
     baza.ExecSQL(
-        "insert into Kontrahent (KontrId, Nazwa, Skrot, Ulica, Kod, Miasto, NIP, Staly, Dostawca, Producent, "
-        "Zmiana)"
-        " values (:KontrId, :Nazwa, :Skrot, :Ulica, :Kod, :Miasto, :NIP, 1, 1, :Producent, getdate())",
-        {{"KontrId", ++id},
-         {"Nazwa", k.nazwa},
+        "insert into Kontrahent (Nazwa, Skrot, Ulica, Kod, Miasto, NIP, Staly, Dostawca, Producent, Zmiana)"
+        " values (:Nazwa, :Skrot, :Ulica, :Kod, :Miasto, :NIP, 1, 1, :Producent, getdate())",
+        {{"Nazwa", k.nazwa},
          {"Skrot", k.skrot},
          {"Ulica", k.ulica},
          {"Kod", k.kod},
@@ -317,7 +315,8 @@ Wartosc IdAlboNull(int id) {
 }
 
 void DodajTowar(TVLTBazaDanych& baza, const Towar& t) {
-  baza.ExecSQL(
+  const int towId = baza.WstawOdRazu(
+      "TowId",
       "insert into Towar (AsId, JMId, KatId, Producent, Nazwa, Skrot, Kod, Indeks2, CenaEw, CenaDet, Stawka,"
       " IleWZgrzewce, Zmiana)"
       " values (:AsId, 1, :KatId, :Producent, :Nazwa, :Skrot, :Kod, :Indeks2, :CenaEw, :CenaDet, :Stawka,"
@@ -333,7 +332,6 @@ void DodajTowar(TVLTBazaDanych& baza, const Towar& t) {
        {"CenaDet", t.detalBrutto / (1 + t.stawka * 0.0001)},
        {"Stawka", t.stawka},
        {"IleWZgrzewce", t.wZgrzewce}});
-  const int towId = baza.PobierzAutoId();
   baza.ExecSQL("update Istw set StanMag = :StanMag where TowId = :TowId and MagId = 1",
                {{"StanMag", t.stanWSklepie}, {"TowId", towId}});
   if (t.kategoria > 0) {
@@ -354,7 +352,6 @@ void DodajDaneDemo(TVLTBazaDanych& baza) {
   JednostkaZapisu jednostka(baza);
   for (const std::string_view instrukcja : kSlowniki) baza.ExecSQL(instrukcja);
   DodajKontrahentow(baza);
-  WyrownajAutoKlucze(baza);
   for (const Towar& towar : kTowary) DodajTowar(baza, towar);
   jednostka.Zatwierdz();
 }

@@ -51,11 +51,15 @@ Tabele WczytajTabele(TVLTBazaDanych& baza) {
   return tabele;
 }
 
+auto ZnajdzKolumne(const std::vector<Kolumna>& kolumny, const std::string& nazwa) {
+  return std::find_if(kolumny.begin(), kolumny.end(),
+                      [&](const Kolumna& k) { return k.nazwa == Napis(nazwa).toLower(); });
+}
+
 void SprawdzKolumne(const KolumnaSchematu& wzor, const std::vector<Kolumna>& kolumny, bool serwer,
                     QStringList& braki) {
   const QString nazwa = Napis(wzor.tabela) + u'.' + Napis(wzor.nazwa);
-  const auto kolumna = std::find_if(kolumny.begin(), kolumny.end(),
-                                    [&](const Kolumna& k) { return k.nazwa == Napis(wzor.nazwa).toLower(); });
+  const auto kolumna = ZnajdzKolumne(kolumny, wzor.nazwa);
   if (kolumna == kolumny.end()) {
     braki << u"Brak kolumny %1"_s.arg(nazwa);
     return;
@@ -124,7 +128,8 @@ void SprawdzPrawa(TVLTBazaDanych& baza, const PrawaTabeli& prawa, QStringList& b
     const char16_t* czego;
     std::string sql;
   } proby[] = {
-      {prawa.dopisuje, u"dopisywania", "insert into " + tabela + " select * from " + tabela + " where 1 = 0"},
+      {prawa.dopisuje, u"dopisywania",
+       "insert into " + tabela + " (" + kolumna + ") select " + kolumna + " from " + tabela + " where 1 = 0"},
       {prawa.poprawia, u"poprawiania",
        "update " + tabela + " set " + kolumna + " = " + kolumna + " where 1 = 0"},
       {prawa.usuwa, u"usuwania", "delete from " + tabela + " where 1 = 0"},
@@ -156,7 +161,8 @@ QStringList SprawdzBaze(TVLTBazaDanych& baza) {
     for (const KolumnaSchematu& wzor : KolumnySchematu())
       if (wzor.tabela == prawa.tabela) SprawdzKolumne(wzor, tabela->second, serwer, braki);
     if (prawa.czytanaWcalosci && braki.size() == dotad) SprawdzKolejnosc(prawa.tabela, tabela->second, braki);
-    SprawdzPrawa(baza, prawa, braki);
+    if (ZnajdzKolumne(tabela->second, prawa.kolumna) != tabela->second.end())
+      SprawdzPrawa(baza, prawa, braki);
   }
   SprawdzIndeksy(baza, tabele, braki);
   return braki;

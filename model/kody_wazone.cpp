@@ -121,7 +121,8 @@ void TDmVLTKodWazony::AfterLoad(bool isNew, int /*id*/) {
 }
 
 int TDmVLTKodWazony::InsertRecord() {
-  Context.baza.ExecSQL(
+  return Context.baza.WstawOdRazu(
+      "KWId",
       "insert into KodWazony (Nazwa, Prefix, CzescStala, WartoscWKodzie, DodKontrola)"
       " values (:Nazwa, :Prefix, :CzescStala, :WartoscWKodzie, :DodKontrola)",
       {{"Nazwa", Nazwa()},
@@ -129,7 +130,6 @@ int TDmVLTKodWazony::InsertRecord() {
        {"CzescStala", Format().czescStala},
        {"WartoscWKodzie", WartoscWKodzie()},
        {"DodKontrola", DodKontrola()}});
-  return Context.baza.PobierzAutoId();
 }
 
 void TDmVLTKodWazony::UpdateRecord(int id) {

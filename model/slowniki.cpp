@@ -65,12 +65,12 @@ void TDmVLTWpisSlownika::SprawdzNazwe(int wlasneId) const {
 int TDmVLTWpisSlownika::InsertRecord() {
   SprawdzNazwe(-1);
   Sprawdz();
-  Context.baza.ExecSQL(std::string("insert into ") + m_opis.tabela + " (" +
-                           Lista(m_opis, kKolumnaNazwa, [](const std::string& n) { return n; }) +
-                           ") values (" +
-                           Lista(m_opis, kKolumnaNazwa, [](const std::string& n) { return ':' + n; }) + ')',
-                       Wartosci());
-  const int id = Context.baza.PobierzAutoId();
+  const int id = Context.baza.WstawOdRazu(
+      IdFieldName(),
+      std::string("insert into ") + m_opis.tabela + " (" +
+          Lista(m_opis, kKolumnaNazwa, [](const std::string& n) { return n; }) + ") values (" +
+          Lista(m_opis, kKolumnaNazwa, [](const std::string& n) { return ':' + n; }) + ')',
+      Wartosci());
   ZapiszSzczegoly(id);
   Context.baza.RejestrujZmiane(m_opis.tabelaDziennika, QStringLiteral("Nowa pozycja: ") + Nazwa(), id, -1);
   return id;

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include <QString>
+
+#include "platform/baza/blad_bazy.h"
 
 // What differs between the families of database servers. Statement texts stand elsewhere, once, in the common
 // form; a dialect changes only what it must.
@@ -16,8 +20,12 @@ class Dialekt {
   // A statement of the common form in the words of the server: its clock for getdate(), the place of a row
   // for rowid (rows in the order of their writing), quotes around the column names that it reserves.
   virtual std::string Przeloz(std::string_view sql) const { return std::string(sql); }
-  // The statement that returns the automatic key of the last insert.
-  virtual std::string OstatnieAutoId() const = 0;
+  // An insert as a statement that returns the automatic key of its one row. Empty where the key is asked for
+  // afterwards, by the select below.
+  virtual std::string InsertZKluczem(const std::string& /*insert*/, const std::string& /*klucz*/) const {
+    return {};
+  }
+  virtual std::string OstatnieAutoId() const { return {}; }
   // False where a server knows only the old outer join "*=" in the where clause.
   virtual bool ZnaOuterJoin() const { return true; }
   // Limits a select to its first rows; `select` begins with "select ".
@@ -80,11 +88,21 @@ class Dialekt {
   // The encoding of texts; empty where they are always Unicode.
   virtual std::string KodowanieBazy() const { return {}; }
 
+  // What an error number of the server means; nothing where the standard's state tells enough.
+  virtual std::optional<RodzajBleduBazy> RodzajBledu(long /*numer*/) const { return std::nullopt; }
+  // True where texts must be handed over in the server's national kind, or letters would be lost.
+  virtual bool TekstyNarodowe() const { return false; }
+
  protected:
   // `tekst` with every `co` in it replaced.
   static std::string Zamien(std::string tekst, std::string_view co, std::string_view na);
+  // The same with words (a pair of brackets behind one belongs to it) outside of quotes; ":Do" is no word.
+  struct Slowo {
+    std::string_view nasze, tutejsze;
+  };
+  static std::string ZamienSlowa(std::string_view sql, std::span<const Slowo> slowa);
 };
 
 const Dialekt& DialektSqlite();
 const Dialekt& DialektPostgresql();
-const Dialekt& DialektTsql();
+const Dialekt& DialektTsql(bool znaOuterJoin = true);

@@ -1,56 +1,25 @@
-#include <cctype>
-
 #include "platform/baza/dialekt.h"
 
 namespace {
-
-bool ZnakNazwy(char znak) {
-  return std::isalnum(static_cast<unsigned char>(znak)) != 0 || znak == '_';
-}
-
-// Words of the common form that mean something else here. The clock goes on inside a transaction and counts
-// whole seconds, as the columns do. Rows that were written one after another lie in that order.
-struct Slowo {
-  std::string_view nasze, tutejsze;
-};
-constexpr Slowo kSlowa[] = {
-    {"getdate()", "cast(date_trunc('second', clock_timestamp()) as timestamp(0))"},
-    {"Do", "\"do\""},
-    {"rowid", "ctid"},
-};
 
 class Postgresql final : public Dialekt {
  public:
   QString Nazwa() const override { return QStringLiteral("PostgreSQL"); }
 
-  // Word by word outside of quotes; ":Do" is a placeholder.
+  // The clock goes on inside a transaction and counts whole seconds, as the columns do. Rows that were
+  // written one after another lie in that order.
   std::string Przeloz(std::string_view sql) const override {
-    std::string wynik;
-    wynik.reserve(sql.size() + 64);
-    bool wCudzyslowie = false;
-    for (std::size_t i = 0; i < sql.size();) {
-      const char znak = sql[i];
-      if (znak == '\'') wCudzyslowie = !wCudzyslowie;
-      if (wCudzyslowie || !ZnakNazwy(znak)) {
-        wynik += znak;
-        ++i;
-        continue;
-      }
-      std::size_t koniec = i;
-      while (koniec < sql.size() && ZnakNazwy(sql[koniec])) ++koniec;
-      if (sql.substr(koniec, 2) == "()") koniec += 2;
-      std::string_view slowo = sql.substr(i, koniec - i);
-      if (i == 0 || (sql[i - 1] != ':' && sql[i - 1] != '"'))
-        for (const Slowo& s : kSlowa)
-          if (slowo == s.nasze) slowo = s.tutejsze;
-      wynik += slowo;
-      i = koniec;
-    }
-    return wynik;
+    static constexpr Slowo kSlowa[] = {
+        {"getdate()", "cast(date_trunc('second', clock_timestamp()) as timestamp(0))"},
+        {"Do", "\"do\""},
+        {"rowid", "ctid"},
+    };
+    return ZamienSlowa(sql, kSlowa);
   }
 
-  // The value of the last sequence that this connection moved: the triggers of the schema move none.
-  std::string OstatnieAutoId() const override { return "select lastval()"; }
+  std::string InsertZKluczem(const std::string& insert, const std::string& klucz) const override {
+    return insert + " returning " + klucz;
+  }
   std::string Pierwsze(int ile, const std::string& select) const override {
     return select + " limit " + std::to_string(ile);
   }

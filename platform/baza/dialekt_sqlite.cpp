@@ -4,6 +4,7 @@ namespace {
 class Sqlite final : public Dialekt {
  public:
   QString Nazwa() const override { return QStringLiteral("SQLite"); }
+  // An insert with a returning clause takes half as long again as the two statements.
   std::string OstatnieAutoId() const override { return "select last_insert_rowid()"; }
   std::string Pierwsze(int ile, const std::string& select) const override {
     return select + " limit " + std::to_string(ile);

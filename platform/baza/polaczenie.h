@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+class Dialekt;
+
 // Where a database is and how it is reached.
 struct ParametryPolaczenia {
   enum class Rodzaj { Sqlite, Odbc };
@@ -15,6 +17,9 @@ struct ParametryPolaczenia {
   QString cel;
   bool tworz = false;           // create the file when it is missing; otherwise a missing file is an error
   int limitBlokadySekund = 15;  // how long to wait for somebody else's lock
+  // Test seam: the language of an embedded database that stands in for a server; null: its own. Its texts
+  // must be such as the embedded database runs when Przeloz has seen them.
+  const Dialekt* jezyk = nullptr;
 
   // The files that make up an embedded database, whether or not they exist at the moment: the database and
   // what SQLite keeps beside it.

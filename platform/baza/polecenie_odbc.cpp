@@ -3,12 +3,12 @@
 #include <algorithm>
 
 #include "platform/baza/blad_bazy.h"
+#include "platform/baza/dialekt.h"
 
 namespace {
 
 constexpr std::size_t kBuforTekstu = 256;
 constexpr std::size_t kNajwiekszyBufor = 64 * 1024;
-constexpr SQLULEN kNajdluzszyVarchar = 8000;
 constexpr SQLULEN kZnakowCzasu = 19;
 
 SQLUSMALLINT Numer(std::size_t indeks) {
@@ -17,13 +17,16 @@ SQLUSMALLINT Numer(std::size_t indeks) {
 
 }  // namespace
 
-PolecenieOdbc::PolecenieOdbc(soci::session& sesja, std::string sql, const std::string& tresc,
+PolecenieOdbc::PolecenieOdbc(soci::session& sesja, std::string sql, const Dialekt& jezyk,
                              std::span<const TypPola> kolumny, std::span<const Parametr> parametry)
-    : Polecenie(std::move(sql), kolumny, parametry), m_polecenie(sesja), m_wczytane(kolumny.size()) {
+    : Polecenie(std::move(sql), kolumny, parametry),
+      m_polecenie(sesja),
+      m_narodowe(jezyk.TekstyNarodowe()),
+      m_wczytane(kolumny.size()) {
   m_parametry.reserve(parametry.size());
   for (const Parametr& p : parametry) m_parametry.emplace_back(p.wartosc.Typ());
   m_polecenie.alloc();
-  m_polecenie.prepare(tresc);
+  m_polecenie.prepare(jezyk.Przeloz(m_sql));
   for (const std::string& nazwa : Sterownik().names_) {
     const auto parametr = std::find(m_nazwy.begin(), m_nazwy.end(), nazwa);
     if (parametr == m_nazwy.end()) throw soci::soci_error("a placeholder without a parameter");
@@ -42,6 +45,12 @@ soci::odbc_statement_backend& PolecenieOdbc::Sterownik() {
 
 void PolecenieOdbc::Sprawdz(SQLRETURN wynik, const char* co) {
   if (soci::is_odbc_error(wynik)) throw soci::odbc_soci_error(SQL_HANDLE_STMT, Sterownik().hstmt_, co);
+}
+
+SQLSMALLINT PolecenieOdbc::TypTekstu(SQLULEN bajtow) const {
+  constexpr SQLULEN kNajdluzszyVarchar = 8000, kNajdluzszyNarodowy = 4000;
+  if (m_narodowe) return bajtow > kNajdluzszyNarodowy ? SQL_WLONGVARCHAR : SQL_WVARCHAR;
+  return bajtow > kNajdluzszyVarchar ? SQL_LONGVARCHAR : SQL_VARCHAR;
 }
 
 // The driver reads numbers where they are; a text may have moved or grown since the last run.
@@ -75,8 +84,7 @@ void PolecenieOdbc::ZwiazParametr(std::size_t ktory) {
       if (w.Typ() == TypPola::Czas)
         zwiaz(SQL_C_CHAR, SQL_TYPE_TIMESTAMP, kZnakowCzasu, tekst.data(), 0);
       else
-        zwiaz(SQL_C_CHAR, rozmiar > kNajdluzszyVarchar ? SQL_LONGVARCHAR : SQL_VARCHAR, rozmiar, tekst.data(),
-              0);
+        zwiaz(SQL_C_CHAR, TypTekstu(rozmiar), rozmiar, tekst.data(), 0);
       m.dlugosc = static_cast<SQLLEN>(tekst.size());
     }
   }

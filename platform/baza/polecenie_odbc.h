@@ -5,14 +5,15 @@
 
 #include "platform/baza/polecenie.h"
 
+class Dialekt;
+
 // A statement of a server. SOCI prepares and runs it; values are bound here, because SOCI's own exchange cuts
 // a text that is longer in bytes than its column counts in characters, and at a NUL. Nothing is ever cut: a
 // text longer than its buffer is fetched whole.
 class PolecenieOdbc final : public Polecenie {
  public:
-  // `tresc` is the text in the server's words.
-  PolecenieOdbc(soci::session& sesja, std::string sql, const std::string& tresc,
-                std::span<const TypPola> kolumny, std::span<const Parametr> parametry);
+  PolecenieOdbc(soci::session& sesja, std::string sql, const Dialekt& jezyk, std::span<const TypPola> kolumny,
+                std::span<const Parametr> parametry);
 
   void Wykonaj(std::span<const Parametr> parametry) override;
   bool Nastepny() override;
@@ -34,12 +35,14 @@ class PolecenieOdbc final : public Polecenie {
 
   soci::odbc_statement_backend& Sterownik();
   void Sprawdz(SQLRETURN wynik, const char* co);
+  SQLSMALLINT TypTekstu(SQLULEN bajtow) const;
   void ZwiazParametr(std::size_t ktory);
   void ZwiazKolumne(std::size_t ktora);
   void PrzyjmijWiersz();
   void WczytajDlugi(std::size_t ktora);
 
   soci::statement m_polecenie;
+  const bool m_narodowe;
   std::vector<Wartosc> m_parametry;
   std::vector<Miejsce> m_miejsca;
   std::vector<Kolumna> m_wczytane;

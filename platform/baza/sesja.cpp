@@ -193,9 +193,20 @@ void TVLTBazaDanych::PowiazQuery(TKMQuery& query) {
   query.Powiaz(*this);
 }
 
-int TVLTBazaDanych::PobierzAutoId() {
-  const Wartosc id = m->Polaczony().Zapytaj(Jezyk().OstatnieAutoId());
-  return id.IsNull() ? -1 : static_cast<int>(id.AsInteger());
+int TVLTBazaDanych::WstawOdRazu(const char* klucz, std::string_view sql,
+                                std::initializer_list<Parametr> parametry) {
+  return WstawOdRazu(klucz, sql, std::span<const Parametr>(parametry.begin(), parametry.size()));
+}
+
+int TVLTBazaDanych::WstawOdRazu(const char* klucz, std::string_view sql,
+                                std::span<const Parametr> parametry) {
+  const std::string zKluczem = Jezyk().InsertZKluczem(std::string(sql), klucz);
+  if (zKluczem.empty()) {
+    ExecSQL(sql, parametry);
+    return static_cast<int>(m->silnik->Zapytaj(Jezyk().OstatnieAutoId()).AsInteger());
+  }
+  Odczyt odczyt = Otworz(zKluczem, kLiczba, parametry);
+  return odczyt.Nastepny() ? static_cast<int>(odczyt[0].AsInteger()) : -1;
 }
 
 void TVLTBazaDanych::Wstaw(std::string_view sql, std::initializer_list<Parametr> parametry) {
@@ -208,10 +219,8 @@ void TVLTBazaDanych::Wstaw(std::string_view sql, std::initializer_list<Parametr>
 
 int TVLTBazaDanych::WstawZKluczem(const char* tabela, const char* klucz, std::string_view sql,
                                   std::span<const Parametr> parametry) {
-  if (!GetCzyWTransakcji() || Jezyk().NoweKlucze(tabela, klucz, 1).empty()) {
-    ExecSQL(sql, parametry);
-    return PobierzAutoId();
-  }
+  if (!GetCzyWTransakcji() || Jezyk().NoweKlucze(tabela, klucz, 1).empty())
+    return WstawOdRazu(klucz, sql, parametry);
   const bool czeka = m->MozeCzekac();
   if (!czeka) m->Dopisz();
   const int id = m->NastepnyKlucz(tabela, klucz);

@@ -66,13 +66,16 @@ class TVLTBazaDanych {
   // Runs a statement that returns no rows; returns the number of rows it touched.
   long long ExecSQL(std::string_view sql, std::initializer_list<Parametr> parametry = {});
   long long ExecSQL(std::string_view sql, std::span<const Parametr> parametry);
+  // Inserts one row with an automatic key and returns the key: "insert into T (columns) ..." without the
+  // column `klucz`. Written at once.
+  int WstawOdRazu(const char* klucz, std::string_view sql, std::initializer_list<Parametr> parametry);
+  int WstawOdRazu(const char* klucz, std::string_view sql, std::span<const Parametr> parametry);
   // Inserts a row whose number nobody asks for. While writes are grouped it may wait for others: it is
   // written before the next statement of any other kind and before the commit, in the order that
   // KolejkaZapisow keeps. A group that is refused leaves as EBladBazy of kind Grupa and spoils the
   // transaction.
   void Wstaw(std::string_view sql, std::initializer_list<Parametr> parametry);
-  // The same for a row with an automatic key, which is returned: "insert into `tabela` (columns) ..." without
-  // the column `klucz`.
+  // The same for a row of `tabela` with an automatic key, which is returned.
   int WstawZKluczem(const char* tabela, const char* klucz, std::string_view sql,
                     std::span<const Parametr> parametry);
   // Writes over the row with a key: "update T set ... where K = :K". It may wait in the same way. False when
@@ -90,8 +93,6 @@ class TVLTBazaDanych {
   Odczyt Otworz(std::string_view sql, std::span<const TypPola> kolumny, std::span<const Parametr> parametry);
   // Gives a dataset this session; see TKMQuery.
   void PowiazQuery(TKMQuery& query);
-  // The automatic key of the last insert of this session.
-  int PobierzAutoId();
 
   // A write transaction; on SQLite an immediate one, so that a lock is met here and not in the middle.
   void StartTransakcji();

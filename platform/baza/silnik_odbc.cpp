@@ -8,7 +8,7 @@
 #include <soci/odbc/soci-odbc.h>
 #include <soci/soci.h>
 
-#include "platform/baza/dialekt.h"
+#include "platform/baza/dialekt_tsql.h"
 #include "platform/baza/napis_odbc.h"
 #include "platform/baza/polaczenie.h"
 #include "platform/baza/polecenie_odbc.h"
@@ -77,9 +77,9 @@ class SilnikOdbc final : public Silnik {
       soci::connection_parameters polaczenie(soci::odbc, NapisPolaczenia(parametry).toStdString());
       polaczenie.set_option(soci::odbc_option_driver_complete, std::to_string(SQL_DRIVER_NOPROMPT));
       m_sesja.open(polaczenie);
-      m_jezyk = WybierzJezyk();
       if (soci::is_odbc_error(SQLAllocHandle(SQL_HANDLE_STMT, Uchwyt(), &m_sterujace)))
         throw soci::odbc_soci_error(SQL_HANDLE_DBC, Uchwyt(), "allocating a statement");
+      m_jezyk = WybierzJezyk();
     } catch (const soci::soci_error& blad) {
       Rzuc(blad, {});
     }
@@ -151,7 +151,7 @@ class SilnikOdbc final : public Silnik {
  protected:
   std::shared_ptr<Polecenie> Przygotuj(const std::string& sql, std::span<const TypPola> kolumny,
                                        std::span<const Parametr> parametry) override {
-    return std::make_shared<PolecenieOdbc>(m_sesja, sql, m_jezyk->Przeloz(sql), kolumny, parametry);
+    return std::make_shared<PolecenieOdbc>(m_sesja, sql, *m_jezyk, kolumny, parametry);
   }
 
   // Not prepared: a prepared one could not be run where it is needed most, in a spoiled transaction.
@@ -159,9 +159,7 @@ class SilnikOdbc final : public Silnik {
     if (sql.empty()) return;
     Oglos(sql);
     Tlumacz(sql, [&] {
-      auto* tekst = reinterpret_cast<SQLCHAR*>(const_cast<char*>(sql.data()));  // the C interface
-      const SQLRETURN wynik = SQLExecDirect(m_sterujace, tekst, static_cast<SQLINTEGER>(sql.size()));
-      if (soci::is_odbc_error(wynik)) throw soci::odbc_soci_error(SQL_HANDLE_STMT, m_sterujace, "control");
+      if (!Przyjmuje(sql)) throw soci::odbc_soci_error(SQL_HANDLE_STMT, m_sterujace, "control");
       SQLFreeStmt(m_sterujace, SQL_CLOSE);
     });
   }
@@ -173,7 +171,10 @@ class SilnikOdbc final : public Silnik {
     const auto* stan = reinterpret_cast<const char*>(odbc->odbc_error_code());
     const QString tresc = TrescBledu(reinterpret_cast<const char*>(odbc->odbc_error_message()));
     if (!m_sesja.get_backend()) return {RodzajOdmowyPolaczenia(stan, tresc), tresc};
-    if (!Zerwane()) return {RodzajStanu(stan), tresc};
+    if (!Zerwane()) {
+      const auto zNumeru = m_jezyk ? m_jezyk->RodzajBledu(odbc->native_error_code()) : std::nullopt;
+      return {zNumeru.value_or(RodzajStanu(stan)), tresc};
+    }
     m_stan = Stan::Brak;  // the server undoes what it had of it
     return {RodzajBleduBazy::Polaczenie, tresc};
   }
@@ -184,6 +185,11 @@ class SilnikOdbc final : public Silnik {
     Otwarta,
     Zepsuta  // a statement failed outside of a savepoint: the server keeps nothing of it
   };
+
+  bool Przyjmuje(const std::string& sql) {
+    auto* tekst = reinterpret_cast<SQLCHAR*>(const_cast<char*>(sql.data()));  // the C interface
+    return !soci::is_odbc_error(SQLExecDirect(m_sterujace, tekst, static_cast<SQLINTEGER>(sql.size())));
+  }
 
   template <typename Praca>
   void Tlumacz(std::string_view sql, Praca praca) {
@@ -213,8 +219,11 @@ class SilnikOdbc final : public Silnik {
     switch (static_cast<Sesja*>(m_sesja.get_backend())->get_database_product()) {
       case Sesja::prod_postgresql:
         return &DialektPostgresql();
-      case Sesja::prod_mssql:
-        return &DialektTsql();
+      case Sesja::prod_mssql: {
+        const bool znaOuterJoin = Przyjmuje(Tsql::ProbaOuterJoin());
+        SQLFreeStmt(m_sterujace, SQL_CLOSE);
+        return &DialektTsql(znaOuterJoin);
+      }
       default:
         throw EBladBazy(RodzajBleduBazy::Sterownik,
                         QStringLiteral("Program nie zna rodzaju tego serwera bazy danych"), {});

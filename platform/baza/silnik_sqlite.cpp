@@ -68,7 +68,10 @@ void UstawSqlite() {
 class SilnikSqlite final : public Silnik {
  public:
   SilnikSqlite(const ParametryPolaczenia& parametry, const Podsluch& podsluch)
-      : Silnik(podsluch), m_nazwa(QFileInfo(parametry.cel).completeBaseName()), m_numer(NastepnyNumer()) {
+      : Silnik(podsluch),
+        m_jezyk(parametry.jezyk ? *parametry.jezyk : DialektSqlite()),
+        m_nazwa(QFileInfo(parametry.cel).completeBaseName()),
+        m_numer(NastepnyNumer()) {
     try {
       m_sesja.open(soci::sqlite3, "db=\"" + parametry.cel.toStdString() +
                                       "\" timeout=" + std::to_string(parametry.limitBlokadySekund));
@@ -96,7 +99,7 @@ class SilnikSqlite final : public Silnik {
 
   ~SilnikSqlite() override { PorzucPolecenia(); }
 
-  const Dialekt& Jezyk() const override { return DialektSqlite(); }
+  const Dialekt& Jezyk() const override { return m_jezyk; }
   QString NazwaBazy() const override { return m_nazwa; }
 
   // An immediate one, so that a lock is met here and not in the middle.
@@ -122,7 +125,7 @@ class SilnikSqlite final : public Silnik {
  protected:
   std::shared_ptr<Polecenie> Przygotuj(const std::string& sql, std::span<const TypPola> kolumny,
                                        std::span<const Parametr> parametry) override {
-    return std::make_shared<PolecenieSqlite>(*Uchwyt(), sql, kolumny, parametry);
+    return std::make_shared<PolecenieSqlite>(*Uchwyt(), m_jezyk.Przeloz(sql), kolumny, parametry);
   }
 
   Rozpoznanie Rozpoznaj(const soci::soci_error& blad) override {
@@ -142,6 +145,7 @@ class SilnikSqlite final : public Silnik {
   }
 
   mutable soci::session m_sesja;  // asked for its handle by const members too
+  const Dialekt& m_jezyk;
   const QString m_nazwa;
   const long long m_numer;
 };

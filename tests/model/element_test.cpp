@@ -33,9 +33,8 @@ class Rzecz final : public TDmVLTElement {
   void ClearDetails() override { slady += u'c'; }
   void AfterLoad(bool isNew, int) override { slady += isNew ? u'n' : u'l'; }
   int InsertRecord() override {
-    Context.baza.ExecSQL("insert into T (Nazwa) values (:Nazwa)",
-                         {{"Nazwa", Query.FieldByName("Nazwa").Value()}});
-    const int id = Context.baza.PobierzAutoId();
+    const int id = Context.baza.WstawOdRazu("Id", "insert into T (Nazwa) values (:Nazwa)",
+                                            {{"Nazwa", Query.FieldByName("Nazwa").Value()}});
     if (zepsuta) throw EVLTWDError(2007);
     return id;
   }

@@ -19,8 +19,8 @@ class WlasneKody : public testing::Test {
   void SetUp() override { UtworzBaze(b.baza, {}); }
 
   void DodajTowar(const QString& kod, const QString& dodatkowy = {}) {
-    b.baza.ExecSQL("insert into Towar (Nazwa, Skrot, Kod) values ('n', 's', :Kod)", {{"Kod", kod}});
-    const int id = b.baza.PobierzAutoId();
+    const int id = b.baza.WstawOdRazu(
+        "TowId", "insert into Towar (Nazwa, Skrot, Kod) values ('n', 's', :Kod)", {{"Kod", kod}});
     if (bufor.Gotowy()) bufor.Dodaj(id, {{}, kod, {}, {}, {}});
     if (!dodatkowy.isEmpty())
       b.baza.ExecSQL("insert into KodDod (TowId, Kolejnosc, Kod) values (:TowId, 0, :Kod)",

@@ -22,9 +22,9 @@ class Skroty : public testing::Test {
   void SetUp() override { UtworzBaze(b.baza, {}); }
 
   int DodajTowar(const QString& skrot, bool aktywny = true, const QString& dodSkrot = {}) {
-    b.baza.ExecSQL("insert into Towar (Nazwa, Skrot, Kod, Aktywny) values (:Nazwa, :Skrot, '', :Aktywny)",
-                   {{"Nazwa", u"Towar "_s + skrot}, {"Skrot", skrot}, {"Aktywny", aktywny ? 1 : 0}});
-    const int id = b.baza.PobierzAutoId();
+    const int id = b.baza.WstawOdRazu(
+        "TowId", "insert into Towar (Nazwa, Skrot, Kod, Aktywny) values (:Nazwa, :Skrot, '', :Aktywny)",
+        {{"Nazwa", u"Towar "_s + skrot}, {"Skrot", skrot}, {"Aktywny", aktywny ? 1 : 0}});
     if (!dodSkrot.isEmpty())
       b.baza.ExecSQL("insert into KodDod (TowId, Kolejnosc, Kod, Skrot) values (:TowId, 0, '1', :Skrot)",
                      {{"TowId", id}, {"Skrot", dodSkrot}});

@@ -38,9 +38,9 @@ class Baza : public testing::Test {
 TEST_F(Baza, WartosciWracajaTakieSame) {
   const QString nazwa = QStringLiteral("Żółć 'x' \" : % ;");
   const long long duza = 9'007'199'254'740'993;
-  b.baza.ExecSQL("insert into T (Nazwa, Cena, Duza) values (:Nazwa, :Cena, :Duza)",
-                 {{"Nazwa", nazwa}, {"Cena", 0.1}, {"Duza", duza}});
-  EXPECT_EQ(b.baza.PobierzAutoId(), 1);
+  EXPECT_EQ(b.baza.WstawOdRazu("Id", "insert into T (Nazwa, Cena, Duza) values (:Nazwa, :Cena, :Duza)",
+                               {{"Nazwa", nazwa}, {"Cena", 0.1}, {"Duza", duza}}),
+            1);
   b.baza.ExecSQL("insert into T (Nazwa, Cena) values (:Nazwa, :Cena)",
                  {{"Nazwa", Wartosc(TypPola::Tekst)}, {"Cena", Wartosc(TypPola::Dziesietne)}});
 

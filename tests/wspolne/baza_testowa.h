@@ -10,7 +10,8 @@
 // A database of one test, gone with it: a file, or one of the test server.
 class BazaTestowa {
  public:
-  BazaTestowa() {
+  // `jezyk`: see ParametryPolaczenia.
+  explicit BazaTestowa(const Dialekt* jezyk = nullptr) : m_jezyk(jezyk) {
     if (NaSerwerze()) m_serwera.emplace();
     Polacz(baza, true);
   }
@@ -23,6 +24,7 @@ class BazaTestowa {
   // Another session of the same database.
   void Polacz(TVLTBazaDanych& sesja, bool tworz = false, int limitSekund = 1) const {
     ParametryPolaczenia parametry = Parametry();
+    parametry.jezyk = m_jezyk;
     parametry.tworz = tworz;
     parametry.limitBlokadySekund = limitSekund;
     sesja.UstawPolaczenie(parametry);
@@ -47,6 +49,7 @@ class BazaTestowa {
   QString OstatniWpis() { return Tekst("select Opis from DziennikZmian order by rowid desc"); }
 
  private:
+  const Dialekt* m_jezyk;
   QTemporaryDir m_folder;
   std::optional<BazaSerwera> m_serwera;
 
