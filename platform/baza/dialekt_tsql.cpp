@@ -11,17 +11,17 @@ constexpr std::string_view kMiejsceWiersza =
 
 // A quoted text is one of the database's code page unless an N stands before it.
 std::string ZNarodowymiTekstami(const std::string& sql) {
-  const auto zwykly = [](char znak) { return static_cast<unsigned char>(znak) < 0x80; };
   std::string wynik;
-  for (std::size_t i = 0; i < sql.size();) {
-    const std::size_t poczatek = std::min(sql.find('\'', i), sql.size());
-    wynik.append(sql, i, poczatek - i);
-    if (poczatek == sql.size()) break;
-    const std::size_t koniec = std::min(sql.find('\'', poczatek + 1), sql.size() - 1) + 1;
-    const std::string tekst = sql.substr(poczatek, koniec - poczatek);
-    if (!std::all_of(tekst.begin(), tekst.end(), zwykly)) wynik += 'N';
-    wynik += tekst;
-    i = koniec;
+  bool wCudzyslowie = false;
+  std::size_t poczatek = 0;  // of the quoted text in the result
+  for (const char znak : sql) {
+    // A quote inside is written twice: it ends the text and begins it anew at the same place.
+    if (znak == '\'' && !wCudzyslowie && !wynik.ends_with('\'')) poczatek = wynik.size();
+    if (znak == '\'') wCudzyslowie = !wCudzyslowie;
+    const bool obcy = static_cast<unsigned char>(znak) >= 0x80;
+    if (obcy && wCudzyslowie && (poczatek == 0 || wynik[poczatek - 1] != 'N'))
+      wynik.insert(poczatek++, 1, 'N');
+    wynik += znak;
   }
   return wynik;
 }

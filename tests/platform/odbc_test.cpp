@@ -37,6 +37,8 @@ TEST(Dialekt, SlowaInneNaSerwerze) {
             "update P set \"do\" = :Do where Nazwa = 'Do getdate()' and Dom = 1");
   EXPECT_EQ(DialektPostgresql().Przeloz("select P.Do from T order by rowid"),
             "select P.\"do\" from T order by ctid");
+  EXPECT_EQ(DialektTsql().Przeloz("select 'ą''ę', 'c', '''ć', '' where A = :rowid and B = 'd''ń'"),
+            "select N'ą''ę', 'c', N'''ć', '' where A = :rowid and B = N'd''ń'");
   EXPECT_EQ(DialektTsql().Pierwsze(3, "select A from T"), "select top 3 A from T");
 }
 
