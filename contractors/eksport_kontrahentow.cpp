@@ -11,8 +11,7 @@
 namespace {
 
 constexpr OpisPrzebiegu kOpis{{}, u"zamykanie pliku eksportu", u"Eksport zakończono", {}, kPlikNiepelny};
-constexpr OpisEksportu kOpisEksportu{
-    {}, u"eksport bazy kontrahentów", "select KontrId from Kontrahent order by KontrId"};
+const OpisEksportu kOpisEksportu{{}, u"eksport bazy kontrahentów", "Kontrahent", "KontrId"};
 
 // The conditions of an export. The boxes for a tax number that is not known and for what is no protected
 // workplace decide nothing: their opposites alone let every contractor through, or none.
@@ -35,6 +34,8 @@ class PrzebiegEksportuKontrahentow final : public PrzebiegEksportu {
   void Naglowek(ZapisRekordow& zapis) override {
     for (const auto& kolumna : KolumnyKontrahenta()) zapis.Pole(kolumna.naglowek);
   }
+
+  void Strona(int od, int doId) override { m_odczyt->Strona(od, doId); }
 
   bool Wczytaj(int id) override { return DoWyslania(m_odczyt->Wczytaj(id), m_opcje); }
 

@@ -16,8 +16,13 @@ constexpr OpisPola kSklep[] = {{"SklepId", TypPola::Calkowite}};
 OdczytKontrahentow::OdczytKontrahentow(TVLTBazaDanych& baza)
     : m_kontrahenci(baza, "Kontrahent", kKontrahent),
       m_sklepy(baza, "Sklep", kSklep),
-      m_osoby(baza.Otworz("select KontrId, Nazwisko from Osoba order by KontrId, rowid",
-                          {TypPola::Calkowite, TypPola::Tekst})) {}
+      m_osoby(baza,
+              "select KontrId, Nazwisko from Osoba where KontrId between :Od and :Do order by KontrId, rowid",
+              {TypPola::Calkowite, TypPola::Tekst}) {}
+
+void OdczytKontrahentow::Strona(int od, int doId) {
+  OtworzStrone({&m_kontrahenci, &m_sklepy, &m_osoby}, od, doId);
+}
 
 const DaneKontrahenta& OdczytKontrahentow::Wczytaj(int kontrId) {
   if (!m_kontrahenci.Siegnij(kontrId)) throw EVLTWDError(2001, nullptr, QString::number(kontrId));

@@ -19,13 +19,14 @@ struct DaneKontrahenta {
   bool Flaga(Kolumna kolumna) const { return (*this)[kolumna].AsInteger() != 0; }
 };
 
-// Reads contractors by rising identifier: each table once, side by side, so that neither the number of
-// statements nor the memory depends on the number of contractors.
+// Reads contractors by rising identifier, page by page, the tables side by side.
 class OdczytKontrahentow {
  public:
   explicit OdczytKontrahentow(TVLTBazaDanych& baza);
 
-  // Identifiers only rise from call to call. 2001 when the contractor is gone.
+  // Begins a page: of the contractors with these identifiers and those between them.
+  void Strona(int od, int doId);
+  // A contractor of the page; identifiers only rise from call to call. 2001 when the contractor is gone.
   const DaneKontrahenta& Wczytaj(int kontrId);
   const DaneKontrahenta& Biezacy() const { return m_kontrahent; }
 

@@ -15,8 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr OpisPrzebiegu kOpis{{}, u"zamykanie pliku eksportu", u"Eksport zakończono", {}, kPlikNiepelny};
-constexpr OpisEksportu kOpisEksportu{u"przygotowanie bufora towarów", u"eksport bazy towarów",
-                                     "select TowId from Towar order by TowId"};
+const OpisEksportu kOpisEksportu{u"przygotowanie bufora towarów", u"eksport bazy towarów", "Towar", "TowId"};
 
 class PrzebiegEksportuTowarow final : public PrzebiegEksportu {
  public:
@@ -24,8 +23,6 @@ class PrzebiegEksportuTowarow final : public PrzebiegEksportu {
       : PrzebiegEksportu(parametry, kOpis, kOpisEksportu), m_opcje(opcje) {}
 
  protected:
-  // The goods first: what is read after their first row comes from the same moment of the database, the
-  // dictionaries included.
   void PrzedRekordami() override {
     TVLTBazaDanych& baza = Parametry().sesja.baza;
     m_odczyt.emplace(baza, m_opcje.CBEksportStanow);
@@ -35,6 +32,8 @@ class PrzebiegEksportuTowarow final : public PrzebiegEksportu {
   void Naglowek(ZapisRekordow& zapis) override {
     for (const auto& kolumna : KolumnyTowaru()) zapis.Pole(kolumna.naglowek);
   }
+
+  void Strona(int od, int doId) override { m_odczyt->Strona(od, doId); }
 
   bool Wczytaj(int id) override {
     m_odczyt->Wczytaj(id);

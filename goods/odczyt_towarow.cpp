@@ -12,29 +12,43 @@ constexpr int kWszystkieMagazyny = 1;
 constexpr OpisPola kPola[] = {ZORVIK_POLA_EKSPORTU(ZORVIK_POLE)};
 #undef ZORVIK_POLE
 
-std::optional<StrumienSzczegolow> OtworzStany(TVLTBazaDanych& baza, int stany) {
+std::optional<StrumienSzczegolow> StrumienStanow(TVLTBazaDanych& baza, int stany) {
   constexpr auto kId = TypPola::Calkowite;
   constexpr auto kStan = TypPola::Dziesietne;
   if (stany <= kBezStanow) return std::nullopt;
   if (stany == kWszystkieMagazyny)
     return StrumienSzczegolow(
-        baza.Otworz("select TowId, StanMag from Istw order by TowId, MagId", {kId, kStan}));
-  return StrumienSzczegolow(baza.Otworz("select TowId, StanMag from Istw where MagId = :MagId order by TowId",
-                                        {kId, kStan}, {{"MagId", stany - 1}}));
+        baza, "select TowId, StanMag from Istw where TowId between :Od and :Do order by TowId, MagId",
+        {kId, kStan});
+  return StrumienSzczegolow(
+      baza,
+      "select TowId, StanMag from Istw where TowId between :Od and :Do and MagId = :MagId"
+      " order by TowId",
+      {kId, kStan}, {{"MagId", stany - 1}});
 }
 
 }  // namespace
 
 OdczytTowarow::OdczytTowarow(TVLTBazaDanych& baza, int stany)
     : m_towary(baza, "Towar", kPola),
-      m_kody(baza.Otworz("select TowId, Kod, Skrot, PrefPLU from KodDod order by TowId, Kolejnosc",
-                         {TypPola::Calkowite, TypPola::Tekst, TypPola::Tekst, TypPola::Calkowite})),
-      m_wartosci(baza.Otworz("select TowId, ParId, Wartosc from TowWartosc order by TowId, ParId",
-                             {TypPola::Calkowite, TypPola::Calkowite, TypPola::Dziesietne})),
-      m_dostawcy(baza.Otworz("select TowId, KontrId from TowDostawca order by TowId, Kolejnosc",
-                             {TypPola::Calkowite, TypPola::Calkowite})),
-      m_stany(OtworzStany(baza, stany)),
+      m_kody(baza,
+             "select TowId, Kod, Skrot, PrefPLU from KodDod where TowId between :Od and :Do"
+             " order by TowId, Kolejnosc",
+             {TypPola::Calkowite, TypPola::Tekst, TypPola::Tekst, TypPola::Calkowite}),
+      m_wartosci(baza,
+                 "select TowId, ParId, Wartosc from TowWartosc where TowId between :Od and :Do"
+                 " order by TowId, ParId",
+                 {TypPola::Calkowite, TypPola::Calkowite, TypPola::Dziesietne}),
+      m_dostawcy(baza,
+                 "select TowId, KontrId from TowDostawca where TowId between :Od and :Do"
+                 " order by TowId, Kolejnosc",
+                 {TypPola::Calkowite, TypPola::Calkowite}),
+      m_stany(StrumienStanow(baza, stany)),
       m_jedenMagazyn(stany > kWszystkieMagazyny) {}
+
+void OdczytTowarow::Strona(int od, int doId) {
+  OtworzStrone({&m_towary, &m_kody, &m_wartosci, &m_dostawcy, m_stany ? &*m_stany : nullptr}, od, doId);
+}
 
 const DaneTowaru& OdczytTowarow::Wczytaj(int towId) {
   if (!m_towary.Siegnij(towId)) throw EVLTWDError(2001, nullptr, QString::number(towId));

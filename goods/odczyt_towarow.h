@@ -55,14 +55,15 @@ struct DaneTowaru {
   std::optional<double> stan;                       // nothing when no stock was asked for
 };
 
-// Reads goods by rising identifier: each table once, side by side, so that neither the number of statements
-// nor the memory depends on the number of goods.
+// Reads goods by rising identifier, page by page, the tables side by side.
 class OdczytTowarow {
  public:
   // `stany`: 0 none, 1 of all warehouses together, k from 2: of the warehouse with identifier k - 1.
   OdczytTowarow(TVLTBazaDanych& baza, int stany);
 
-  // Identifiers only rise from call to call. 2001 when the good is gone.
+  // Begins a page: of the goods with these identifiers and those between them.
+  void Strona(int od, int doId);
+  // A good of the page; identifiers only rise from call to call. 2001 when the good is gone.
   const DaneTowaru& Wczytaj(int towId);
   const DaneTowaru& Biezacy() const { return m_towar; }
 

@@ -1,11 +1,17 @@
 #include "run/przebieg_eksportu.h"
 
+#include <algorithm>
+#include <limits>
+
 #include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include "exchange/czytnik.h"
 #include "model/kontekst.h"
+#include "platform/baza/dialekt.h"
 #include "platform/baza/sesja.h"
+#include "platform/baza/transakcja.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -58,42 +64,67 @@ std::optional<Komunikat> PrzebiegEksportu::OtworzPlik() {
 std::optional<KoniecPrzebiegu> PrzebiegEksportu::Przygotuj() {
   const bool faza = !m_opisEksportu.przygotowanie.empty();
   if (faza) Postep().Faza(Tekst(m_opisEksportu.przygotowanie));
-  for (auto odczyt = Parametry().sesja.baza.Otworz(m_opisEksportu.identyfikatory, {TypPola::Calkowite});
-       odczyt.Nastepny();)
-    m_identyfikatory.push_back(static_cast<int>(odczyt[0].AsInteger()));
+  WczytajIdentyfikatory();
   if (faza) Postep().Gotowe();
   return std::nullopt;
 }
 
+// A server's driver keeps a whole result: not all of them with one select.
+void PrzebiegEksportu::WczytajIdentyfikatory() {
+  constexpr int kNaraz = 50'000;
+  TVLTBazaDanych& baza = Parametry().sesja.baza;
+  const std::string& klucz = m_opisEksportu.klucz;
+  const std::string select = baza.Jezyk().Pierwsze(
+      kNaraz, "select " + klucz + " from " + m_opisEksportu.tabela + " where " + klucz + " > :Po order by " + klucz);
+  for (std::size_t bylo = 0;; bylo = m_identyfikatory.size()) {
+    const int po = m_identyfikatory.empty() ? std::numeric_limits<int>::min() : m_identyfikatory.back();
+    for (auto odczyt = baza.Otworz(select, {TypPola::Calkowite}, {{"Po", po}}); odczyt.Nastepny();)
+      m_identyfikatory.push_back(static_cast<int>(odczyt[0].AsInteger()));
+    if (m_identyfikatory.size() < bylo + kNaraz) return;
+  }
+}
+
 KoniecPrzebiegu PrzebiegEksportu::Cialo() {
   Postep().Faza(Tekst(m_opisEksportu.eksport), static_cast<long long>(m_identyfikatory.size()));
-  PrzedRekordami();
-  Naglowek(m_zapis);
-  if (!m_zapis.ZapiszRekord()) return BladZapisu();
-  long long przejrzanych = 0;
   long long zapisanych = 0;
-  DlawikPostepu dlawik;
-  const auto pokazNumer = [&] {
-    Postep().Pozycja(przejrzanych);
-    Postep().DopiszLiczbe(zapisanych);
-  };
-  bool stop = false;
-  for (const int id : m_identyfikatory) {
-    if ((stop = Stop())) break;
-    if (Wczytaj(id)) {
-      if (!ZapiszRekord()) return BladZapisu();
-      ++zapisanych;
-    }
-    ++przejrzanych;
-    if (dlawik.Przepusc()) pokazNumer();
-  }
-  PoRekordach();
-  pokazNumer();
+  const KoniecPrzebiegu koniec = Wypisz(zapisanych);
+  if (koniec == KoniecPrzebiegu::Blad) return BladZapisu();
   Postep().Gotowe();
   // The end of the run is told by what the file took to its last byte.
   if (!m_zapis.Zamknij()) return BladZapisu();
   m_liczniki.Zwieksz(Licznik::Rekordy, zapisanych);
-  return stop ? PrzerwanoPrzezOperatora() : KoniecPrzebiegu::Zakonczono;
+  return koniec == KoniecPrzebiegu::Przerwano ? PrzerwanoPrzezOperatora() : koniec;
+}
+
+KoniecPrzebiegu PrzebiegEksportu::Wypisz(long long& zapisanych) {
+  const OdczytJednejChwili chwila(Parametry().sesja.baza);
+  const auto oddaj = qScopeGuard([this] { PoRekordach(); });
+  PrzedRekordami();
+  Naglowek(m_zapis);
+  if (!m_zapis.ZapiszRekord()) return KoniecPrzebiegu::Blad;
+  DlawikPostepu dlawik;
+  std::size_t przejrzanych = 0;
+  const auto pokazNumer = [&] {
+    Postep().Pozycja(static_cast<long long>(przejrzanych));
+    Postep().DopiszLiczbe(zapisanych);
+  };
+  KoniecPrzebiegu koniec = KoniecPrzebiegu::Zakonczono;
+  for (; przejrzanych < m_identyfikatory.size(); ++przejrzanych) {
+    const int id = m_identyfikatory[przejrzanych];
+    if (przejrzanych % kStrona == 0)
+      Strona(id, m_identyfikatory[std::min(przejrzanych + kStrona, m_identyfikatory.size()) - 1]);
+    if (Stop()) {
+      koniec = KoniecPrzebiegu::Przerwano;
+      break;
+    }
+    if (Wczytaj(id)) {
+      if (!ZapiszRekord()) return KoniecPrzebiegu::Blad;
+      ++zapisanych;
+    }
+    if (dlawik.Przepusc()) pokazNumer();
+  }
+  pokazNumer();
+  return koniec;
 }
 
 bool PrzebiegEksportu::ZapiszRekord() {

@@ -13,15 +13,16 @@
 struct OpisEksportu {
   std::u16string_view przygotowanie;  // phase in which the identifiers are read; empty: none is shown
   std::u16string_view eksport;        // phase of the body
-  std::string_view identyfikatory;    // the select that gives them, rising
+  std::string tabela, klucz;          // where the identifiers are
 };
 
 // The fault's companion in every export: nothing in the database has changed, but the file is not whole.
 inline constexpr std::u16string_view kPlikNiepelny = u"Plik eksportu jest niepełny.";
 
 // A run that writes records of the database to a file, one line each, in the order of their identifiers. The
-// identifiers are read first; a record that is gone when its turn comes ends the run. Whatever the file does
-// not take ends the run as a fault. Counted are the lines of a file that was closed whole.
+// identifiers are read first, then everything else as of one moment, page by page. A record that was gone at
+// that moment ends the run. Whatever the file does not take ends the run as a fault. Counted are the lines of
+// a file that was closed whole.
 class PrzebiegEksportu : public Przebieg {
  public:
   PrzebiegEksportu(const ParametryPrzebiegu& parametry, const OpisPrzebiegu& opis,
@@ -29,17 +30,23 @@ class PrzebiegEksportu : public Przebieg {
       : Przebieg(parametry, opis), m_opisEksportu(opisEksportu) {}
 
  protected:
-  // Just before the first record.
+  // Identifiers of one page: some 20 MB of a server's rows. Smaller ones cost more time, because the driver
+  // keeps every value apart and gets such memory back in pieces.
+  static constexpr std::size_t kStrona = 10'000;
+
+  // Before the first page; what is read from here on is of one moment.
   virtual void PrzedRekordami() = 0;
   // The fields of the header line.
   virtual void Naglowek(ZapisRekordow& zapis) = 0;
+  // The next records are those from one identifier to another.
+  virtual void Strona(int od, int doId) = 0;
   // Reads the next record; false when it is not to be sent.
   virtual bool Wczytaj(int id) = 0;
   // The fields of the record that was read.
   virtual void Rekord(WierszEksportu& pola) = 0;
   // What a person calls it.
   virtual QString NazwaRekordu() const = 0;
-  // Just after the last record: gives back the running selects.
+  // After the last record, also after a fault: gives back the running selects.
   virtual void PoRekordach() = 0;
 
   std::optional<Komunikat> OtworzPlik() override;
@@ -57,6 +64,9 @@ class PrzebiegEksportu : public Przebieg {
     void Dodaj(const QString& rekord);
   };
 
+  void WczytajIdentyfikatory();
+  // Counts what it writes; `Blad` when the file took no more.
+  KoniecPrzebiegu Wypisz(long long& zapisanych);
   // False when the file took no more.
   bool ZapiszRekord();
   KoniecPrzebiegu BladZapisu();

@@ -41,6 +41,11 @@ class Dialekt {
   virtual std::string NazwaBazy() const { return {}; }  // a select
   // Servers: a select of the number that a transaction keeps from its start to its end.
   virtual std::string NumerTransakcji() const { return {}; }
+  // Servers: the statement that makes a transaction just begun read from one moment of the database, that of
+  // its first select, and the one that follows its end where the first outlives it. Embedded databases read
+  // so by themselves.
+  virtual std::string OdczytJednejChwili() const { return {}; }
+  virtual std::string PoOdczycieChwili() const { return {}; }
   // Servers that are worth writing to by many rows at a time: a select of the next automatic keys of a table,
   // one a row. Empty: every row is written alone and its key asked for afterwards.
   virtual std::string NoweKlucze(const std::string& /*tabela*/, const std::string& /*klucz*/,

@@ -33,6 +33,9 @@ class Postgresql final : public Dialekt {
   }
   std::string NazwaBazy() const override { return "select current_database()"; }
   std::string NumerTransakcji() const override { return "select txid_current()"; }
+  std::string OdczytJednejChwili() const override {
+    return "set transaction isolation level repeatable read, read only";
+  }
   // The number is the program's own; other programs know nothing of it. One lock for each set of tables.
   std::string BlokadaImportu() const override {
     return "select count(*) from pg_advisory_xact_lock(57204319,"

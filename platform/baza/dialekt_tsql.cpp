@@ -85,6 +85,14 @@ std::string Tsql::NazwaBazy() const {
 std::string Tsql::NumerTransakcji() const {
   return "select current_transaction_id()";
 }
+// Refused at the first select by a database that does not allow it. Any other level would hold the sale until
+// the end of the read or mix several moments.
+std::string Tsql::OdczytJednejChwili() const {
+  return "set transaction isolation level snapshot";
+}
+std::string Tsql::PoOdczycieChwili() const {
+  return "set transaction isolation level read committed";
+}
 // The driver lets a transaction begin with the first statement that reads a table, and the lock belongs to a
 // transaction: so a table is read before. A lock that was not given is no error of its own.
 std::string Tsql::BlokadaImportu() const {

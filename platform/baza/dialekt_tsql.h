@@ -24,6 +24,8 @@ class Tsql : public Dialekt {
   std::vector<std::string> UstawieniaSesji(int limitBlokadySekund) const override;
   std::string NazwaBazy() const override;
   std::string NumerTransakcji() const override;
+  std::string OdczytJednejChwili() const override;
+  std::string PoOdczycieChwili() const override;
   std::string BlokadaImportu() const override;
   std::string ZBlokadaWierszy(const std::string& select, const std::string& tabela,
                               const std::string& alias) const override;

@@ -142,7 +142,7 @@ const ParametryPolaczenia& TVLTBazaDanych::Parametry() const {
   return m->polaczenie;
 }
 bool TVLTBazaDanych::Polaczona() const {
-  return m->silnik != nullptr;
+  return m->silnik && !m->silnik->Zerwany();
 }
 QString TVLTBazaDanych::Nazwa() const {
   return m->silnik ? m->silnik->NazwaBazy() : QString();
@@ -261,6 +261,14 @@ void TVLTBazaDanych::KoniecTransakcji() {
 
 void TVLTBazaDanych::WycofTransakcji() noexcept {
   m->Wycofaj();
+}
+
+void TVLTBazaDanych::RozpocznijOdczyt() {
+  m->Polaczony().RozpocznijOdczyt();
+}
+
+void TVLTBazaDanych::ZakonczOdczyt() {
+  m->Polaczony().ZakonczOdczyt();
 }
 
 bool TVLTBazaDanych::GetCzyWTransakcji() const {

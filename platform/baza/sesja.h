@@ -58,6 +58,7 @@ class TVLTBazaDanych {
   const ParametryPolaczenia& Parametry() const;
   void Polacz();
   void Odlacz();
+  // False also when the server has ended the connection.
   bool Polaczona() const;
   // The database's name as shown in the window's caption; empty while not connected.
   QString Nazwa() const;
@@ -99,6 +100,9 @@ class TVLTBazaDanych {
   void KoniecTransakcji();
   // Never throws: a rollback is what is done when something already failed.
   void WycofTransakcji() noexcept;
+  // A transaction that only reads; see OdczytJednejChwili for the usual way.
+  void RozpocznijOdczyt();
+  void ZakonczOdczyt();
   // Asked of the database, which may have ended the transaction by itself (a full disk).
   bool GetCzyWTransakcji() const;
   // Savepoints inside an open transaction; see JednostkaZapisu for the usual way.

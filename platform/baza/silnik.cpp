@@ -80,6 +80,10 @@ void Silnik::Steruj(const std::string& sql) {
   if (!sql.empty()) Wykonaj(sql, {}, {})->Zwolnij();
 }
 
+void Silnik::ZakonczOdczyt() {
+  if (WTransakcji()) Wycofaj();
+}
+
 void Silnik::UstawPunkt(int poziom) {
   Steruj(Jezyk().UstawPunkt(poziom));
 }

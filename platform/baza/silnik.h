@@ -48,7 +48,12 @@ class Silnik {
   virtual void Rozpocznij() = 0;
   virtual void Zatwierdz() = 0;
   virtual void Wycofaj() = 0;
+  // A transaction of reads, all from one moment; nobody waits for it, and there is nothing to commit.
+  virtual void RozpocznijOdczyt() = 0;
+  virtual void ZakonczOdczyt();
   virtual bool WTransakcji() const = 0;
+  // The server is gone: only a new connection helps.
+  virtual bool Zerwany() const { return false; }
   void UstawPunkt(int poziom);
   void ZwolnijPunkt(int poziom);
   virtual void WycofDoPunktu(int poziom);

@@ -104,18 +104,19 @@ class SilnikOdbc final : public Silnik {
   QString NazwaBazy() const override { return m_nazwa; }
 
   void Rozpocznij() override {
-    Oglos("begin");
-    Tlumacz("begin", [&] { m_sesja.begin(); });
-    m_bezAutomatu = true;
-    m_stan = Stan::Otwarta;
-    try {
+    Otworz([&] {
       Zapytaj(m_jezyk->BlokadaImportu());
       m_numer = Zapytaj(m_jezyk->NumerTransakcji());
       ++m_znacznik;
-    } catch (const EBladBazy&) {
-      PorzucTransakcje();
-      throw;
-    }
+    });
+  }
+
+  void RozpocznijOdczyt() override {
+    Otworz([&] { Steruj(m_jezyk->OdczytJednejChwili()); });
+  }
+  void ZakonczOdczyt() override {
+    Silnik::ZakonczOdczyt();
+    Steruj(m_jezyk->PoOdczycieChwili());
   }
 
   // The driver would report success for a transaction that the server has given up: so nothing is committed
@@ -138,6 +139,7 @@ class SilnikOdbc final : public Silnik {
   }
 
   bool WTransakcji() const override { return m_stan != Stan::Brak; }
+  bool Zerwany() const override { return m_zerwany; }
 
   void WycofDoPunktu(int poziom) override {
     Silnik::WycofDoPunktu(poziom);
@@ -175,6 +177,7 @@ class SilnikOdbc final : public Silnik {
       const auto zNumeru = m_jezyk ? m_jezyk->RodzajBledu(odbc->native_error_code()) : std::nullopt;
       return {zNumeru.value_or(RodzajStanu(stan)), tresc};
     }
+    m_zerwany = true;
     m_stan = Stan::Brak;  // the server undoes what it had of it
     return {RodzajBleduBazy::Polaczenie, tresc};
   }
@@ -197,6 +200,21 @@ class SilnikOdbc final : public Silnik {
       praca();
     } catch (const soci::soci_error& blad) {
       Rzuc(blad, sql);
+    }
+  }
+
+  // A transaction that cannot be what it is begun for is none.
+  template <typename Praca>
+  void Otworz(Praca praca) {
+    Oglos("begin");
+    Tlumacz("begin", [&] { m_sesja.begin(); });
+    m_bezAutomatu = true;
+    m_stan = Stan::Otwarta;
+    try {
+      praca();
+    } catch (...) {
+      PorzucTransakcje();
+      throw;
     }
   }
 
@@ -244,6 +262,7 @@ class SilnikOdbc final : public Silnik {
   QString m_nazwa;
   Stan m_stan = Stan::Brak;
   bool m_bezAutomatu = false;  // SOCI has switched the automatic commit off
+  bool m_zerwany = false;
   Wartosc m_numer;
   inline static std::atomic<long long> m_znacznik = 0;
 };

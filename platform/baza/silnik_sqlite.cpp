@@ -106,6 +106,7 @@ class SilnikSqlite final : public Silnik {
   void Rozpocznij() override { Wykonaj("begin immediate", {}, {})->Zwolnij(); }
   void Zatwierdz() override { Wykonaj("commit", {}, {})->Zwolnij(); }
   void Wycofaj() override { Wykonaj("rollback", {}, {})->Zwolnij(); }
+  void RozpocznijOdczyt() override { Wykonaj("begin", {}, {})->Zwolnij(); }
   // Asked of the database, which may have ended the transaction by itself (a full disk).
   bool WTransakcji() const override { return sqlite3_get_autocommit(Uchwyt()) == 0; }
 

@@ -33,3 +33,16 @@ void JednostkaZapisu::Zatwierdz() {
     m_baza.ZwolnijPunkt(m_poziom);
   m_otwarta = false;
 }
+
+OdczytJednejChwili::OdczytJednejChwili(TVLTBazaDanych& baza)
+    : m_baza(baza), m_wlasny(!baza.GetCzyWTransakcji()) {
+  if (m_wlasny) m_baza.RozpocznijOdczyt();
+}
+
+// What was read stays read, however the end goes.
+OdczytJednejChwili::~OdczytJednejChwili() {
+  if (m_wlasny) try {
+      m_baza.ZakonczOdczyt();
+    } catch (...) {
+    }
+}

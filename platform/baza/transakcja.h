@@ -19,3 +19,17 @@ class JednostkaZapisu {
   int m_poziom;  // 0: owns the transaction; otherwise depth of the savepoint
   bool m_otwarta = true;
 };
+
+// While it lives, all selects read from one moment of the database, that of the first of them, whatever
+// others write meanwhile; nobody waits for anybody. Inside of a transaction it changes nothing.
+class OdczytJednejChwili {
+ public:
+  explicit OdczytJednejChwili(TVLTBazaDanych& baza);
+  ~OdczytJednejChwili();
+  OdczytJednejChwili(const OdczytJednejChwili&) = delete;
+  OdczytJednejChwili& operator=(const OdczytJednejChwili&) = delete;
+
+ private:
+  TVLTBazaDanych& m_baza;
+  const bool m_wlasny;
+};

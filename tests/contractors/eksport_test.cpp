@@ -183,6 +183,23 @@ TEST_F(EksportKontrahentowTest, BladNigdyNieKonczySieZakonczeniem) {
   EXPECT_EQ(LinieEksportu(Plik()).size(), 2u);
 }
 
+TEST_F(EksportKontrahentowTest, CalyZJednejChwili) {
+  Ustaw("odpsSTNZU");
+  b.baza.ExecSQL(
+      "with recursive c(n) as (select 7 union all select n + 1 from c where n < 13000) insert into Kontrahent"
+      " (Nazwa, Dostawca) select n, 1 from c");
+  b.baza.ExecSQL("insert into Osoba select KontrId, 'Żak' from Kontrahent where KontrId > 6");
+  SprawdzJednaChwile(b, postep, stop, "select KontrId, AkwId",
+                     {"update Kontrahent set Miasto = 'Łódź'", "delete from Osoba where KontrId > 11000",
+                      "delete from Kontrahent where KontrId = 12000",
+                      "insert into Kontrahent (Nazwa, Dostawca) values ('Nowy', 1)"},
+                     Plik(), [&] { return Eksportuj(); });
+  const auto linie = LinieEksportu(Plik());
+  EXPECT_EQ(linie.back()[0], u"Nowy"_s);
+  EXPECT_EQ(linie.back()[34], u""_s);
+  EXPECT_EQ(linie[1000][5], u"Łódź"_s);
+}
+
 TEST_F(EksportKontrahentowTest, ZatrzymujeSieMiedzyKontrahentami) {
   b.baza.UstawPodsluch(
       [&](std::string_view sql) { stop = stop || sql.starts_with("select KontrId, AkwId"); });

@@ -237,10 +237,31 @@ TEST_F(EksportTest, BladNigdyNieKonczySieZakonczeniem) {
   }
   SprawdzAwariePolecen(b, postep, [&] { return Eksportuj(); });
   // A good that goes after the identifiers were read ends the run; what was written before it stays.
-  WykonajPrzed(b, "select TowId, Kod, Nazwa",
-               {"delete from Istw where TowId = 2", "delete from Towar where TowId = 2"});
+  WykonajPrzed(b, "select AsId", {"delete from Istw where TowId = 2", "delete from Towar where TowId = 2"});
   SprawdzNiepelny(Eksportuj(), postep, u"Brak obiektu w bazie danych"_s);
   EXPECT_EQ(Linie().size(), 2u);
+}
+
+TEST_F(EksportTest, CalyZJednejChwili) {
+  eksport.CBEksportStanow = 1;
+  b.baza.ExecSQL(
+      "with recursive c(n) as (select 4 union all select n + 1 from c where n < 13000)"
+      " insert into Towar (Nazwa, Skrot, Kod, AsId) select 'Żuk', n, n, 1 from c");
+  b.baza.ExecSQL(
+      "insert into KodDod (TowId, Kolejnosc, Kod, Skrot) select TowId, 1, 'd' || Kod, '' from Towar"
+      " where TowId > 3");
+  SprawdzJednaChwile(b, postep, stop, "select TowId, Kod, Nazwa",
+                     {"update Towar set Nazwa = 'Bąk' where TowId > 3", "update Istw set StanMag = 5",
+                      "update KodDod set Skrot = 'x'", "delete from KodDod where TowId in (12000, 12001)",
+                      "delete from Istw where TowId = 12001", "delete from Towar where TowId = 12001",
+                      "insert into Towar (Nazwa, Skrot, Kod) values ('Nowy', 'N', 'N')"},
+                     Plik(), [&] { return Eksportuj(); });
+  const auto linie = Linie();
+  ASSERT_EQ(linie.size(), 13'001u);
+  EXPECT_EQ(linie[12'000][1], u"Bąk"_s);
+  EXPECT_EQ(linie[12'001][0], u"12002"_s);
+  EXPECT_EQ(linie[12'001][26], u"(d12002|x|0)"_s);
+  EXPECT_EQ(linie[13'000][0], u"N"_s);
 }
 
 TEST_F(EksportTest, ZatrzymujeSieMiedzyTowarami) {

@@ -30,6 +30,8 @@ save transaction p1;
 
 rollback transaction p1;
 
+set transaction isolation level snapshot;
+
 -- ==== Nowa baza z danymi pokazowymi ====
 
 select table_name
@@ -1116,8 +1118,9 @@ update KasTow
 
 -- ==== Eksport kontrahentów ====
 
-select KontrId
+select top 50000 KontrId
   from Kontrahent
+  where KontrId > :Po
   order by KontrId;
 
 select KontrId, AkwId, Nazwa, NaPrzelewie1, NaPrzelewie2, Skrot, Ulica, Kod, Miasto, Telefon, Fax,
@@ -1126,41 +1129,30 @@ select KontrId, AkwId, Nazwa, NaPrzelewie1, NaPrzelewie2, Skrot, Ulica, Kod, Mia
     KartaAktywna, TermWaznKarty, PoziomRabatu, NrAnalityki, KodKontr, ZakPracChron, Aktywny,
     Rezerwa1, Rezerwa2
   from Kontrahent
+  where KontrId between :Od
+  and :Do
   order by KontrId;
 
 select SklepId
   from Sklep
+  where SklepId between :Od
+  and :Do
   order by SklepId;
 
 select KontrId, Nazwisko
   from Osoba
+  where KontrId between :Od
+  and :Do
   order by KontrId, substring(%%physloc%%, 4, 1) + substring(%%physloc%%, 3, 1) +
     substring(%%physloc%%, 2, 1) + substring(%%physloc%%, 1, 1) + substring(%%physloc%%, 8, 1) +
     substring(%%physloc%%, 7, 1);
 
 -- ==== Eksport towarów ====
 
-select TowId
+select top 50000 TowId
   from Towar
+  where TowId > :Po
   order by TowId;
-
-select TowId, Kod, Nazwa, Skrot, TypTowaru, Indeks1, Indeks2, Opis1, Opis2, Opis3, Opis4,
-    IleWZgrzewce, IleWCalosci, TermWazn, PrefPLU, Marza, HurtRabat, NocNarzut, CenaEw, CenaDet,
-    CenaHurt, CenaNoc, CenaDod, CenaOtwarta, Stawka, AsId, JMId, KatId, Producent, Aktywny
-  from Towar
-  order by TowId;
-
-select TowId, Kod, Skrot, PrefPLU
-  from KodDod
-  order by TowId, Kolejnosc;
-
-select TowId, ParId, Wartosc
-  from TowWartosc
-  order by TowId, ParId;
-
-select TowId, KontrId
-  from TowDostawca
-  order by TowId, Kolejnosc;
 
 select AsId, Nazwa
   from Asort;
@@ -1181,13 +1173,43 @@ select K.KatId, P.ParId, P.Nazwa, P.Typ, P.Od, P.Do
   where K.ParId = P.ParId
   order by K.KatId, K.Kolejnosc, K.ParId;
 
+select TowId, Kod, Nazwa, Skrot, TypTowaru, Indeks1, Indeks2, Opis1, Opis2, Opis3, Opis4,
+    IleWZgrzewce, IleWCalosci, TermWazn, PrefPLU, Marza, HurtRabat, NocNarzut, CenaEw, CenaDet,
+    CenaHurt, CenaNoc, CenaDod, CenaOtwarta, Stawka, AsId, JMId, KatId, Producent, Aktywny
+  from Towar
+  where TowId between :Od
+  and :Do
+  order by TowId;
+
+select TowId, Kod, Skrot, PrefPLU
+  from KodDod
+  where TowId between :Od
+  and :Do
+  order by TowId, Kolejnosc;
+
+select TowId, ParId, Wartosc
+  from TowWartosc
+  where TowId between :Od
+  and :Do
+  order by TowId, ParId;
+
+select TowId, KontrId
+  from TowDostawca
+  where TowId between :Od
+  and :Do
+  order by TowId, Kolejnosc;
+
 select TowId, StanMag
   from Istw
+  where TowId between :Od
+  and :Do
   order by TowId, MagId;
 
 select TowId, StanMag
   from Istw
-  where MagId = :MagId
+  where TowId between :Od
+  and :Do
+  and MagId = :MagId
   order by TowId;
 
 -- ==== Formularze ====

@@ -91,7 +91,8 @@ struct Praca {
     const Dialekt& d = serwer;
     for (const std::string& sql : d.UstawieniaSesji(15)) serwer.Zapisz(sql);
     for (const std::string& sql : {std::string(Tsql::ProbaOuterJoin()), d.NazwaBazy(), d.BlokadaImportu(),
-                                   d.NumerTransakcji(), d.UstawPunkt(1), d.WycofDoPunktu(1)})
+                                   d.NumerTransakcji(), d.UstawPunkt(1), d.WycofDoPunktu(1),
+                                   d.OdczytJednejChwili(), d.PoOdczycieChwili()})
       serwer.Zapisz(sql);
   }
 

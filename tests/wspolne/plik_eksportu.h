@@ -34,30 +34,66 @@ inline void SprawdzNiepelny(const WynikPrzebiegu& wynik, const PostepTestowy& po
   EXPECT_TRUE(pokazane.contains(QStringLiteral("Plik eksportu jest niepełny."))) << pokazane.toStdString();
 }
 
-// Each statement of an export fails in turn.
+// Each statement of an export fails in turn, but for those at its end: they end the read and move the log.
 template <typename Eksportuj>
 void SprawdzAwariePolecen(BazaTestowa& b, const PostepTestowy& postep, Eksportuj eksportuj) {
-  int polecen = 0;
-  b.baza.UstawPodsluch([&](std::string_view) { ++polecen; });
+  int polecen = 0, czytajacych = 0;
+  b.baza.UstawPodsluch([&](std::string_view sql) {
+    ++polecen;
+    if (sql.starts_with("select")) czytajacych = polecen;
+  });
   eksportuj();
-  EXPECT_GT(polecen, 3);
-  for (int ktore = 1; ktore < polecen; ++ktore) {  // the last one moves the log
+  EXPECT_GT(czytajacych, 3);
+  for (int ktore = 1; ktore <= czytajacych; ++ktore) {
     SCOPED_TRACE(ktore);
     int numer = 0;
     b.baza.UstawPodsluch([&](std::string_view) {
       if (++numer == ktore) throw EBladBazy(RodzajBleduBazy::Inny, QStringLiteral("Błąd próbny"), {});
     });
     SprawdzNiepelny(eksportuj(), postep, QStringLiteral("Błąd próbny"));
+    EXPECT_FALSE(b.baza.GetCzyWTransakcji());
   }
   b.baza.UstawPodsluch({});
 }
 
-// Just before a statement with this beginning another connection does its work.
-inline void WykonajPrzed(BazaTestowa& b, std::string_view poczatek, std::vector<std::string> prace) {
-  b.baza.UstawPodsluch([&b, poczatek, prace = std::move(prace)](std::string_view sql) {
-    if (!sql.starts_with(poczatek)) return;
+// Just before the first statement with this beginning, or a later one, another connection does its work.
+inline void WykonajPrzed(BazaTestowa& b, std::string_view poczatek, std::vector<std::string> prace,
+                         int ktorym = 1) {
+  b.baza.UstawPodsluch([&b, poczatek, prace = std::move(prace), ktorym](std::string_view sql) mutable {
+    if (!sql.starts_with(poczatek) || --ktorym != 0) return;
     TVLTBazaDanych inna;
     b.Polacz(inna);
     for (const std::string& praca : prace) inna.ExecSQL(praca);
   });
+}
+
+// An export of several pages: what others write while it reads, it does not see; stopped or cut off in the
+// middle, it leaves the session ready for the next one. `strona` begins the select of a page.
+template <typename Eksportuj>
+void SprawdzJednaChwile(BazaTestowa& b, const PostepTestowy& postep, std::atomic<bool>& stop,
+                        std::string_view strona, std::vector<std::string> prace, const QString& plik,
+                        Eksportuj eksportuj) {
+  eksportuj();
+  const QByteArray przed = Zawartosc(plik);
+  WykonajPrzed(b, strona, std::move(prace), 2);
+  EXPECT_EQ(eksportuj().koniec, KoniecPrzebiegu::Zakonczono);
+  EXPECT_TRUE(Zawartosc(plik) == przed);
+
+  b.baza.UstawPodsluch([&, stron = 0](std::string_view sql) mutable {
+    stop = stop || (sql.starts_with(strona) && ++stron == 2);
+  });
+  EXPECT_EQ(eksportuj().koniec, KoniecPrzebiegu::Przerwano);
+  EXPECT_GT(LinieEksportu(plik).size(), 1u);
+  EXPECT_FALSE(b.baza.GetCzyWTransakcji());
+  stop = false;
+  if (NaSerwerze()) {
+    WykonajPrzed(b, strona,
+                 {"select pg_terminate_backend(" + std::to_string(b.Liczba("select pg_backend_pid()")) + ")"},
+                 2);
+    SprawdzNiepelny(eksportuj(), postep, QStringLiteral("Brak połączenia z bazą"));
+    EXPECT_FALSE(b.baza.Polaczona());
+  }
+  b.baza.UstawPodsluch({});
+  EXPECT_EQ(eksportuj().koniec, KoniecPrzebiegu::Zakonczono);
+  EXPECT_FALSE(Zawartosc(plik) == przed);
 }
