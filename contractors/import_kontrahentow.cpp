@@ -7,6 +7,7 @@
 #include "contractors/rekord_kontrahenta.h"
 #include "model/bufor_nip.h"
 #include "model/kontekst.h"
+#include "model/numery_sklepow.h"
 #include "run/przebieg_importu.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -38,10 +39,13 @@ class PrzebiegImportuKontrahentow final : public PrzebiegImportu {
   }
 
   void PrzedRekordami() override {
-    m_paczka.PoOtwarciu = [this](bool) { m_bufor.Odswiez(Parametry().sesja.baza); };
+    m_paczka.PoOtwarciu = [this](bool) {
+      m_bufor.Odswiez(Parametry().sesja.baza);
+      m_numerySklepow.Zapomnij();
+    };
     m_kontekst.emplace(KontekstImportuKontrahentow{Parametry().sesja, m_opcje, Parametry().struktura, Plik(),
-                                                   Parametry().separatorDziesietny, m_bufor, m_raport,
-                                                   m_liczniki});
+                                                   Parametry().separatorDziesietny, m_bufor, m_numerySklepow,
+                                                   m_raport, m_liczniki});
     m_rekord.emplace(*m_kontekst);
   }
 
@@ -55,6 +59,7 @@ class PrzebiegImportuKontrahentow final : public PrzebiegImportu {
  private:
   const OpcjeImportuKontrahentow& m_opcje;
   TVLTBuforNip m_bufor;
+  NumerySklepow m_numerySklepow;
   std::optional<KontekstImportuKontrahentow> m_kontekst;
   std::optional<RekordKontrahenta> m_rekord;
 };

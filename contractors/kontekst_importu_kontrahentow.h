@@ -5,6 +5,7 @@
 #include "exchange/struktura_pliku.h"
 
 class Liczniki;
+class NumerySklepow;
 class RaportProblemow;
 class TVLTBuforNip;
 struct KontekstSesji;
@@ -21,6 +22,7 @@ struct KontekstImportuKontrahentow {
   char separator;  // the system's decimal mark
 
   TVLTBuforNip& bufor;
+  NumerySklepow& numerySklepow;
   RaportProblemow& raport;
   Liczniki& liczniki;
 

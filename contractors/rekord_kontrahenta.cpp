@@ -12,7 +12,9 @@
 using namespace Qt::Literals::StringLiterals;
 
 RekordKontrahenta::RekordKontrahenta(KontekstImportuKontrahentow& import)
-    : m_import(import), m_kontrahent(import.sesja) {}
+    : m_import(import), m_kontrahent(import.sesja) {
+  m_kontrahent.WspolneNumerySklepow(import.numerySklepow);
+}
 
 void RekordKontrahenta::Przetworz(const RekordPliku& rekord) {
   const LiniaRekordu linia = rekord.Linia();

@@ -8,6 +8,8 @@
 #include "model/element.h"
 #include "model/kolumny.h"
 
+class NumerySklepow;
+
 // Columns of the contractor's row in the order in which the select returns them: those of table Kontrahent,
 // then those of its row in table Sklep, all null for a contractor that is no shop. Kinds: model/kolumny.h.
 #define ZORVIK_POLA_KONTRAHENTA(POLE) \
@@ -84,7 +86,9 @@ class TDmVLTKontrahent final : public TDmVLTElement {
   using Kolumna = KolumnaKontrahenta;
   ZORVIK_POLA_KONTRAHENTA(ZORVIK_DOSTEP)
 
-  // A shop without a number gets the highest number of all shops + 1 when it is saved.
+  // A shop without a number gets the highest number of all shops + 1 when it is saved: asked of the database
+  // or, of the saves of one batch, of what they share, which outlives the record.
+  void WspolneNumerySklepow(NumerySklepow& numery) { m_numery = &numery; }
   bool Sklep() const;
   void UstawSklep(bool sklep);
 
@@ -121,6 +125,7 @@ class TDmVLTKontrahent final : public TDmVLTElement {
 
   bool BylSklepem() const;
   void Sprawdz();
+  long long NajwyzszyNumerSklepu();
   std::vector<Parametr>& ParametryZapisu();
   void ZapiszOsoby(int id) const;
   void ZapiszSklep(int id);
@@ -131,6 +136,7 @@ class TDmVLTKontrahent final : public TDmVLTElement {
   std::vector<QString> m_osoby;
   std::vector<QString> m_osobyZBazy;
   std::vector<Parametr> m_parametry;  // kept for the next save
+  NumerySklepow* m_numery = nullptr;
   // Of the save in hand: the number under which it stores the shop, and whether it made the shop's row.
   long long m_nrSklepu = 0;
   bool m_nowySklep = false;

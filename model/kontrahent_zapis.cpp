@@ -3,6 +3,7 @@
 #include "model/bledy.h"
 #include "model/kontekst.h"
 #include "model/kontrahent.h"
+#include "model/numery_sklepow.h"
 #include "model/tabele_dziennika.h"
 #include "model/zakresy.h"
 #include "platform/baza/sesja.h"
@@ -126,6 +127,7 @@ void TDmVLTKontrahent::UpdateRecord(int id) {
   Context.baza.ExecSQL("delete from Osoba where KontrId = :KontrId", {{"KontrId", id}});
   ZapiszOsoby(id);
   ZapiszSklep(id);
+  if (m_numery && (Sklep() || BylSklepem())) m_numery->Zapomnij();
   Context.baza.RejestrujZmiane(kDziennikKontrahent, OpisZmian(), id, -1);
 }
 
@@ -138,6 +140,7 @@ void TDmVLTKontrahent::AfterSave() {
   } else {
     Query.Field(K::SklepId).SetInteger(Id());
     Query.Field(K::NrSklepu).SetInteger(m_nrSklepu);
+    if (m_numery) m_numery->Dodaj(m_nrSklepu);
     if (m_nowySklep) {
       Query.Field(K::WymImport).Clear();
       Query.Field(K::PelnyImport).SetInteger(1);
@@ -162,9 +165,16 @@ void TDmVLTKontrahent::Sprawdz() {
           QStringLiteral("[") + inny[0].AsString() + QStringLiteral("]: ") + inny[1].AsString());
     return;
   }
-  auto najwyzszy = Context.baza.Otworz("select max(NrSklepu) from Sklep", {TypPola::Calkowite});
-  m_nrSklepu = (najwyzszy.Nastepny() ? najwyzszy[0].AsInteger() : 0) + 1;
+  m_nrSklepu = NajwyzszyNumerSklepu() + 1;
   if (!LiczbaWZakresie(m_nrSklepu)) throw EVLTWDError(2006);
+}
+
+long long TDmVLTKontrahent::NajwyzszyNumerSklepu() {
+  if (m_numery && m_numery->Najwyzszy()) return *m_numery->Najwyzszy();
+  auto odczyt = Context.baza.Otworz("select max(NrSklepu) from Sklep", {TypPola::Calkowite});
+  const long long najwyzszy = odczyt.Nastepny() ? odczyt[0].AsInteger() : 0;
+  if (m_numery) m_numery->Przyjmij(najwyzszy);
+  return najwyzszy;
 }
 
 std::vector<Parametr>& TDmVLTKontrahent::ParametryZapisu() {
@@ -209,7 +219,7 @@ void TDmVLTKontrahent::ZapiszSklep(int id) {
 
 void TDmVLTKontrahent::WstawSklep(int id) {
   m_nowySklep = true;
-  Context.baza.ExecSQL(kInsertSklep, {{"SklepId", id}, {"NrSklepu", m_nrSklepu}, {"NrSeryjny", NrSeryjny()}});
+  Context.baza.Wstaw(kInsertSklep, {{"SklepId", id}, {"NrSklepu", m_nrSklepu}, {"NrSeryjny", NrSeryjny()}});
   if (MagId() >= 0)
     Context.baza.ExecSQL("update Sklep set MagId = :MagId where SklepId = :SklepId",
                          {{"MagId", MagId()}, {"SklepId", id}});

@@ -6,6 +6,7 @@
 #include "model/bledy.h"
 #include "model/kontekst.h"
 #include "model/lista_kontrahentow.h"
+#include "model/numery_sklepow.h"
 #include "model/parametry_systemu.h"
 #include "tests/wspolne/baza_testowa.h"
 
@@ -147,6 +148,43 @@ TEST_F(Kontrahenci, OsobyWKolejnosciIBezPowtorzen) {
   kontrahent->Zapisz();
   EXPECT_EQ(b.Liczba("select count(*) from Osoba"), 0);
   EXPECT_EQ(Nowy(u"B"_s)->IloscOsob(), 0);
+}
+
+// What the saves of a batch share never differs from what the database would say.
+TEST_F(Kontrahenci, WspolneNumerySklepowWPaczce) {
+  NumerySklepow numery;
+  const auto zapisz = [&](int numer, const QString& nazwa = u"A"_s) {
+    auto kontrahent = Nowy(nazwa, true);
+    kontrahent->WspolneNumerySklepow(numery);
+    if (numer > 0) kontrahent->UstawNrSklepu(numer);
+    if (KodBledu([&] { kontrahent->Zapisz(); }) != 0) return kontrahent;
+    EXPECT_EQ(kontrahent->NrSklepu(), b.Liczba("select NrSklepu from Sklep order by SklepId desc"));
+    return kontrahent;
+  };
+  b.baza.GrupujZapisy(true);
+  b.baza.StartTransakcji();
+  EXPECT_EQ(zapisz(0)->NrSklepu(), 1);
+  zapisz(0, u" "_s);  // refused
+  EXPECT_EQ(zapisz(0)->NrSklepu(), 2);
+  const auto dziewiaty = zapisz(9);
+  EXPECT_EQ(zapisz(0)->NrSklepu(), 10);
+  zapisz(5);
+  const auto ostatni = zapisz(0);
+  EXPECT_EQ(ostatni->NrSklepu(), 11);
+  int zapytan = 0;
+  b.baza.UstawPodsluch([&](std::string_view sql) { zapytan += sql.starts_with("select max"); });
+  for (const int numer : {12, 13}) EXPECT_EQ(zapisz(0)->NrSklepu(), numer);
+  EXPECT_EQ(zapytan, 0);
+  dziewiaty->UstawNrSklepu(20);
+  dziewiaty->Zapisz();
+  const auto nowy = zapisz(0);
+  EXPECT_EQ(nowy->NrSklepu(), 21);
+  for (const auto& byly : {dziewiaty.get(), nowy.get()}) {
+    byly->UstawSklep(false);
+    byly->Zapisz();
+  }
+  EXPECT_EQ(zapisz(0)->NrSklepu(), 14);
+  b.baza.KoniecTransakcji();
 }
 
 TEST_F(Kontrahenci, WierszSklepuPowstajeZmieniaSieIZnika) {
