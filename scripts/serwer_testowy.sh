@@ -14,6 +14,12 @@ zatrzymaj_serwer_testowy() {
   SERWER_FOLDER=
 }
 
+# Jak administrator: zrywa połączenia i uruchamia serwer znowu, w tym samym miejscu.
+wznow_serwer_testowy() {
+  jako_serwer "$SERWER_PROGRAMY/pg_ctl" -D "$SERWER_FOLDER/dane" -l "$SERWER_FOLDER/dane/dziennik" -m fast -w \
+    restart > /dev/null 2>&1
+}
+
 # uruchom_serwer_testowy [ustawienia serwera nazwa=wartość...]
 uruchom_serwer_testowy() {
   SERWER_PROGRAMY=$(find /usr/lib/postgresql -maxdepth 2 -name bin | sort -V | tail -1)

@@ -86,6 +86,7 @@ class SilnikOdbc final : public Silnik {
   }
 
   void Skonfiguruj(const ParametryPolaczenia& parametry) {
+    if (m_jezyk == &DialektPostgresql()) WymagajNarzuconych();
     for (const std::string& sql : m_jezyk->UstawieniaSesji(parametry.limitBlokadySekund)) Steruj(sql);
     m_nazwa = Zapytaj(m_jezyk->NazwaBazy(), TypPola::Tekst).AsString();
   }
@@ -234,7 +235,7 @@ class SilnikOdbc final : public Silnik {
 
   const Dialekt* WybierzJezyk() {
     using Sesja = soci::odbc_session_backend;
-    switch (static_cast<Sesja*>(m_sesja.get_backend())->get_database_product()) {
+    switch (Sterownik().get_database_product()) {
       case Sesja::prod_postgresql:
         return &DialektPostgresql();
       case Sesja::prod_mssql: {
@@ -248,7 +249,28 @@ class SilnikOdbc final : public Silnik {
     }
   }
 
-  SQLHDBC Uchwyt() { return static_cast<soci::odbc_session_backend*>(m_sesja.get_backend())->hdbc_; }
+  // The driver tells which settings are in force, the first of them even where its answer is too long to be
+  // whole. One that does not tell is another one, of which nobody knows what it keeps of a transaction.
+  void WymagajNarzuconych() {
+    const std::string odpowiedz = Sterownik().get_connection_string();
+    const auto wMocy = RozbierzNapisOdbc(QString::fromUtf8(odpowiedz.c_str()));
+    const auto narzucone = RozbierzNapisOdbc(QLatin1String(kNarzucone));
+    for (const AtrybutOdbc& nasz : narzucone) {
+      const auto jest = std::find_if(wMocy.begin(), wMocy.end(), [&](const AtrybutOdbc& a) {
+        return a.klucz.compare(nasz.klucz, Qt::CaseInsensitive) == 0;
+      });
+      const bool konieczny = &nasz == &narzucone.front();
+      if (jest == wMocy.end() ? konieczny : jest->wartosc != nasz.wartosc)
+        throw EBladBazy(
+            RodzajBleduBazy::Sterownik,
+            QStringLiteral("Sterownik nie przyjął ustawienia %1=%2").arg(nasz.klucz, nasz.wartosc), {});
+    }
+  }
+
+  soci::odbc_session_backend& Sterownik() {
+    return *static_cast<soci::odbc_session_backend*>(m_sesja.get_backend());
+  }
+  SQLHDBC Uchwyt() { return Sterownik().hdbc_; }
 
   bool Zerwane() {
     SQLUINTEGER zerwane = SQL_CD_FALSE;

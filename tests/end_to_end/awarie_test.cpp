@@ -10,6 +10,7 @@
 
 #include "tests/end_to_end/pliki_kontrahentow.h"
 #include "tests/end_to_end/pliki_towarow.h"
+#include "tests/end_to_end/wlasny_serwer.h"
 
 namespace {
 
@@ -46,7 +47,7 @@ const Rodzaj kRodzaje[] = {
      kDodajIPopraw,
      DuzyPlikKontrahentow,
      30000,
-     5000,
+     20000,
      "select cast(count(*) as text) from Kontrahent",
      {// Every contractor has two persons, a shop and a line of the change log; numbers are there once.
       "select cast(count(*) as text) from Kontrahent k where"
@@ -148,6 +149,22 @@ TEST_P(Awarie, DwaImportyNaRaz) {
   EXPECT_EQ(a.Liczba(u"dodanych"_s) + b.Liczba(u"dodanych"_s), ile);
   EXPECT_EQ(Zapisanych(), ile);
   SprawdzCalosc();
+}
+
+class RestartSerwera : protected WlasnySerwer, public Awarie {};
+
+INSTANTIATE_TEST_SUITE_P(Importy, RestartSerwera, testing::ValuesIn(kRodzaje),
+                         [](const auto& rodzaj) { return std::string(rodzaj.param.nazwa); });
+
+TEST_P(RestartSerwera, MowiCoZapisano) {
+  if (!NaSerwerze()) GTEST_SKIP() << "of servers only";
+  ZapiszPlik();
+  const auto proces = s.Zacznij(Slowa());
+  PoczekajNaZapisane(*proces, 1);
+  Wznow();
+  SprawdzKoniecZBledem(Stanowisko::Zakoncz(*proces), u"Brak połączenia z bazą"_s);
+  EXPECT_GT(Zapisanych(), 0);
+  Dokoncz();
 }
 
 void TylkoDoOdczytu() {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/baza/dialekt.h"
+#include "platform/baza/napis_odbc.h"
 #include "platform/baza/transakcja.h"
 #include "tests/wspolne/baza_testowa.h"
 
@@ -100,14 +101,38 @@ TEST_F(Serwer, TekstyWracajaCaleAlboWcale) {
   EXPECT_EQ(Nazwy(), u"B,a,z,ł"_s);
 }
 
-// Whatever the operator's text asks of the driver.
+// The database of the test as data sources that ask the driver for what loses data.
+void ZapiszZrodla(const QString& plik, const QString& napis) {
+  constexpr std::pair<const char*, const char*> kNazwy[] = {
+      {"Server", "Servername"}, {"UID", "Username"}, {"PWD", "Password"}};
+  QString polaczenie;
+  for (AtrybutOdbc a : RozbierzNapisOdbc(napis)) {
+    for (const auto& [wNapisie, wPliku] : kNazwy)
+      if (a.klucz == QLatin1String(wNapisie)) a.klucz = QLatin1String(wPliku);
+    polaczenie += a.klucz + u" = "_s + a.wartosc + u'\n';
+  }
+  QFile zrodla(plik);
+  ASSERT_TRUE(zrodla.open(QIODevice::WriteOnly));
+  for (const QString& protokol : {u"7.4-1"_s, u"7.4-2"_s})
+    zrodla.write((u"[zle%1]\n%2Protocol = %1\nUseServerSidePrepare = 0\nUseDeclareFetch = 1\nLFConversion = "
+                  "1\nCX = 1c20502bb\nConnSettings = set datestyle to german\n"_s.arg(protokol, polaczenie))
+                     .toUtf8());
+  qputenv("ODBCINI", plik.toUtf8());
+}
+
+// Whatever the operator's text or data source asks of the driver.
 TEST_F(Serwer, OdrzuconyRekordNieZabieraSasiadow) {
-  for (const QString& dopisek :
-       {u""_s, u";Protocol=7.4-1;A1=7.4-1"_s, u";UseServerSidePrepare=0;LFConversion=1"_s}) {
-    SCOPED_TRACE(dopisek.toStdString());
+  const QTemporaryDir folder;
+  const QString napis = b().Parametry().cel;
+  ZapiszZrodla(folder.filePath(u"odbc.ini"_s), napis);
+  for (const QString& cel :
+       {napis, napis + u";Protocol=7.4-1;A1=7.4-1"_s, napis + u";UseServerSidePrepare=0;LFConversion=1"_s,
+        napis + u";CX=1c20502bb;A1=7.4-2"_s, u"zle7.4-1"_s, u"zle7.4-2"_s, u"DSN=zle7.4-2"_s,
+        u"DSN=zle7.4-1;CX=1c20502bb;protocol=7.4-2;usedeclarefetch=1"_s}) {
+    SCOPED_TRACE(cel.section(u"PWD="_s, 1).section(u';', 1).toStdString() + cel.left(20).toStdString());
     b().baza.ExecSQL("delete from T");
     ParametryPolaczenia parametry = b().Parametry();
-    parametry.cel += dopisek;
+    parametry.cel = cel;
     TVLTBazaDanych baza(parametry);
     baza.Polacz();
     baza.StartTransakcji();
