@@ -1129,20 +1129,17 @@ select KontrId, AkwId, Nazwa, NaPrzelewie1, NaPrzelewie2, Skrot, Ulica, Kod, Mia
     KartaAktywna, TermWaznKarty, PoziomRabatu, NrAnalityki, KodKontr, ZakPracChron, Aktywny,
     Rezerwa1, Rezerwa2
   from Kontrahent
-  where KontrId between :Od
-  and :Do
+  where KontrId between :Od and :Do
   order by KontrId;
 
 select SklepId
   from Sklep
-  where SklepId between :Od
-  and :Do
+  where SklepId between :Od and :Do
   order by SklepId;
 
 select KontrId, Nazwisko
   from Osoba
-  where KontrId between :Od
-  and :Do
+  where KontrId between :Od and :Do
   order by KontrId, substring(%%physloc%%, 4, 1) + substring(%%physloc%%, 3, 1) +
     substring(%%physloc%%, 2, 1) + substring(%%physloc%%, 1, 1) + substring(%%physloc%%, 8, 1) +
     substring(%%physloc%%, 7, 1);
@@ -1177,38 +1174,32 @@ select TowId, Kod, Nazwa, Skrot, TypTowaru, Indeks1, Indeks2, Opis1, Opis2, Opis
     IleWZgrzewce, IleWCalosci, TermWazn, PrefPLU, Marza, HurtRabat, NocNarzut, CenaEw, CenaDet,
     CenaHurt, CenaNoc, CenaDod, CenaOtwarta, Stawka, AsId, JMId, KatId, Producent, Aktywny
   from Towar
-  where TowId between :Od
-  and :Do
+  where TowId between :Od and :Do
   order by TowId;
 
 select TowId, Kod, Skrot, PrefPLU
   from KodDod
-  where TowId between :Od
-  and :Do
+  where TowId between :Od and :Do
   order by TowId, Kolejnosc;
 
 select TowId, ParId, Wartosc
   from TowWartosc
-  where TowId between :Od
-  and :Do
+  where TowId between :Od and :Do
   order by TowId, ParId;
 
 select TowId, KontrId
   from TowDostawca
-  where TowId between :Od
-  and :Do
+  where TowId between :Od and :Do
   order by TowId, Kolejnosc;
 
 select TowId, StanMag
   from Istw
-  where TowId between :Od
-  and :Do
+  where TowId between :Od and :Do
   order by TowId, MagId;
 
 select TowId, StanMag
   from Istw
-  where TowId between :Od
-  and :Do
+  where TowId between :Od and :Do
   and MagId = :MagId
   order by TowId;
 

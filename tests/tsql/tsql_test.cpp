@@ -90,9 +90,9 @@ struct Praca {
   void Polaczenie() {
     const Dialekt& d = serwer;
     for (const std::string& sql : d.UstawieniaSesji(15)) serwer.Zapisz(sql);
-    for (const std::string& sql : {std::string(Tsql::ProbaOuterJoin()), d.NazwaBazy(), d.BlokadaImportu(),
-                                   d.NumerTransakcji(), d.UstawPunkt(1), d.WycofDoPunktu(1),
-                                   d.OdczytJednejChwili(), d.PoOdczycieChwili()})
+    for (const std::string& sql :
+         {std::string(Tsql::ProbaOuterJoin()), d.NazwaBazy(), d.BlokadaImportu(), d.NumerTransakcji(),
+          d.UstawPunkt(1), d.WycofDoPunktu(1), d.OdczytJednejChwili(), d.PoOdczycieChwili()})
       serwer.Zapisz(sql);
   }
 

@@ -63,6 +63,7 @@ std::string NaSqlite(const std::string& tsql) {
 // identifiers, all alike, are shortened.
 QString WLiniach(const std::string& sql) {
   static const QRegularExpression kIdentyfikatory(u":Id1, .*?(?=:Id99)"_s);
+  static const QRegularExpression kZakres(u"between (\\S+) and "_s);
   static const QStringList kPolecenia{u"select"_s, u"insert"_s, u"exec"_s, u"if"_s};
   static const QStringList kKlauzule{u"from"_s, u"where"_s,  u"and"_s, u"order"_s,
                                      u"left"_s, u"values"_s, u"set"_s};
@@ -73,6 +74,7 @@ QString WLiniach(const std::string& sql) {
                                 .simplified()
                                 .replace(kIdentyfikatory, u":Id1, /* ... */ "_s)
                                 .replace(u" = "_s, nielamliwy + u"="_s + nielamliwy)
+                                .replace(kZakres, u"between%1\\1%1and%1"_s.arg(nielamliwy))
                                 .split(u' ');
   const bool tabela = sql.starts_with("create table");
   QString wynik, linia, poprzednie;
