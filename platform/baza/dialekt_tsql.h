@@ -2,9 +2,9 @@
 
 #include "platform/baza/dialekt.h"
 
-// The family of the original servers, from their releases of 2016 on; older ones know what an export asks of
-// them. getdate() is its own word. A class of its own for the test that lets a file stand in for such a
-// server.
+// The family of the original servers, from their releases of 2016 on; of older ones only the outer join "*="
+// is provided for. getdate() is its own word. A class of its own for the test that lets a file stand in for
+// such a server.
 class Tsql : public Dialekt {
  public:
   explicit Tsql(bool znaOuterJoin) : m_znaOuterJoin(znaOuterJoin) {}
