@@ -49,8 +49,8 @@ QString TrescBledu(const char* komunikat) {
 }
 
 // psqlODBC told to leave transactions alone (7.4-0: an error undoes nothing by itself; the program's own
-// savepoints do), to hand texts over as they are and to write no log of its own. Behind the operator's text:
-// the last of two equal keys holds.
+// savepoints do), to hand texts over as they are and to write no log of its own. They stand behind the
+// operator's own, also behind those that mean the same in other words.
 constexpr char kNarzucone[] =
     "Protocol=7.4-0;UseServerSidePrepare=1;UseDeclareFetch=0;LFConversion=0;TrueIsMinus1=0;"
     "UpdatableCursors=0;ConnSettings=;CommLog=0;Debug=0";
@@ -65,7 +65,16 @@ QString NapisPolaczenia(const ParametryPolaczenia& parametry) {
           QStringLiteral("Nie można odczytać pliku %1\n%2").arg(plik.fileName(), plik.errorString()), {});
     napis = QString::fromUtf8(plik.readLine(4096)).trimmed();
   }
-  return ZlozNapisOdbc(RozbierzNapisOdbc(napis)) + QLatin1String(kNarzucone);
+  // Of equal keys only the last: the driver would not give back the memory of the others.
+  std::vector<AtrybutOdbc> atrybuty;
+  for (const QString& czesc : {napis, QString::fromLatin1(kNarzucone)})
+    for (AtrybutOdbc& atrybut : RozbierzNapisOdbc(czesc)) {
+      std::erase_if(atrybuty, [&](const AtrybutOdbc& a) {
+        return a.klucz.compare(atrybut.klucz, Qt::CaseInsensitive) == 0;
+      });
+      atrybuty.push_back(std::move(atrybut));
+    }
+  return ZlozNapisOdbc(atrybuty);
 }
 
 class SilnikOdbc final : public Silnik {

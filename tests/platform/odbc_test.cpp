@@ -115,7 +115,7 @@ void ZapiszZrodla(const QString& plik, const QString& napis) {
   ASSERT_TRUE(zrodla.open(QIODevice::WriteOnly));
   for (const QString& protokol : {u"7.4-1"_s, u"7.4-2"_s})
     zrodla.write((u"[zle%1]\n%2Protocol = %1\nUseServerSidePrepare = 0\nUseDeclareFetch = 1\nLFConversion = "
-                  "1\nCX = 1c20502bb\nConnSettings = set datestyle to german\n"_s.arg(protokol, polaczenie))
+                  "1\nCX = 1c20502bb\n"_s.arg(protokol, polaczenie))
                      .toUtf8());
   qputenv("ODBCINI", plik.toUtf8());
 }
