@@ -4,7 +4,8 @@
 
 namespace {
 
-// Few lengths, so that each statement is prepared once; servers take some thousand values at a time.
+// Few lengths, the longest first, so that each statement is prepared once; servers take some thousand values
+// at a time.
 constexpr std::size_t kDlugosci[] = {40, 10, 1};
 
 // With single blanks.
@@ -164,15 +165,14 @@ std::vector<KolejkaZapisow::Grupa> KolejkaZapisow::Pogrupuj(std::span<Wiersz> wi
 
 void KolejkaZapisow::WykonajGrupe(const Grupa& grupa, const Wykonawca& wykonaj) {
   std::vector<Parametr> parametry;
-  for (std::span<Wiersz* const> wiersze = grupa.wiersze; !wiersze.empty();) {
-    const std::size_t ile = *std::find_if(std::begin(kDlugosci), std::end(kDlugosci),
-                                          [&](std::size_t d) { return d <= wiersze.size(); });
-    const Wzor::Postac& postac = grupa.wzor->DlaWierszy(ile);
-    parametry.clear();
-    for (Wiersz* const wiersz : wiersze.first(ile))
-      for (Wartosc& wartosc : wiersz->wartosci)
-        parametry.push_back({postac.nazwy[parametry.size()].c_str(), std::move(wartosc)});
-    wykonaj(postac.sql, parametry);
-    wiersze = wiersze.subspan(ile);
-  }
+  std::span<Wiersz* const> wiersze = grupa.wiersze;
+  for (const std::size_t ile : kDlugosci)
+    for (; wiersze.size() >= ile; wiersze = wiersze.subspan(ile)) {
+      const Wzor::Postac& postac = grupa.wzor->DlaWierszy(ile);
+      parametry.clear();
+      for (Wiersz* const wiersz : wiersze.first(ile))
+        for (Wartosc& wartosc : wiersz->wartosci)
+          parametry.push_back({postac.nazwy[parametry.size()].c_str(), std::move(wartosc)});
+      wykonaj(postac.sql, parametry);
+    }
 }
