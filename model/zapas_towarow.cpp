@@ -62,10 +62,9 @@ std::size_t ZapasTowarow::CzytajWiersze(TVLTBazaDanych& baza, const std::string&
 
 void ZapasTowarow::Zablokuj(TVLTBazaDanych& baza, int towId) {
   if (m_zablokowane || !Znajdz(towId) || !baza.GetCzyWTransakcji() || baza.WJednostce()) return;
-  const std::string select = baza.Jezyk().ZBlokadaWierszy(SelectWielu(baza), "Towar", "T");
-  if (select.empty()) return;
-  CzytajWiersze(baza, select, true);
   m_zablokowane = true;
+  const std::string select = baza.Jezyk().ZBlokadaWierszy(SelectWielu(baza), "Towar", "T");
+  if (!select.empty()) CzytajWiersze(baza, select, true);
 }
 
 void ZapasTowarow::Wyczysc() {
