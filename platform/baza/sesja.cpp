@@ -38,6 +38,7 @@ struct TVLTBazaDanych::Wnetrze {
     int blok = 1;
   };
   std::map<std::string, Klucze> klucze;  // by table
+  int autoId = -1;
 
   bool Grupuje() const { return grupuj && silnik && silnik->WTransakcji(); }
   // A row of a unit whose savepoint is set is written at once.
@@ -161,6 +162,7 @@ void TVLTBazaDanych::Odlacz() {
   if (GetCzyWTransakcji()) WycofTransakcji();
   m->Zapomnij();
   m->klucze.clear();
+  m->autoId = -1;
   m->silnik.reset();
 }
 
@@ -203,10 +205,14 @@ int TVLTBazaDanych::WstawOdRazu(const char* klucz, std::string_view sql,
   const std::string zKluczem = Jezyk().InsertZKluczem(std::string(sql), klucz);
   if (zKluczem.empty()) {
     ExecSQL(sql, parametry);
-    return static_cast<int>(m->silnik->Zapytaj(Jezyk().OstatnieAutoId()).AsInteger());
+    return m->autoId = static_cast<int>(m->silnik->Zapytaj(Jezyk().OstatnieAutoId()).AsInteger());
   }
   Odczyt odczyt = Otworz(zKluczem, kLiczba, parametry);
-  return odczyt.Nastepny() ? static_cast<int>(odczyt[0].AsInteger()) : -1;
+  return m->autoId = odczyt.Nastepny() ? static_cast<int>(odczyt[0].AsInteger()) : -1;
+}
+
+int TVLTBazaDanych::PobierzAutoId() const {
+  return m->autoId;
 }
 
 void TVLTBazaDanych::Wstaw(std::string_view sql, std::initializer_list<Parametr> parametry) {
@@ -226,7 +232,7 @@ int TVLTBazaDanych::WstawZKluczem(const char* tabela, const char* klucz, std::st
   const int id = m->NastepnyKlucz(tabela, klucz);
   m->kolejka.Wstaw(sql, parametry, klucz, id);
   if (!czeka) m->Zapisz(1);
-  return id;
+  return m->autoId = id;
 }
 
 bool TVLTBazaDanych::Popraw(std::string_view sql, std::span<const Parametr> parametry) {

@@ -71,6 +71,8 @@ class TVLTBazaDanych {
   // column `klucz`. Written at once.
   int WstawOdRazu(const char* klucz, std::string_view sql, std::initializer_list<Parametr> parametry);
   int WstawOdRazu(const char* klucz, std::string_view sql, std::span<const Parametr> parametry);
+  // The automatic key of the last row that this session inserted with one; -1 before the first.
+  int PobierzAutoId() const;
   // Inserts a row whose number nobody asks for. While writes are grouped it may wait for others: it is
   // written before the next statement of any other kind and before the commit, in the order that
   // KolejkaZapisow keeps. A group that is refused leaves as EBladBazy of kind Grupa and spoils the

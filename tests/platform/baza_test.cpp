@@ -43,6 +43,7 @@ TEST_F(Baza, WartosciWracajaTakieSame) {
             1);
   b.baza.ExecSQL("insert into T (Nazwa, Cena) values (:Nazwa, :Cena)",
                  {{"Nazwa", Wartosc(TypPola::Tekst)}, {"Cena", Wartosc(TypPola::Dziesietne)}});
+  EXPECT_EQ(b.baza.PobierzAutoId(), 1);  // of the row whose key was asked for
 
   TKMQuery query(kPola);
   EXPECT_THROW(query.Open(), EBladBazy);
