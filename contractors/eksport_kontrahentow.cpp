@@ -11,7 +11,7 @@
 namespace {
 
 constexpr OpisPrzebiegu kOpis{{}, u"zamykanie pliku eksportu", u"Eksport zakończono", {}, kPlikNiepelny};
-const OpisEksportu kOpisEksportu{{}, u"eksport bazy kontrahentów", "Kontrahent", "KontrId"};
+constexpr OpisEksportu kOpisEksportu{{}, u"eksport bazy kontrahentów", "Kontrahent", "KontrId"};
 
 // The conditions of an export. The boxes for a tax number that is not known and for what is no protected
 // workplace decide nothing: their opposites alone let every contractor through, or none.

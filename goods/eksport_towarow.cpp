@@ -15,7 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr OpisPrzebiegu kOpis{{}, u"zamykanie pliku eksportu", u"Eksport zakończono", {}, kPlikNiepelny};
-const OpisEksportu kOpisEksportu{u"przygotowanie bufora towarów", u"eksport bazy towarów", "Towar", "TowId"};
+constexpr OpisEksportu kOpisEksportu{u"przygotowanie bufora towarów", u"eksport bazy towarów", "Towar",
+                                     "TowId"};
 
 class PrzebiegEksportuTowarow final : public PrzebiegEksportu {
  public:

@@ -73,9 +73,10 @@ std::optional<KoniecPrzebiegu> PrzebiegEksportu::Przygotuj() {
 void PrzebiegEksportu::WczytajIdentyfikatory() {
   constexpr int kNaraz = 50'000;
   TVLTBazaDanych& baza = Parametry().sesja.baza;
-  const std::string& klucz = m_opisEksportu.klucz;
-  const std::string select = baza.Jezyk().Pierwsze(
-      kNaraz, "select " + klucz + " from " + m_opisEksportu.tabela + " where " + klucz + " > :Po order by " + klucz);
+  const std::string klucz = m_opisEksportu.klucz;
+  const std::string select =
+      baza.Jezyk().Pierwsze(kNaraz, "select " + klucz + " from " + m_opisEksportu.tabela + " where " + klucz +
+                                        " > :Po order by " + klucz);
   for (std::size_t bylo = 0;; bylo = m_identyfikatory.size()) {
     const int po = m_identyfikatory.empty() ? std::numeric_limits<int>::min() : m_identyfikatory.back();
     for (auto odczyt = baza.Otworz(select, {TypPola::Calkowite}, {{"Po", po}}); odczyt.Nastepny();)

@@ -13,7 +13,8 @@
 struct OpisEksportu {
   std::u16string_view przygotowanie;  // phase in which the identifiers are read; empty: none is shown
   std::u16string_view eksport;        // phase of the body
-  std::string tabela, klucz;          // where the identifiers are
+  const char* tabela;                 // where the identifiers are,
+  const char* klucz;                  // in which column
 };
 
 // The fault's companion in every export: nothing in the database has changed, but the file is not whole.

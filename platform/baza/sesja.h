@@ -81,8 +81,9 @@ class TVLTBazaDanych {
   // The same for a row of `tabela` with an automatic key, which is returned.
   int WstawZKluczem(const char* tabela, const char* klucz, std::string_view sql,
                     std::span<const Parametr> parametry);
-  // Writes over the row with a key: "update T set ... where K = :K". It may wait in the same way. False when
-  // no row has the key; of one that waits nobody knows: the caller has the row locked or does not care.
+  // Writes over the row with a key: "update T set ... where K = :K and ...". It may wait in the same way, but
+  // no second one for the same row. False when no row has the key; of one that waits nobody knows: the caller
+  // has the row locked or does not care.
   bool Popraw(std::string_view sql, std::span<const Parametr> parametry);
   bool Popraw(std::string_view sql, std::initializer_list<Parametr> parametry);
   // What is written from here on belongs to another record: its writes keep their order among themselves.
