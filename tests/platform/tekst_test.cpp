@@ -32,11 +32,18 @@ class PlikTekstowy : public testing::Test {
   QTemporaryDir m_katalog;
 };
 
-TEST(Windows1250, KazdyBajtWraca) {
-  std::string wszystkie;
-  for (int i = 0; i < 256; ++i) wszystkie += static_cast<char>(i);
-  EXPECT_EQ(windows1250::ZUnicode(windows1250::NaUnicode(wszystkie)), wszystkie);
-  EXPECT_EQ(windows1250::NaUnicode("za\xBF\xF3\xB3\xE6 \x80 \x81\x98"), u"zażółć € \u0081\u0098"_s);
+// The page as its standard has it, 16 bytes a line; the five unused bytes keep their numbers.
+TEST(Windows1250, KazdyBajtMaSwojZnak) {
+  const QString gorne =
+      u"€\u0081‚\u0083„…†‡\u0088‰Š‹ŚŤŽŹ\u0090‘’“”•–—\u0098™š›śťžź"
+      u"\u00A0ˇ˘Ł¤Ą¦§¨©Ş«¬\u00AD®Ż°±˛ł´µ¶·¸ąş»Ľ˝ľż"
+      u"ŔÁÂĂÄĹĆÇČÉĘËĚÍÎĎĐŃŇÓÔŐÖ×ŘŮÚŰÜÝŢß"
+      u"ŕáâăäĺćçčéęëěíîďđńňóôőö÷řůúűüýţ˙"_s;
+  std::string bajty;
+  for (int i = 0; i < 256; ++i) bajty += static_cast<char>(i);
+  const QString znaki = QString::fromLatin1(bajty.data(), 128) + gorne;
+  EXPECT_EQ(windows1250::NaUnicode(bajty), znaki);
+  EXPECT_EQ(windows1250::ZUnicode(znaki), bajty);
 }
 
 TEST(Windows1250, ZnakiSpozaStronySaLiczone) {
