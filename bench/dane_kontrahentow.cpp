@@ -37,18 +37,6 @@ std::string Cyfry(std::uint64_t numer, std::size_t ile) {
                              : std::string(ile - cyfry.size(), '0') + cyfry;
 }
 
-std::string Nip(std::uint64_t i) {
-  std::string c = Cyfry(5'250'000'000 + i * 7, 10);
-  switch (i % 3) {
-    case 0:
-      return c;
-    case 1:
-      return c.substr(0, 3) + '-' + c.substr(3, 3) + '-' + c.substr(6, 2) + '-' + c.substr(8);
-    default:
-      return "PL " + c.substr(0, 3) + ' ' + c.substr(3, 3) + ' ' + c.substr(6, 2) + ' ' + c.substr(8);
-  }
-}
-
 using Wartosci = std::array<std::string, P::LiczbaWartosci>;
 
 Wartosci Kontrahent(std::uint64_t i, bool nowyKredyt) {
@@ -60,7 +48,7 @@ Wartosci Kontrahent(std::uint64_t i, bool nowyKredyt) {
 
   Wartosci w;
   w[P::Nazwa] = Wybierz(kRodzaje, i / 7) + " \"" + nazwa + "\" " + miasto + ' ' + numer;
-  w[P::Nip] = Nip(i);
+  w[P::Nip] = NipKontrahenta(i);
   w[P::NazwaSkrocona] = nazwa + ' ' + numer;
   w[P::Ulica] = "ul. " + Wybierz(kUlice, i / 3) + ' ' + std::to_string(1 + i % 180);
   w[P::KodPocztowy] = Cyfry(10 + i % 90, 2) + '-' + Cyfry(i, 3);
@@ -111,6 +99,18 @@ std::string Linia(const Wartosci& wartosci) {
 }
 
 }  // namespace
+
+std::string NipKontrahenta(std::uint64_t i) {
+  std::string c = Cyfry(5'250'000'000 + i * 7, 10);
+  switch (i % 3) {
+    case 0:
+      return c;
+    case 1:
+      return c.substr(0, 3) + '-' + c.substr(3, 3) + '-' + c.substr(6, 2) + '-' + c.substr(8);
+    default:
+      return "PL " + c.substr(0, 3) + ' ' + c.substr(3, 3) + ' ' + c.substr(6, 2) + ' ' + c.substr(8);
+  }
+}
 
 void ZapiszPlikKontrahentow(const std::string& sciezka, int ile, bool nowyKredyt) {
   std::ofstream plik(sciezka, std::ios::binary);

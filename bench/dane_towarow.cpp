@@ -42,6 +42,9 @@ constexpr const char* kPolki[] = {"regał A",  "regał B", "regał C",    "rega�
                                   "rodzinne", "premium", "tanie",      "nowości",     "wyprzedaż"};
 constexpr std::string_view kJednostki[] = {"szt.", "kg", "l", "opak", "kpl.", "m", "para", "g"};
 
+constexpr const char* kWybory[] = {"mały", "średni", "duży", "rodzinny"};
+constexpr int kKategorii = 20;
+
 struct Stawka {
   std::string_view opis;
   std::string_view setne;  // the own layout writes the rate itself
@@ -81,6 +84,25 @@ std::string Cena(std::uint64_t grosze) {
   return bufor.data();
 }
 
+// Three parameters, which other categories share: a list between two ranges.
+std::string KategoriaIParametry(std::uint64_t i) {
+  const std::uint64_t kategoria = i % kKategorii;
+  const std::string a = std::to_string(kategoria % 3), b = std::to_string(kategoria % 4),
+                    c = std::to_string(kategoria % 7), zakres = std::to_string(i / 3 % 40);
+  std::string blok = "Półka działu " + std::to_string(kategoria) + ": Głębokość " + a + '(' + zakres +
+                     ":-5..40);Wielkość " + b + '(' + std::to_string(1 + i / 7 % std::size(kWybory)) + ':';
+  for (const char* wybor : kWybory) blok += std::string(wybor) + (wybor == *std::rbegin(kWybory) ? ")" : "|");
+  return blok + ";Waga " + c + '(' + zakres + ":0..50)";
+}
+
+// One to three.
+std::string Dostawcy(std::uint64_t i) {
+  std::string blok = '(' + NipKontrahenta(i % kDostawcow);
+  if (i % 3 == 0) blok += '|' + NipKontrahenta((i + 71) % kDostawcow);
+  if (i % 9 == 0) blok += '|' + NipKontrahenta((i + 31) % kDostawcow);
+  return blok + ')';
+}
+
 using Wartosci = std::array<std::string, PoleTowaru::LiczbaWartosci>;
 
 std::string Bajty(const std::string& utf8) {
@@ -106,6 +128,9 @@ void Wypelnij(Wartosci& w, std::uint64_t i, TypPliku typ, bool noweCeny) {
     const std::string kod = Ean13(591'100'000'000 + i);
     w[PoleTowaru::KodyDodatkowe] = wlasny ? '(' + kod + "||)" : kod;
   }
+  w[PoleTowaru::KategoriaIParametry] = Bajty(KategoriaIParametry(i));
+  w[PoleTowaru::Stan] = Cena(i * 7 % 500 * 25);
+  w[PoleTowaru::NipyDostawcow] = Dostawcy(i);
   if (wlasny) w[PoleTowaru::TypTowaru] = '0';
   w[PoleTowaru::Status] = '1';
 }
@@ -130,7 +155,7 @@ void DopiszRekord(std::string& linia, const Wartosci& w, TypPliku typ) {
   for (const Kolumna& k : Kolumny()) {
     const std::string& wartosc = w[static_cast<std::size_t>(k.pole)];
     if (typ == TypPliku::Rozdzielany) {
-      if (!pierwsza) linia += ';';
+      if (!pierwsza) linia += '\t';
       linia += wartosc;
     } else {
       Dopelnij(linia, wartosc, k.szerokosc);

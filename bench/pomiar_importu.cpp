@@ -32,12 +32,12 @@ class Seria {
 
   void Dodaj() {
     const bool pierwsza = dodawanie.zorvik.empty();
-    m_warsztat.NowaBaza("import.db");
+    m_warsztat.KopiujBaze(m_opis.bazaPoczatkowa, "import.db");
     zuzycie = m_warsztat.Zorvik(Zadanie(Plik(), "dodanych"));
     dodawanie.zorvik.push_back(zuzycie.sekund);
     const std::string wiersze = m_nazwa + "-dodane.txt";
     if (pierwsza) m_dziennik = Wypisz(wiersze, Wiersze::Dodane);
-    m_warsztat.NowaBaza("wzorzec.db");
+    m_warsztat.KopiujBaze(m_opis.bazaPoczatkowa, "wzorzec.db");
     dodawanie.wzorzec.push_back(m_warsztat.Wzorzec("dodaj", "wzorzec.db", wiersze));
     if (pierwsza) Porownaj("Dodawanie", "wzorzec.db");
   }
@@ -104,10 +104,11 @@ const OpisImportu& ImportTowarow() {
                                 .operacja = "import-towarow",
                                 .czego = "towarów",
                                 .zapiszPlik = ZapiszRozdzielanyTowarow,
+                                .bazaPoczatkowa = Warsztat::kZDostawcami,
                                 .ustawienia = UstawieniaImportuTowarow(TypPliku::Rozdzielany),
                                 .granicaDodawania = 3,
                                 .granicaIdentycznych = 1.5,
-                                .granicaPoprawiania = 3};
+                                .granicaPoprawiania = 2};
   return opis;
 }
 
@@ -118,6 +119,7 @@ const OpisImportu& ImportKontrahentow() {
                                 .operacja = "import-kontrahentow",
                                 .czego = "kontrahentów",
                                 .zapiszPlik = ZapiszPlikKontrahentow,
+                                .bazaPoczatkowa = Warsztat::kPusta,
                                 .ustawienia = UstawieniaImportuKontrahentow(),
                                 .granicaDodawania = 4,
                                 .granicaIdentycznych = 2,
@@ -177,6 +179,6 @@ void ZmierzCzytanie(const Warsztat& warsztat, int ile, double identyczne, Tabela
 void ImportujDo(const Warsztat& warsztat, const OpisImportu& opis, const std::string& baza, int ile) {
   warsztat.ZapiszKonfiguracje(kKonfiguracja, opis.ustawienia);
   opis.zapiszPlik(warsztat.Sciezka("import.txt"), ile, false);
-  warsztat.NowaBaza(baza);
+  warsztat.KopiujBaze(opis.bazaPoczatkowa, baza);
   warsztat.Zorvik({opis.operacja, "import.txt", baza, kKonfiguracja, '.', "dodanych", ile});
 }

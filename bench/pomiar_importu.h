@@ -12,6 +12,7 @@ struct OpisImportu {
   const char* operacja;
   const char* czego;
   void (*zapiszPlik)(const std::string& sciezka, int ile, bool zmieniony);
+  const char* bazaPoczatkowa;  // of the workshop
   Ustawienia ustawienia;
   double granicaDodawania;
   double granicaIdentycznych;  // of the plain program's adding

@@ -88,7 +88,7 @@ class Seria {
   std::string Pominiete(const char* folder) const { return m_warsztat.Sciezka(folder) + "/POMINIETE.TXT"; }
 
   void Polecenie() {
-    if (m_przypadek.pustaBaza) m_warsztat.NowaBaza(kBazaPolecenia);
+    if (m_przypadek.pustaBaza) m_warsztat.KopiujBaze(ImportTowarow().bazaPoczatkowa, kBazaPolecenia);
     const Zuzycie zuzycie = m_warsztat.Zorvik({"import-towarow", m_plik, kBazaPolecenia,
                                                m_przypadek.konfiguracja, '.', m_przypadek.licznik, m_ile});
     czasy.wzorzec.push_back(zuzycie.sekund);
@@ -100,7 +100,7 @@ class Seria {
     QJsonObject wynik;
   };
   PrzebiegOkna UruchomOkno(const std::vector<std::string>& opcje = {}) const {
-    if (m_przypadek.pustaBaza) m_warsztat.NowaBaza(kBazaOkna);
+    if (m_przypadek.pustaBaza) m_warsztat.KopiujBaze(ImportTowarow().bazaPoczatkowa, kBazaOkna);
     const std::string folder = m_warsztat.Sciezka("okno");
     std::vector<std::string> polecenie = {m_warsztat.Program("import-w-oknie"), m_warsztat.Sciezka(m_plik),
                                           m_warsztat.Sciezka(kBazaOkna),

@@ -23,25 +23,44 @@ constexpr double kGranicaEksportu = 3;
 constexpr double kPodrozyNaTowar = 2;
 constexpr int kSkrocenie = 10;  // on the longer road so many times fewer goods
 
-// What an import of goods leaves, in the order in which it may be copied. Stock rows come from a trigger.
-constexpr const char* kSlowniki[] = {"Asort", "JM", "Magazyn"};
+// What an import of goods leaves, in the order in which it may be copied. A trigger makes the stock rows, so
+// they too are there to be written over.
+constexpr const char* kSlowniki[] = {"Asort",    "JM",         "Magazyn", "Kategoria",
+                                     "Parametr", "ParWartosc", "KatParam"};
 constexpr struct {
   const char* nazwa;
   const char* klucz;
   const char* kolumny;
-} kUpserty[] = {{"Towar", "TowId", KOLUMNY_TOWARU}, {"KodDod", "TowId,Kolejnosc", KOLUMNY_KODU}};
+} kUpserty[] = {{"Towar", "TowId", KOLUMNY_TOWARU},
+                {"KodDod", "TowId,Kolejnosc", KOLUMNY_KODU},
+                {"Istw", "TowId,MagId", KOLUMNY_STANU},
+                {"TowWartosc", "TowId,ParId", KOLUMNY_WARTOSCI_PARAMETRU},
+                {"TowDostawca", "TowId,KontrId", KOLUMNY_DOSTAWCY}};
 constexpr const char* kDziennik = "DziennikZmian";
-constexpr const char* kPorownywane[] = {"Asort", "JM", "Magazyn", "Towar", "KodDod", "Istw", kDziennik};
+constexpr const char* kPorownywane[] = {"Asort",      "JM",          "Magazyn", "Kategoria", "Parametr",
+                                        "ParWartosc", "KatParam",    "Towar",   "KodDod",    "Istw",
+                                        "TowWartosc", "TowDostawca", kDziennik};
 
 // What the export reads of goods that have nothing but what the file gave them.
 constexpr const char* kZlaczenie =
     "select T.Kod, T.Nazwa, T.Skrot, T.TypTowaru, T.Indeks1, T.Indeks2, T.Opis1, T.Opis2, T.Opis3, T.Opis4,"
     " T.IleWZgrzewce, T.IleWCalosci, T.TermWazn, T.PrefPLU, T.Marza, T.HurtRabat, T.NocNarzut, T.CenaEw,"
-    " T.CenaDet, T.CenaHurt, T.CenaNoc, T.CenaDod, T.CenaOtwarta, T.Stawka, A.Nazwa, J.Nazwa, K.Kody, S.Stan,"
-    " T.Aktywny"
+    " T.CenaDet, T.CenaHurt, T.CenaNoc, T.CenaDod, T.CenaOtwarta, T.Stawka, A.Nazwa, J.Nazwa, K.Kody,"
+    " G.Nazwa || ': ' || W.Parametry, S.Stan, D.Nipy, T.Aktywny"
     " from Towar T left join Asort A on A.AsId = T.AsId left join JM J on J.JMId = T.JMId"
     " left join (select TowId, string_agg('(' || Kod || '|' || Skrot || '|' || PrefPLU || ')', ';'"
     "            order by Kolejnosc) as Kody from KodDod group by TowId) K on K.TowId = T.TowId"
+    " left join Kategoria G on G.KatId = T.KatId"
+    " left join (select V.TowId, string_agg(P.Nazwa || '(' || V.Wartosc || ':' ||"
+    "              case P.Typ when 0 then L.Lista else P.Od || '..' || P.Do end || ')', ';'"
+    "              order by V.ParId) as Parametry"
+    "            from TowWartosc V join Parametr P on P.ParId = V.ParId"
+    "            left join (select ParId, string_agg(Wartosc, '|' order by Kolejnosc) as Lista"
+    "                       from ParWartosc group by ParId) L on L.ParId = V.ParId"
+    "            group by V.TowId) W on W.TowId = T.TowId"
+    " left join (select O.TowId, '(' || string_agg(N.NIP, '|' order by O.Kolejnosc) || ')' as Nipy"
+    "            from TowDostawca O join Kontrahent N on N.KontrId = O.KontrId"
+    "            group by O.TowId) D on D.TowId = T.TowId"
     " left join (select TowId, sum(StanMag) as Stan from Istw group by TowId) S on S.TowId = T.TowId"
     " order by T.TowId";
 

@@ -17,6 +17,8 @@ Serwer::Serwer(const Warsztat& warsztat)
     : m_warsztat(warsztat), m_polaczenie(RozbierzNapisOdbc(qEnvironmentVariable(kZmienna))) {
   Zaloz(kPusta, "template0");
   Uruchom({m_warsztat.Program("zorvik-cli"), "nowa-baza", Polaczenie(kPusta)});
+  m_warsztat.WczytajDostawcow(Polaczenie(kPusta));
+  Psql(kPusta, Warsztat::kBezDziennika + std::string(";\n"));
 }
 
 void Serwer::NowaBaza(const std::string& nazwa) const {

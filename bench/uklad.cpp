@@ -28,6 +28,9 @@ const std::vector<Kolumna>& Kolumny() {
                                                {PoleTowaru::CenaDet, "CENA_SPRZ", 10},
                                                {PoleTowaru::StawkaVat, "VAT", 4},
                                                {PoleTowaru::Asortyment, "ASORT", 40},
+                                               {PoleTowaru::KategoriaIParametry, "KATEGORIA", 110},
+                                               {PoleTowaru::Stan, "STAN", 8},
+                                               {PoleTowaru::NipyDostawcow, "DOSTAWCY", 54},
                                                {PoleTowaru::JednostkaMiary, "JM", 6}};
   return kolumny;
 }
@@ -37,7 +40,7 @@ StrukturaPliku Struktura(TypPliku typ) {
   struktura.CBTypPliku = typ;
   struktura.PrzyjmijTypPliku(typ);
   struktura.CBNieAnalizujPierwszejLinii = typ == TypPliku::Zorvik;
-  struktura.separator = typ == TypPliku::Zorvik ? QStringLiteral("\t") : QStringLiteral(";");
+  struktura.separator = QStringLiteral("\t");
   for (const Kolumna& kolumna : Kolumny()) {
     struktura.pola.emplace_back(QString::fromStdString(Wpis(kolumna, typ)));
   }
@@ -46,11 +49,14 @@ StrukturaPliku Struktura(TypPliku typ) {
 }
 
 Ustawienia UstawieniaImportuTowarow(TypPliku typ) {
-  Ustawienia ustawienia = {
-      {"ParTypPlikuTow", std::to_string(static_cast<int>(typ))},   {"ParPlTypeTow", "0"},
-      {"ParSeparatorTow", typ == TypPliku::Zorvik ? "tab" : ";"},  {"ParKwalifikatorTekstuTow", "0"},
-      {"ParNieAnalPierwTow", typ == TypPliku::Zorvik ? "1" : "0"}, {"ParSprawdzCyfreKontrolna", "1"},
-      {"ParIloscPolTow", std::to_string(Kolumny().size())}};
+  Ustawienia ustawienia = {{"ParTypPlikuTow", std::to_string(static_cast<int>(typ))},
+                           {"ParPlTypeTow", "0"},
+                           {"ParSeparatorTow", "tab"},
+                           {"ParKwalifikatorTekstuTow", "0"},
+                           {"ParImportStanow", "1"},
+                           {"ParNieAnalPierwTow", typ == TypPliku::Zorvik ? "1" : "0"},
+                           {"ParSprawdzCyfreKontrolna", "1"},
+                           {"ParIloscPolTow", std::to_string(Kolumny().size())}};
   int numer = 0;
   for (const Kolumna& k : Kolumny())
     ustawienia.emplace_back("ParPoleTow" + std::to_string(numer++), Wpis(k, typ));

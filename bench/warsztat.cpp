@@ -7,19 +7,33 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "bench/baza.h"
+#include "bench/dane.h"
 #include "bench/proces.h"
 
 namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kPlikDostawcow = "dostawcy.txt";
+constexpr const char* kKonfiguracjaDostawcow = "dostawcy.cfg";
+
+}  // namespace
 
 Warsztat::Warsztat(const fs::path& programy)
     : m_programy(programy), m_folder(programy.parent_path() / "dane") {
   fs::remove_all(m_folder);
   fs::create_directories(m_folder);
-  Uruchom({Program("zorvik-cli"), "nowa-baza", Sciezka("pusta.db")});
+  Uruchom({Program("zorvik-cli"), "nowa-baza", Sciezka(kPusta)});
+  ZapiszPlikKontrahentow(Sciezka(kPlikDostawcow), kDostawcow, false);
+  ZapiszKonfiguracje(kKonfiguracjaDostawcow, UstawieniaImportuKontrahentow());
+  KopiujBaze(kPusta, kZDostawcami);
+  WczytajDostawcow(kZDostawcami);
+  sqlite::Wykonaj(sqlite::Otworz(Sciezka(kZDostawcami)), kBezDziennika);
 }
 
-void Warsztat::NowaBaza(const std::string& nazwa) const {
-  KopiujBaze("pusta.db", nazwa);
+void Warsztat::WczytajDostawcow(const std::string& baza) const {
+  Zorvik({"import-kontrahentow", kPlikDostawcow, baza, kKonfiguracjaDostawcow, '.', "dodanych", kDostawcow});
 }
 
 void Warsztat::KopiujBaze(const std::string& skad, const std::string& dokad) const {

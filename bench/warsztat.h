@@ -22,7 +22,12 @@ class Warsztat {
   std::string Sciezka(const std::string& nazwa) const { return (m_folder / nazwa).string(); }
   std::string Program(const char* nazwa) const { return (m_programy / nazwa).string(); }
 
-  void NowaBaza(const std::string& nazwa) const;
+  // The bases that measured ones begin as: without a record, and with the suppliers of the goods.
+  static constexpr const char* kPusta = "pusta.db";
+  static constexpr const char* kZDostawcami = "dostawcy.db";
+  // Imports the suppliers into the named base, or a server's; then its log is to be emptied.
+  void WczytajDostawcow(const std::string& baza) const;
+  static constexpr const char* kBezDziennika = "delete from DziennikZmian";
   void KopiujBaze(const std::string& skad, const std::string& dokad) const;
   void ZapiszKonfiguracje(const std::string& nazwa, const Ustawienia& ustawienia) const;
 

@@ -7,8 +7,15 @@
      A  Asort
      J  JM
      M  Magazyn
-     T  Towar; its codes follow it
+     P  Parametr
+     Q  ParWartosc
+     G  Kategoria
+     H  KatParam
+     T  Towar; its codes, values of parameters, suppliers and stock follow it
      K  KodDod
+     V  TowWartosc
+     D  TowDostawca
+     Z  Istw, whose row a trigger has made
      C  Kontrahent; its persons and its shop follow it
      O  Osoba
      S  Sklep
@@ -16,6 +23,13 @@
 #define KOLUMNY_ASORTYMENTU "Nazwa"
 #define KOLUMNY_JEDNOSTKI "Nazwa,Precyzja"
 #define KOLUMNY_MAGAZYNU "Nazwa"
+#define KOLUMNY_PARAMETRU "Nazwa,Typ,Od,Do"
+#define KOLUMNY_WARTOSCI_LISTY "ParId,Kolejnosc,Wartosc"
+#define KOLUMNY_KATEGORII "Nazwa"
+#define KOLUMNY_PARAMETRU_KATEGORII "KatId,ParId,Kolejnosc"
+#define KOLUMNY_WARTOSCI_PARAMETRU "ParId,Wartosc"
+#define KOLUMNY_DOSTAWCY "KontrId,Kolejnosc"
+#define KOLUMNY_STANU "StanMag"
 /* The code first: updating finds the good by it. */
 #define KOLUMNY_TOWARU                                                                           \
   "Kod,AsId,JMId,KatId,Producent,Nazwa,Skrot,TypTowaru,Indeks1,Indeks2,Opis1,Opis2,Opis3,Opis4," \

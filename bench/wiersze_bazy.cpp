@@ -14,34 +14,34 @@ namespace {
 using sqlite::Baza;
 using sqlite::Polecenie;
 
-// A table whose rows stand behind the record that owns them, as they are inserted.
-struct Szczegoly {
-  char litera;
-  const char* select;  // ?1: the record
-  bool przyPoprawianiu;
-};
-
 struct OpisWierszy {
   std::vector<std::pair<char, const char*>> slowniki;
   char litera;
-  const char* select;  // the identifier first
-  std::vector<Szczegoly> szczegoly;
+  const char* select;                                   // the identifier first
+  std::vector<std::pair<char, const char*>> szczegoly;  // behind the record that owns them, ?1
 };
 
 const OpisWierszy kTowary{
     {{'A', "select " KOLUMNY_ASORTYMENTU " from Asort order by AsId"},
      {'J', "select " KOLUMNY_JEDNOSTKI " from JM order by JMId"},
-     {'M', "select " KOLUMNY_MAGAZYNU " from Magazyn order by MagId"}},
+     {'M', "select " KOLUMNY_MAGAZYNU " from Magazyn order by MagId"},
+     {'P', "select " KOLUMNY_PARAMETRU " from Parametr order by ParId"},
+     {'Q', "select " KOLUMNY_WARTOSCI_LISTY " from ParWartosc order by ParId, Kolejnosc"},
+     {'G', "select " KOLUMNY_KATEGORII " from Kategoria order by KatId"},
+     {'H', "select " KOLUMNY_PARAMETRU_KATEGORII " from KatParam order by KatId, Kolejnosc"}},
     'T',
     "select TowId," KOLUMNY_TOWARU " from Towar order by TowId",
-    {{'K', "select " KOLUMNY_KODU " from KodDod where TowId = ?1 order by Kolejnosc", false}}};
+    {{'K', "select " KOLUMNY_KODU " from KodDod where TowId = ?1 order by Kolejnosc"},
+     {'V', "select " KOLUMNY_WARTOSCI_PARAMETRU " from TowWartosc where TowId = ?1 order by ParId"},
+     {'D', "select " KOLUMNY_DOSTAWCY " from TowDostawca where TowId = ?1 order by Kolejnosc"},
+     {'Z', "select " KOLUMNY_STANU " from Istw where TowId = ?1 and StanMag <> 0"}}};
 
 const OpisWierszy kKontrahenci{
     {},
     'C',
     "select KontrId," KOLUMNY_KONTRAHENTA " from Kontrahent order by KontrId",
-    {{'O', "select " KOLUMNY_OSOBY " from Osoba where KontrId = ?1 order by rowid", true},
-     {'S', "select " KOLUMNY_SKLEPU " from Sklep where SklepId = ?1", true}}};
+    {{'O', "select " KOLUMNY_OSOBY " from Osoba where KontrId = ?1 order by rowid"},
+     {'S', "select " KOLUMNY_SKLEPU " from Sklep where SklepId = ?1"}}};
 
 std::string Wartosc(sqlite3_stmt* polecenie, int kolumna) {
   switch (sqlite3_column_type(polecenie, kolumna)) {
@@ -70,11 +70,10 @@ void WypiszTabele(const Baza& baza, std::ofstream& plik, char tabela, const std:
     Wypisz(plik, tabela, p.get());
 }
 
-void WypiszRekordy(const Baza& baza, std::ofstream& plik, const OpisWierszy& opis, Wiersze ktore) {
+void WypiszRekordy(const Baza& baza, std::ofstream& plik, const OpisWierszy& opis) {
   std::vector<std::pair<char, Polecenie>> szczegoly;
-  for (const Szczegoly& s : opis.szczegoly)
-    if (ktore == Wiersze::Dodane || s.przyPoprawianiu)
-      szczegoly.emplace_back(s.litera, sqlite::Przygotuj(baza, s.select));
+  for (const auto& [litera, select] : opis.szczegoly)
+    szczegoly.emplace_back(litera, sqlite::Przygotuj(baza, select));
   const Polecenie rekordy = sqlite::Przygotuj(baza, opis.select);
   while (sqlite::Nastepny(baza, rekordy)) {
     Wypisz(plik, opis.litera, rekordy.get(), 1);
@@ -95,7 +94,7 @@ long long WypiszWiersze(const std::string& sciezkaBazy, const std::string& sciez
   std::ofstream plik(sciezka, std::ios::binary);
   if (ktore == Wiersze::Dodane)
     for (const auto& [litera, select] : opis.slowniki) WypiszTabele(baza, plik, litera, select);
-  WypiszRekordy(baza, plik, opis, ktore);
+  WypiszRekordy(baza, plik, opis);
   WypiszTabele(baza, plik, 'L',
                "select " KOLUMNY_DZIENNIKA " from DziennikZmian where rowid > " +
                    std::to_string(odDziennika) + " order by rowid");

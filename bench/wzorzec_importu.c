@@ -1,8 +1,7 @@
 /* The plain import: the rows come ready from a file (see wiersze.h) and are written with prepared statements
    in one transaction; nothing is decided. Adding inserts. Updating finds each good by its code and each
-   contractor by its tax number and writes the whole row, as the record's save does, with the contractor's
-   persons and shop; popraw-ceny writes the two prices of a good alone, the least that leaves the same rows.
- */
+   contractor by its tax number, writes the whole row, as the record's save does, and anew what belongs to it;
+   popraw-ceny writes the two prices of a good alone, the least that leaves the same rows. */
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
@@ -20,18 +19,36 @@ typedef struct {
   const char *nazwa, *kolumny, *klucz, *czas; /* klucz, czas: NULL for none */
   int glowna;                                 /* its insert makes the key that the rows behind it bear */
   int poprawiana;                             /* updating writes over its row */
+  int gotowa;                                 /* a trigger has made its row, adding writes over it */
 } Tabela;
 
-static const Tabela tabele[] = {{'A', "Asort", KOLUMNY_ASORTYMENTU, NULL, NULL, 0, 0},
-                                {'J', "JM", KOLUMNY_JEDNOSTKI, NULL, NULL, 0, 0},
-                                {'M', "Magazyn", KOLUMNY_MAGAZYNU, NULL, NULL, 0, 0},
-                                {'T', "Towar", KOLUMNY_TOWARU, "TowId", "Zmiana", 1, 1},
-                                {'K', "KodDod", KOLUMNY_KODU, "TowId", NULL, 0, 0},
-                                {'C', "Kontrahent", KOLUMNY_KONTRAHENTA, "KontrId", "Zmiana", 1, 1},
-                                {'O', "Osoba", KOLUMNY_OSOBY, "KontrId", NULL, 0, 0},
-                                {'S', "Sklep", KOLUMNY_SKLEPU, "SklepId", NULL, 0, 1},
-                                {'L', "DziennikZmian", KOLUMNY_DZIENNIKA, NULL, "Czas", 0, 0}};
+static const Tabela tabele[] = {{'A', "Asort", KOLUMNY_ASORTYMENTU, NULL, NULL, 0, 0, 0},
+                                {'J', "JM", KOLUMNY_JEDNOSTKI, NULL, NULL, 0, 0, 0},
+                                {'M', "Magazyn", KOLUMNY_MAGAZYNU, NULL, NULL, 0, 0, 0},
+                                {'P', "Parametr", KOLUMNY_PARAMETRU, NULL, NULL, 0, 0, 0},
+                                {'Q', "ParWartosc", KOLUMNY_WARTOSCI_LISTY, NULL, NULL, 0, 0, 0},
+                                {'G', "Kategoria", KOLUMNY_KATEGORII, NULL, NULL, 0, 0, 0},
+                                {'H', "KatParam", KOLUMNY_PARAMETRU_KATEGORII, NULL, NULL, 0, 0, 0},
+                                {'T', "Towar", KOLUMNY_TOWARU, "TowId", "Zmiana", 1, 1, 0},
+                                {'K', "KodDod", KOLUMNY_KODU, "TowId", NULL, 0, 0, 0},
+                                {'V', "TowWartosc", KOLUMNY_WARTOSCI_PARAMETRU, "TowId", NULL, 0, 0, 0},
+                                {'D', "TowDostawca", KOLUMNY_DOSTAWCY, "TowId", NULL, 0, 0, 0},
+                                {'Z', "Istw", KOLUMNY_STANU, "TowId", NULL, 0, 0, 1},
+                                {'C', "Kontrahent", KOLUMNY_KONTRAHENTA, "KontrId", "Zmiana", 1, 1, 0},
+                                {'O', "Osoba", KOLUMNY_OSOBY, "KontrId", NULL, 0, 0, 0},
+                                {'S', "Sklep", KOLUMNY_SKLEPU, "SklepId", NULL, 0, 1, 0},
+                                {'L', "DziennikZmian", KOLUMNY_DZIENNIKA, NULL, "Czas", 0, 0, 0}};
 enum { ILE_TABEL = sizeof tabele / sizeof tabele[0] };
+
+/* What updating a record of the letter takes away first. */
+static const struct {
+  char litera;
+  const char* sql;
+} usuwane[] = {{'T', "delete from KodDod where TowId = ?1"},
+               {'T', "delete from TowWartosc where TowId = ?1"},
+               {'T', "delete from TowDostawca where TowId = ?1"},
+               {'C', "delete from Osoba where KontrId = ?1"}};
+enum { ILE_USUWANYCH = sizeof usuwane / sizeof usuwane[0] };
 
 /* insert into TABELA (column, ..., key, time) values (?1, ..., ?98, ?99) */
 static sqlite3_stmt* przygotuj_insert(const Tabela* t) {
@@ -149,7 +166,8 @@ static void przepisz(const char* nazwa, int poprawianie, const char* tylko) {
     exit(1);
   }
   wykonaj("begin immediate");
-  sqlite3_stmt* bez_osob = przygotuj("delete from Osoba where KontrId = ?1");
+  sqlite3_stmt* usuwania[ILE_USUWANYCH];
+  for (int i = 0; i < ILE_USUWANYCH; ++i) usuwania[i] = przygotuj(usuwane[i].sql);
   if (poprawianie) wczytaj_nipy();
 
   while (fgets(linia, sizeof linia, plik) != NULL) {
@@ -157,8 +175,10 @@ static void przepisz(const char* nazwa, int poprawianie, const char* tylko) {
     if (ile == 0) continue;
     int nr = tabela(linia[0]);
     const Tabela* t = &tabele[nr];
+    if (tylko != NULL && t->klucz != NULL && !t->glowna) continue;
     if (polecenia[nr] == NULL)
-      polecenia[nr] = poprawianie && t->poprawiana ? przygotuj_update(t, tylko) : przygotuj_insert(t);
+      polecenia[nr] =
+          t->gotowa || (poprawianie && t->poprawiana) ? przygotuj_update(t, tylko) : przygotuj_insert(t);
     sqlite3_stmt* polecenie = polecenia[nr];
     for (int i = 0; i < ile; ++i) zwiaz(polecenie, i + 1, wartosci[i]);
     if (t->glowna && poprawianie) klucz = znajdz(t->litera, wartosci[0] + 1);
@@ -166,10 +186,11 @@ static void przepisz(const char* nazwa, int poprawianie, const char* tylko) {
     if (t->czas) sprawdz(sqlite3_bind_text(polecenie, PAR_CZAS, teraz(), -1, SQLITE_STATIC));
     uruchom(polecenie);
     if (t->glowna && !poprawianie) klucz = sqlite3_last_insert_rowid(baza);
-    if (t->litera == 'C' && poprawianie) {
-      sprawdz(sqlite3_bind_int64(bez_osob, 1, klucz));
-      uruchom(bez_osob);
-    }
+    for (int i = 0; poprawianie && tylko == NULL && i < ILE_USUWANYCH; ++i)
+      if (usuwane[i].litera == t->litera) {
+        sprawdz(sqlite3_bind_int64(usuwania[i], 1, klucz));
+        uruchom(usuwania[i]);
+      }
   }
   wykonaj("commit");
   fclose(plik);

@@ -34,6 +34,7 @@ RekordTowaru::RekordTowaru(KontekstImportu& import)
                              .bufor = &import.bufor,
                              .asortymenty = &import.slowniki.Asortymenty(),
                              .jednostki = &import.slowniki.Jednostki(),
+                             .kategorie = &import.slowniki.Kategorie(),
                              .zapas = &import.zapas}),
       m_zapis(import, m_towar) {}
 

@@ -33,6 +33,7 @@ class RozpoznawanieSlownikow {
   // The dictionaries themselves, as they stand in the transaction at hand.
   TDmVLTListaSlownika& Asortymenty() { return m_asortymenty; }
   TDmVLTListaSlownika& Jednostki() { return m_jednostki; }
+  TDmVLTListaKategorii& Kategorie() { return m_kategorie; }
 
   // `biezacy` is the identifier the good has now, 0 or -1 for none. An assortment or unit whose letter case
   // differs from the file's is renamed. -1 for an empty name, when there is no entry and none is added

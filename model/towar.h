@@ -14,6 +14,7 @@
 #include "model/kolumny.h"
 #include "model/szczegoly_towaru.h"
 
+class TDmVLTListaKategorii;
 class TDmVLTListaSlownika;
 class TDmVLTNazwySkrocone;
 class TVLTBazaDanych;
@@ -30,10 +31,12 @@ struct OtoczenieTowarow {
   // Spares the statements that would look for a code which nobody has. Whoever opens the transaction has it
   // look for other connections' changes first. None: the database is always asked.
   const TVLTBuforTowarow* bufor = nullptr;
-  // Spare looking for the assortment and the unit at every save. Whoever opens the transactions reads them
-  // anew when another connection has written. None, or an entry that they do not hold: the database is asked.
+  // Spare looking for the assortment, the unit and the category's parameters at every save. Whoever opens the
+  // transactions reads them anew when another connection has written. None, or an entry that they do not
+  // hold: the database is asked.
   TDmVLTListaSlownika* asortymenty = nullptr;
   TDmVLTListaSlownika* jednostki = nullptr;
+  TDmVLTListaKategorii* kategorie = nullptr;
   // Whether central codes must be unique.
   bool unikalneCKU = false;
   // Goods read ahead: loading one of them asks the database nothing. None: the database is always asked.
@@ -245,6 +248,7 @@ class TDmVLTTowar final : public TDmVLTElement {
   WynikWalidacji SprawdzDoPlanu(Plan& plan) const;
   Plan Zaplanuj() const;
   void UzupelnijWartosci(Plan& plan) const;
+  std::vector<int> ParametryKategorii() const;
   std::vector<Parametr>& ParametryZapisu();
   void ZapiszNotatke(int id) const;
   void WstawPowiazanie(int id) const;

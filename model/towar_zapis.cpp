@@ -2,6 +2,7 @@
 #include <array>
 
 #include "model/bledy.h"
+#include "model/kategorie.h"
 #include "model/kontekst.h"
 #include "model/nazwy_skrocone.h"
 #include "model/stawki_vat.h"
@@ -172,15 +173,23 @@ TDmVLTTowar::Plan TDmVLTTowar::Zaplanuj() const {
   return plan;
 }
 
+std::vector<int> TDmVLTTowar::ParametryKategorii() const {
+  TDmVLTListaKategorii* const kategorie = m_otoczenie.kategorie;
+  if (kategorie && kategorie->Znajdz(KatId())) return kategorie->Parametry(KatId());
+  std::vector<int> parametry;
+  for (auto odczyt = Context.baza.Otworz("select ParId from KatParam where KatId = :KatId",
+                                         {TypPola::Calkowite}, {{"KatId", KatId()}});
+       odczyt.Nastepny();)
+    parametry.push_back(static_cast<int>(odczyt[0].AsInteger()));
+  return parametry;
+}
+
 // Every parameter of the category has a value.
 void TDmVLTTowar::UzupelnijWartosci(Plan& plan) const {
   if (KatId() < 0 || (!CzyNowy() && !Zmienione({K::KatId}))) return;
   WartosciParametrow wartosci = m_wartosci;
-  for (auto odczyt = Context.baza.Otworz("select ParId from KatParam where KatId = :KatId",
-                                         {TypPola::Calkowite}, {{"KatId", KatId()}});
-       odczyt.Nastepny();)
-    if (const int parId = static_cast<int>(odczyt[0].AsInteger()); !wartosci.Wartosc(parId))
-      wartosci.Ustaw(parId, 0);
+  for (const int parId : ParametryKategorii())
+    if (!wartosci.Wartosc(parId)) wartosci.Ustaw(parId, 0);
   plan.wartosci = std::move(wartosci);
 }
 

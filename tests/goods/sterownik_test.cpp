@@ -61,6 +61,41 @@ TEST_F(SterownikTest, OstrzezenieOStanach) {
   EXPECT_EQ(gdzie("59001;Chleb;3\n59002\n"), 0);
 }
 
+// With everything a file can carry, each further good costs a server the rows that come together and nothing
+// of its own.
+TEST_F(SterownikTest, DodawanyTowarNiePytaBazy) {
+  UstawPola({0, 1, 24, 25, 26, 27, 28, 29, 30});
+  opcje.CBImportStanow = 1;
+  struktura.separator = u"\t"_s;
+  b.baza.ExecSQL("insert into Kontrahent (Nazwa, NIP) values ('Mlekpol', '525-000-00-07')");
+  const auto importuj = [&](int od, int ile) {
+    QString plik;
+    for (int i = od; i < od + ile; ++i)
+      plik += u"59%1\tSer %1\tNabiał\tkg\t(58%1|S%1|7)\tSmak: Ostry(1:tak|nie);Moc(%2:0..9999)\t%2.5\t"_s
+                  .arg(1000 + i)
+                  .arg(i) +
+              u"5250000007\t(525 000 00 07)\n"_s;
+    std::map<std::string, int> polecenia;
+    b.baza.UstawPodsluch([&](std::string_view sql) { ++polecenia[std::string(sql.substr(0, 30))]; });
+    EXPECT_EQ(Importuj(plik).liczniki[Licznik::Dodane], ile) << Pominiete().join(u'\n').toStdString();
+    b.baza.UstawPodsluch({});
+    return polecenia;
+  };
+  importuj(0, 1);  // the dictionaries
+  const auto jeden = importuj(1, 1);
+  int ponad = 0;
+  for (const auto& [sql, ile] : importuj(2, 101)) {
+    const int przybylo = ile - (jeden.contains(sql) ? jeden.at(sql) : 0);
+    const bool klucz = sql.starts_with("select last_insert") || sql.starts_with("select nextval");
+    EXPECT_TRUE(przybylo <= 0 || klucz || !sql.starts_with("select")) << sql;
+    ponad += przybylo;
+  }
+  EXPECT_TRUE(ponad <= 100 || !NaSerwerze()) << ponad;
+  EXPECT_EQ(b.Liczba("select count(*) from TowWartosc"), 206);
+  EXPECT_EQ(b.Liczba("select count(*) from TowDostawca where KontrId = 1"), 103);
+  EXPECT_EQ(b.Liczba("select count(*) from Istw where StanMag = TowId - 1 + 0.5"), 103);
+}
+
 // Each statement of a run fails in turn, as a full disk, as refused values and as a collision with another
 // program. Whatever happens, the counters and the buffer say what the database holds, and the same import
 // afterwards completes. A collision in a batch is not seen at all: its records come again.

@@ -33,7 +33,9 @@ class TowaryProbne : public testing::Test {
     reguly.formaty.Dodaj({27, 5});
   }
 
-  OtoczenieTowarow Otoczenie() { return {reguly, *skroty, &bufor, nullptr, nullptr, unikalneCKU}; }
+  OtoczenieTowarow Otoczenie() {
+    return {.reguly = reguly, .skroty = *skroty, .bufor = &bufor, .unikalneCKU = unikalneCKU};
+  }
 
   // A good that can be saved as it stands.
   std::unique_ptr<TDmVLTTowar> Nowy(const QString& kod, const QString& nazwa) {

@@ -928,10 +928,6 @@ update SklepFlagi
   set Zmiana = getdate()
   where TowId = :TowId;
 
-select ParId
-  from KatParam
-  where KatId = :KatId;
-
 select AsId
   from Asort
   where Nazwa = :Nazwa
