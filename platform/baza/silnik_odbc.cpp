@@ -9,6 +9,7 @@
 #include <soci/soci.h>
 
 #include "platform/baza/dialekt_tsql.h"
+#include "platform/baza/dziennik_sterownika.h"
 #include "platform/baza/napis_odbc.h"
 #include "platform/baza/polaczenie.h"
 #include "platform/baza/polecenie_odbc.h"
@@ -82,6 +83,7 @@ class SilnikOdbc final : public Silnik {
   SilnikOdbc(const ParametryPolaczenia& parametry, const Podsluch& podsluch) : Silnik(podsluch) {
     // The driver would take the encoding of texts from the process's locale.
     qputenv("PGCLIENTENCODING", "UTF8");
+    WylaczDziennikSterownika();
     try {
       soci::connection_parameters polaczenie(soci::odbc, NapisPolaczenia(parametry).toStdString());
       polaczenie.set_option(soci::odbc_option_driver_complete, std::to_string(SQL_DRIVER_NOPROMPT));

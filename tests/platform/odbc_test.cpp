@@ -1,4 +1,9 @@
+#include <QDir>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include "platform/baza/dialekt.h"
 #include "platform/baza/napis_odbc.h"
@@ -41,6 +46,36 @@ TEST(Dialekt, SlowaInneNaSerwerze) {
   EXPECT_EQ(DialektTsql().Przeloz("select 'ą''ę', 'c', '''ć', '' where A = :rowid and B = 'd''ń'"),
             "select N'ą''ę', 'c', N'''ć', '' where A = :rowid and B = N'd''ń'");
   EXPECT_EQ(DialektTsql().Pierwsze(3, "select A from T"), "select top 3 A from T");
+}
+
+// The driver keeps no log, neither in a file of its own nor where somebody has pointed its name to.
+TEST(SterownikOdbc, NiePiszeDziennika) {
+  if (!NaSerwerze()) GTEST_SKIP() << "of servers only";
+  const QTemporaryDir folder;
+  const QString cel = folder.filePath(u"cel.txt"_s);
+  const QString koniec = QString::fromLocal8Bit(getpwuid(geteuid())->pw_name) + u"%1.log"_s.arg(getpid());
+  for (const QString& nazwa :
+       {u"psqlodbc_"_s, u"mylog_"_s, u"psqlodbc_test_platform_"_s, u"mylog_test_platform_"_s})
+    EXPECT_TRUE(QFile::link(cel, u"/tmp/"_s + nazwa + koniec));
+  const auto dzienniki = [] {
+    return QDir(u"/tmp"_s).entryList({u"*%1.log"_s.arg(getpid())}, QDir::System | QDir::Files);
+  };
+  const QStringList podlozone = dzienniki();
+  int polaczen = 0;
+  for (const QString& dopisek :
+       {QString(), u";CommLog=1;Debug=1"_s, u";B3=1;B2=1"_s, u";Database=nie_ma"_s}) {
+    TVLTBazaDanych baza(*ParametryPolaczenia::ZTekstu(u"odbc:"_s + BazaSerwera::Serwer() + dopisek));
+    try {
+      baza.Polacz();
+      ++polaczen;
+    } catch (const EBladBazy&) {
+    }
+  }
+  EXPECT_EQ(polaczen, 3);
+  EXPECT_FALSE(QFile::exists(cel));
+  EXPECT_EQ(podlozone.size(), 4);
+  EXPECT_EQ(dzienniki(), podlozone);
+  for (const QString& nazwa : dzienniki()) QFile::remove(u"/tmp/"_s + nazwa);
 }
 
 class Serwer : public testing::Test {
