@@ -58,7 +58,15 @@ void PostepTerminala::Gotowe() {
 
 void PostepTerminala::Pokaz(const QString& tytul, const QString& tekst) {
   m_pokazane.push_back({tytul, tekst});
-  const QString linia = terminal::JednaLinia({tytul, tekst}) + u'\n';
+  WypiszMiedzyLiniami(terminal::JednaLinia({tytul, tekst}));
+}
+
+void PostepTerminala::PokazUwage(const QString& linia) {
+  WypiszMiedzyLiniami(terminal::JednaLinia({u"Uwaga"_s, linia}));
+}
+
+void PostepTerminala::WypiszMiedzyLiniami(const QString& tekst) {
+  const QString linia = tekst + u'\n';
   if (m_zywy) {
     terminal::WypiszBlad(kCzyscLinie + linia);
     if (m_trwa) Rysuj();

@@ -21,6 +21,7 @@ class PostepTerminala final : public IPostep {
   void DopiszLiczbe(long long liczba) override;
   void Gotowe() override;
   void Pokaz(const QString& tytul, const QString& tekst) override;
+  void PokazUwage(const QString& linia) override;
   void Koniec() override;
 
   // Every message box shown so far.
@@ -33,6 +34,7 @@ class PostepTerminala final : public IPostep {
   QString OpisTempa() const;
   void Rysuj() const;
   void ZamknijLinie();
+  void WypiszMiedzyLiniami(const QString& linia);
 
   const bool m_zywy;
   QString m_tekst;

@@ -16,8 +16,8 @@ struct PozycjaJson {
   Licznik licznik;
 };
 
-// The result of a run and the message boxes shown around it as one JSON object in one line of UTF-8, the line
-// end included.
+// The result of a run, its notices and the message boxes shown around it as one JSON object in one line of
+// UTF-8, the line end included.
 std::string WynikJson(std::u16string_view operacja, std::u16string_view koniec,
                       std::span<const PozycjaJson> liczniki, const WynikPrzebiegu& wynik,
                       const std::vector<Komunikat>& pokazane);

@@ -1,12 +1,15 @@
 #pragma once
 
-#include <QString>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
+
+#include <QString>
 
 #include "exchange/komunikat.h"
 #include "exchange/linia_rekordu.h"
+#include "exchange/spostrzezenie.h"
 #include "exchange/struktura_pliku.h"
 
 enum class WynikCzytania {
@@ -60,6 +63,8 @@ class Czytnik {
   int NumerRekordu() const { return m_numer; }
   // Set when the record last read has fewer fields than declared.
   virtual std::optional<NiezgodnaLiczbaPol> SprawdzLiczbePol() const { return std::nullopt; }
+  // What is remarkable about the record last read; usually nothing.
+  const std::vector<Spostrzezenie>& Spostrzezenia() const { return m_spostrzezenia; }
   // Whether the file carries a catalogue field at all (own layout: every field).
   bool NiesiePole(int pole) const { return pole >= 0 && pole < LiczbaWartosci(m_rodzaj) && m_pola[pole]; }
   // Whether the record last read has a status column; the user's flag for the field is the caller's business.
@@ -79,6 +84,7 @@ class Czytnik {
   ZbiorPol m_pola;
   LiniaRekordu m_linia;
   int m_numer = 0;
+  std::vector<Spostrzezenie> m_spostrzezenia;  // each record begins them anew
   std::optional<Komunikat> m_blad;
 };
 

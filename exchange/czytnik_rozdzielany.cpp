@@ -29,6 +29,7 @@ int CzytnikRozdzielany::Rozloz(std::string_view linia) {
     }
     m_reguly.Zapisz(pole, Przytnij(wartosc));
   }
+  SprawdzReszte(linia, m_separator);
   m_linia = LiniaRekordu(m_reguly.Zloz(), m_strona, pobrane);
   return pobrane;
 }

@@ -20,6 +20,7 @@ int CzytnikSzerokosci::Rozloz(std::string_view linia) {
     linia.remove_prefix(wartosc.size());
     m_reguly.Zapisz(kolumna.pole, Przytnij(wartosc));
   }
+  SprawdzReszte(linia);
   m_linia = LiniaRekordu(m_reguly.Zloz(), m_strona, pobrane);
   return pobrane;
 }

@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include "exchange/bajty.h"
+
 namespace {
 
 constexpr qint64 kCoIleLinii = 4096;  // between two reports of progress while counting
@@ -94,11 +96,19 @@ WynikCzytania CzytnikTekstowy::NastepnaLinia(std::string_view& linia) {
   return wynik;
 }
 
+void CzytnikTekstowy::SprawdzReszte(std::string_view reszta, std::string_view separator) {
+  reszta = Przytnij(reszta);
+  while (!separator.empty() && reszta.starts_with(separator))
+    reszta = Przytnij(reszta.substr(separator.size()));
+  if (!reszta.empty()) m_spostrzezenia.push_back({Spostrzezenie::Rodzaj::WiecejPol});
+}
+
 WynikCzytania CzytnikTekstowy::Nastepny() {
   std::string_view linia;
   const WynikCzytania wynik = NastepnaLinia(linia);
   if (wynik != WynikCzytania::Rekord) return wynik;
   ++m_numer;
+  m_spostrzezenia.clear();
   m_znaleziono = Rozloz(linia);
   return wynik;
 }

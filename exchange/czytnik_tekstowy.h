@@ -22,6 +22,8 @@ class CzytnikTekstowy : public Czytnik {
 
   // Makes m_linia of a record's line and returns the number of fields found in it.
   virtual int Rozloz(std::string_view linia) = 0;
+  // What is left of a line behind its last field: more than separators and blanks is noticed.
+  void SprawdzReszte(std::string_view reszta, std::string_view separator = {});
   // The line of the next record, or why there is none. Empty lines and comments are Pominiety.
   virtual WynikCzytania NastepnaLinia(std::string_view& linia);
   // The first line, when it is not analysed.

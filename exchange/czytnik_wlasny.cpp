@@ -9,6 +9,12 @@ int DeklarowanaLiczbaPol(RodzajRekordu rodzaj) {
   return rodzaj == RodzajRekordu::Towary ? PoleTowaru::Status : PoleKontrahenta::LiczbaWartosci;
 }
 
+// What stands behind so many fields.
+std::string_view ZaOstatnim(std::string_view linia, int pol) {
+  for (; pol > 0; --pol) linia.remove_prefix(linia.find('\t') + 1);
+  return linia;
+}
+
 }  // namespace
 
 CzytnikWlasny::CzytnikWlasny(const StrukturaPliku& struktura)
@@ -56,5 +62,6 @@ int CzytnikWlasny::Rozloz(std::string_view linia) {
   const std::string_view liczona =
       m_rodzaj == RodzajRekordu::Kontrahenci ? linia.substr(0, linia.empty() ? 0 : linia.size() - 1) : linia;
   m_polWLinii = static_cast<int>(std::count(liczona.begin(), liczona.end(), '\t')) + 1;
+  if (m_polWLinii > LiczbaWartosci(m_rodzaj)) SprawdzReszte(ZaOstatnim(linia, LiczbaWartosci(m_rodzaj)));
   return m_polWLinii;
 }

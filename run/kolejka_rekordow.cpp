@@ -32,6 +32,6 @@ void KolejkaRekordow::CzytajBlok() {
     if (wynik != WynikCzytania::Rekord) continue;
     const LiniaRekordu& linia = m_czytnik.Linia();
     m_rekordy.push_back({std::string(linia.Reszta()), linia.Strona(), m_czytnik.NumerRekordu(),
-                         m_czytnik.SprawdzLiczbePol(), m_czytnik.MaStatus()});
+                         m_czytnik.SprawdzLiczbePol(), m_czytnik.MaStatus(), m_czytnik.Spostrzezenia()});
   }
 }

@@ -14,6 +14,7 @@ struct RekordPliku {
   int numer = 0;  // from 1
   std::optional<NiezgodnaLiczbaPol> niezgodnosc = {};
   bool maStatus = false;
+  std::vector<Spostrzezenie> spostrzezenia = {};
 
   LiniaRekordu Linia() const { return {bajty, strona}; }
 };

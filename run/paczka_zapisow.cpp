@@ -5,6 +5,7 @@
 #include "platform/baza/sesja.h"
 #include "run/liczniki.h"
 #include "run/raport_problemow.h"
+#include "run/uwagi.h"
 
 void PaczkaZapisow::PrzedRekordem() {
   if (m_otwarta && (m_rekordow >= kNajwiecejRekordow || Zegar::now() - m_poczatek >= kNajdluzej)) {
@@ -45,6 +46,7 @@ void PaczkaZapisow::Zatwierdz() {
   }
   m_liczniki.Zatwierdz();
   m_raport.Zatwierdz();
+  m_uwagi.Zatwierdz();
 }
 
 void PaczkaZapisow::Wycofaj() noexcept {
@@ -67,6 +69,7 @@ void PaczkaZapisow::Porzuc() noexcept {
   m_baza.WycofTransakcji();
   m_liczniki.Porzuc();
   m_raport.Porzuc();
+  m_uwagi.Porzuc();
 }
 
 void PaczkaZapisow::UstapInnym() {

@@ -9,18 +9,20 @@
 class Liczniki;
 class RaportProblemow;
 class TVLTBazaDanych;
+class Uwagi;
 
 // Groups the saves of up to kNajwiecejRekordow records or one second into one transaction of the database.
 // Inside, every unit (a save, a stock write, a new dictionary entry) is a savepoint of its own, so a batch
-// never holds half a unit. Counters and report lines of the batch become final with its commit.
+// never holds half a unit. Counters, report lines and notices of the batch become final with its
+// commit.
 //
 // What memory may rely on:
 // 1. the unit of rollback is the savepoint; a refused record keeps the units it completed;
 // 2. memory changes only after its unit succeeded;
-// 3. when a commit fails, or the database ends the transaction by itself, the counters and lines of the batch
-//    are dropped. After a collision with another program what outlives the batch goes back with it and its
-//    records come again; any other exception ends the run, whose frame marks the longer-lived buffers as not
-//    ready;
+// 3. when a commit fails, or the database ends the transaction by itself, the counters, lines and notices of
+//    the batch are dropped. After a collision with another program what outlives the batch goes back with it
+//    and its records come again; any other exception ends the run, whose frame marks the longer-lived buffers
+//    as not ready;
 // 4. whether a transaction is open is asked of the database, not remembered.
 class PaczkaZapisow {
  public:
@@ -32,8 +34,8 @@ class PaczkaZapisow {
   static constexpr std::chrono::milliseconds kPrzerwaCo{5000};
   static constexpr std::chrono::milliseconds kPrzerwa{110};
 
-  PaczkaZapisow(TVLTBazaDanych& baza, Liczniki& liczniki, RaportProblemow& raport)
-      : m_baza(baza), m_liczniki(liczniki), m_raport(raport) {}
+  PaczkaZapisow(TVLTBazaDanych& baza, Liczniki& liczniki, RaportProblemow& raport, Uwagi& uwagi)
+      : m_baza(baza), m_liczniki(liczniki), m_raport(raport), m_uwagi(uwagi) {}
 
   // Called inside every transaction just begun; `obceZmiany` is set in the first batch and whenever another
   // connection has committed something since the batch before: what is kept of the database must be read
@@ -68,6 +70,7 @@ class PaczkaZapisow {
   TVLTBazaDanych& m_baza;
   Liczniki& m_liczniki;
   RaportProblemow& m_raport;
+  Uwagi& m_uwagi;
   bool m_otwarta = false;
   bool m_pojedynczo = false;
   int m_zakonczonych = 0;

@@ -21,6 +21,8 @@ class IPostep {
   virtual void Gotowe() = 0;
   // A message box: caption and text. Waits until it was read where somebody can read it.
   virtual void Pokaz(const QString& tytul, const QString& tekst) = 0;
+  // One notice, at the end. Where the result's list is shown instead, nothing is done.
+  virtual void PokazUwage(const QString& /*linia*/) {}
   // The run is over; nothing more will come.
   virtual void Koniec() = 0;
 };

@@ -29,6 +29,7 @@ class Przebieg::PostepZapamietujacy final : public IPostep {
     m_komunikaty.push_back({tytul, tekst});
     m_postep.Pokaz(tytul, tekst);
   }
+  void PokazUwage(const QString& linia) override { m_postep.PokazUwage(linia); }
   void Koniec() override { m_postep.Koniec(); }
 
  private:
@@ -42,7 +43,7 @@ Przebieg::Przebieg(const ParametryPrzebiegu& parametry, const OpisPrzebiegu& opi
       m_zapamietujacy(std::make_unique<PostepZapamietujacy>(parametry.postep, m_komunikaty)),
       m_postep(*m_zapamietujacy),
       m_raport(m_postep, m_liczniki),
-      m_paczka(parametry.sesja.baza, m_liczniki, m_raport),
+      m_paczka(parametry.sesja.baza, m_liczniki, m_raport, m_uwagi),
       m_oper(parametry.oper, m_paczka) {}
 
 Przebieg::~Przebieg() = default;
@@ -64,7 +65,7 @@ WynikPrzebiegu Przebieg::Wykonaj() {
   Zakoncz(koniec);
   m_parametry.oper.UstawPostepPrzebiegu(nullptr);
   const std::chrono::duration<double> czas = std::chrono::steady_clock::now() - poczatek;
-  return {koniec, m_liczniki, std::move(m_komunikaty), m_raport.Sciezka(), czas.count()};
+  return {koniec, m_liczniki, std::move(m_komunikaty), m_raport.Sciezka(), czas.count(), m_uwagi.Lista()};
 }
 
 std::optional<Komunikat> Przebieg::Otworz() {
@@ -122,6 +123,7 @@ void Przebieg::Zakoncz(KoniecPrzebiegu koniec) {
   m_raport.Zamknij();
   m_postep.Gotowe();
   if (koniec != KoniecPrzebiegu::Blad) m_postep.Pokaz(u"Koniec"_s, Tekst(m_opis.zakonczono));
+  for (const Uwaga& uwaga : m_uwagi.Lista()) m_postep.PokazUwage(uwaga.Linia());
   PrzedPodsumowaniem();
   for (const PozycjaPodsumowania& pozycja : m_opis.podsumowanie) {
     m_postep.Faza(Tekst(pozycja.tekst));

@@ -14,6 +14,7 @@
 #include "run/paczka_zapisow.h"
 #include "run/postep.h"
 #include "run/raport_problemow.h"
+#include "run/uwagi.h"
 
 class IOperator;
 struct KontekstSesji;
@@ -44,6 +45,7 @@ struct WynikPrzebiegu {
   std::vector<Komunikat> komunikaty;  // every message box shown
   QString plikPominietych;            // empty when none was created
   double sekund = 0;
+  std::vector<Uwaga> uwagi = {};  // what was noticed and not refused
 };
 
 // What one run kind says of itself.
@@ -113,6 +115,7 @@ class Przebieg {
 
  protected:
   RaportProblemow m_raport;
+  Uwagi m_uwagi;  // shown at the end, before the summary
   PaczkaZapisow m_paczka;
 
  private:

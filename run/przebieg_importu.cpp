@@ -131,6 +131,7 @@ PrzebiegImportu::Krok PrzebiegImportu::Rozpatrz(const RekordPliku& rekord, Pytan
       PominRekord(rekord);
       break;
     case OdpowiedzLiczbaPol::Ignoruj:
+      ZglosSpostrzezenia(rekord);
       if (Rekord(rekord) == PoRekordzie::Stop) return Krok::Zatrzymany;
   }
   m_liczniki.Zwieksz(Licznik::Rekordy);
@@ -158,6 +159,11 @@ KoniecPrzebiegu PrzebiegImportu::PoOstatnimRekordzie(WynikCzytania wynik) {
   if (wynik == WynikCzytania::Koniec) return KoniecPrzebiegu::Zakonczono;
   OglosBlad(m_czytnik->Blad()->naglowek, m_czytnik->Blad()->tekst);
   return KoniecPrzebiegu::Blad;
+}
+
+void PrzebiegImportu::ZglosSpostrzezenia(const RekordPliku& rekord) {
+  for (const Spostrzezenie& s : rekord.spostrzezenia)
+    m_uwagi.Zglos(UwagaZeSpostrzezenia(s, Parametry().struktura.rodzaj), rekord.numer);
 }
 
 void PrzebiegImportu::PominRekord(const RekordPliku& rekord) {

@@ -61,6 +61,7 @@ class PrzebiegImportu : public Przebieg {
   bool PowtorzPaczke(const EBladBazy& blad, KolejkaRekordow& kolejka);
   KoniecPrzebiegu PoOstatnimRekordzie(WynikCzytania wynik);
   void PominRekord(const RekordPliku& rekord);
+  void ZglosSpostrzezenia(const RekordPliku& rekord);
 
   const PolaNazwy m_polaNazwy;
   std::unique_ptr<Czytnik> m_czytnik;

@@ -95,8 +95,25 @@ TEST(WierszPolecen, KazdyKoniecMaStatusIObiekt) {
     EXPECT_EQ(
         klucze.join(u' '),
         u"asortymentow bezZmian czasSekund dodanych formatowKodowWazonych jednostek kategorii komunikaty "
-        "koniec operacja parametrow plikPominietych pominietych poprawionych rekordow stawek"_s);
+        "koniec operacja parametrow plikPominietych pominietych poprawionych rekordow stawek uwagi"_s);
   }
+}
+
+// Between the end and the summary on standard error, and in the object.
+TEST(WierszPolecen, UwagiStojaZaKoncemPrzedPodsumowaniem) {
+  const Stanowisko s;
+  s.Zapisz(u"plik"_s, "kod;nazwa\n1000;a;x\n1001;b;;\n1002;c;;x\n");
+  const Wynik wynik =
+      s.Import(u"plik"_s, {u"--ustaw"_s, u"ParTypPlikuTow=1"_s, u"--ustaw"_s, u"ParSeparatorTow=;"_s,
+                           u"--ustaw"_s, u"ParNieAnalPierwTow=1"_s, u"--ustaw"_s, u"ParIloscPolTow=2"_s,
+                           u"--ustaw"_s, u"ParPoleTow0=00"_s, u"--ustaw"_s, u"ParPoleTow1=01"_s});
+  const QJsonObject uwaga = wynik.Json()[u"uwagi"_s].toArray().at(0).toObject();
+  EXPECT_EQ(uwaga[u"rodzaj"_s].toString(), u"wiecej-pol"_s);
+  EXPECT_EQ(uwaga[u"ile"_s].toInt(), 2);
+  EXPECT_EQ(uwaga[u"rekordy"_s].toArray(), QJsonArray({1, 3}));
+  const qsizetype miejsce = wynik.bledy.indexOf(u"\nUwaga: "_s + uwaga[u"tekst"_s].toString());
+  EXPECT_GT(miejsce, wynik.bledy.indexOf(u"\nKoniec: "_s)) << wynik.bledy.toStdString();
+  EXPECT_LT(miejsce, wynik.bledy.indexOf(u"\nIlość dodanych towarów"_s)) << wynik.bledy.toStdString();
 }
 
 TEST(WierszPolecen, KolejnoscUstawien) {

@@ -49,6 +49,34 @@ TEST(CzytnikRozdzielany, LinieIPola) {
           });
 }
 
+TEST(Spostrzezenia, WiecejPolNizOpisano) {
+  const auto rozdzielany = [](const QString& separator) {
+    StrukturaPliku s = Struktura(kTowary, TypPliku::Rozdzielany, {u"00"_s, u"18"_s});
+    s.separator = separator;
+    return s;
+  };
+  const auto wlasny = [](int pol, const char* reszta) {
+    return "naglowek\nA" + std::string(pol - 1, '\t') + reszta;
+  };
+  const struct {
+    StrukturaPliku struktura;
+    std::string tresc;
+    QStringList oczekiwane;
+  } przypadki[] = {
+      {rozdzielany(u","_s), "1,\"3,69\"\n2,3\n3,4,, ,\n4,5, , .\n", {u"1 WiecejPol"_s, u"4 WiecejPol"_s}},
+      {rozdzielany(u"||"_s), "1||2||||\n1||2||x\n1||2|||", {u"2 WiecejPol"_s, u"3 WiecejPol"_s}},
+      {rozdzielany(u"\t"_s), "1\t2\t\t\n1\t2\t\t0", {u"2 WiecejPol"_s}},
+      {Struktura(kTowary, TypPliku::StalaSzerokosc, {u"003"_s, u"012"_s}),
+       "123AB  \n123ABx\n123A",
+       {u"2 WiecejPol"_s}},
+      {Struktura(kTowary, TypPliku::Zorvik, {}), wlasny(32, "1\t"), {}},
+      {Struktura(kTowary, TypPliku::Zorvik, {}), wlasny(33, "x"), {u"1 WiecejPol"_s}},
+      {Struktura(kKontrahenci, TypPliku::Zorvik, {}), wlasny(36, "1\t\t"), {}},
+      {Struktura(kKontrahenci, TypPliku::Zorvik, {}), wlasny(37, "x"), {u"1 WiecejPol"_s}},
+  };
+  for (const auto& p : przypadki) EXPECT_EQ(Zauwazone(p.struktura, p.tresc), p.oczekiwane) << p.tresc;
+}
+
 TEST(CzytnikRozdzielany, Separatory) {
   StrukturaPliku s = Struktura(kTowary, TypPliku::Rozdzielany, {u"00"_s, u"01"_s, u"02"_s});
   s.CBKwalifikatorTekstu = KwalifikatorTekstu::Brak;

@@ -78,3 +78,22 @@ inline QStringList OdczytPliku(const StrukturaPliku& struktura, const QString& s
 inline QStringList OdczytTresci(const StrukturaPliku& struktura, const std::string& tresc) {
   return OdczytPliku(struktura, PlikProbny(tresc).Sciezka());
 }
+
+// What the reader notices, "record kind field text"; what says nothing is left out.
+inline QStringList Zauwazone(const StrukturaPliku& struktura, const std::string& tresc) {
+  const char* const rodzaje[] = {"WiecejPol"};
+  const PlikProbny plik(tresc);
+  const std::unique_ptr<Czytnik> czytnik = UtworzCzytnik(struktura);
+  EXPECT_FALSE(czytnik->Otworz(plik.Sciezka()));
+  QStringList wynik;
+  const auto dopisz = [&](int rekord, const Spostrzezenie& s) {
+    QStringList opis{QString::number(rekord), QString::fromLatin1(rodzaje[static_cast<size_t>(s.rodzaj)])};
+    if (s.pole != Spostrzezenie::kCalaLinia) opis << QString::number(s.pole);
+    if (!s.szczegol.isEmpty()) opis << s.szczegol;
+    wynik << opis.join(QLatin1Char(' '));
+  };
+  for (WynikCzytania w; (w = czytnik->Nastepny()) == WynikCzytania::Rekord || w == WynikCzytania::Pominiety;)
+    if (w == WynikCzytania::Rekord)
+      for (const Spostrzezenie& s : czytnik->Spostrzezenia()) dopisz(czytnik->NumerRekordu(), s);
+  return wynik;
+}

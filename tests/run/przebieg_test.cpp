@@ -235,11 +235,54 @@ TEST_F(PrzebiegTest, BladZatwierdzeniaKonczyPrzebieg) {
   EXPECT_TRUE(wynik.komunikaty[0].tekst.contains(u"do rekordu %1 włącznie"_s.arg(kPaczka)));
 }
 
+// A notice counts records, each once, and shows the first ten; it is told after the end and before the
+// summary and changes no counter. Skipped lines and records undone with their batch leave none.
+TEST_F(PrzebiegTest, UwagiSaLiczoneIPokazaneNaKoncu) {
+  baza.baza.UstawPodsluch([razy = 0](std::string_view sql) mutable {
+    if (sql.starts_with("insert") && ++razy == 3) throw EBladBazy(RodzajBleduBazy::Kolizja, u"Kolizja"_s, {});
+  });
+  const WynikPrzebiegu wynik = Uruchom("1;a;3,69\n2;b\n#;;x\n" + Rekordy(11).replace("a\n", "a;;x\n"));
+  baza.baza.UstawPodsluch({});
+  ASSERT_EQ(wynik.uwagi.size(), 1u);
+  EXPECT_EQ(wynik.uwagi[0].NazwaRodzaju(), u"wiecej-pol"_s);
+  EXPECT_EQ(wynik.uwagi[0].ile, 12);
+  EXPECT_THAT(wynik.uwagi[0].rekordy, ElementsAre(1, 3, 4, 5, 6, 7, 8, 9, 10, 11));
+  EXPECT_EQ(wynik.liczniki[Licznik::Dodane], 13);
+  const qsizetype koniec = postep.linie.indexOf(u"Koniec: Zakończono"_s);
+  EXPECT_THAT(postep.linie.mid(koniec + 1),
+              ElementsAre(u"Uwaga: "_s + wynik.uwagi[0].tekst +
+                              u". Rekordów: 12 (1, 3, 4, 5, 6, 7, 8, 9, 10, 11, …)."_s,
+                          u"Dodanych 13"_s, u"Pominiętych 0"_s));
+}
+
+TEST_F(PrzebiegTest, UwagiUtraconejPaczkiPrzepadaja) {
+  baza.baza.UstawPodsluch([](std::string_view sql) {
+    if (sql == "commit") throw EBladBazy(RodzajBleduBazy::PelnyDysk, u"Brak miejsca"_s, {});
+  });
+  EXPECT_TRUE(Uruchom("1;a;x\n").uwagi.empty());
+  baza.baza.UstawPodsluch({});
+  EXPECT_EQ(Uruchom("1;a\n2;stop;x\n3;a;x\n").uwagi.at(0).ile, 1);  // also after a stop
+}
+
+TEST(Uwagi, RozneTekstyMajaGranice) {
+  Uwagi uwagi;
+  for (int i = 1; i <= 60; ++i) uwagi.Zglos({RodzajUwagi::WiecejPol, QString::number(i)}, i);
+  uwagi.Zglos({RodzajUwagi::WiecejPol, u"1"_s}, 61);
+  uwagi.Zglos({RodzajUwagi::WiecejPol, u"1"_s}, 61);
+  EXPECT_TRUE(uwagi.Lista().empty());
+  uwagi.Zatwierdz();
+  const auto lista = uwagi.Lista();
+  ASSERT_EQ(lista.size(), 51u);
+  EXPECT_EQ(lista.front().ile, 2);
+  EXPECT_THAT(lista.back().rekordy, ElementsAre(51, 52, 53, 54, 55, 56, 57, 58, 59, 60));
+}
+
 TEST_F(PrzebiegTest, CudzeZmianyOdswiezajaPamiec) {
   std::vector<bool> otwarcia;
   Liczniki liczniki;
   RaportProblemow raport(postep, liczniki);
-  PaczkaZapisow paczka(baza.baza, liczniki, raport);
+  Uwagi uwagi;
+  PaczkaZapisow paczka(baza.baza, liczniki, raport, uwagi);
   paczka.PoOtwarciu = [&](bool obce) { otwarcia.push_back(obce); };
   TVLTBazaDanych inna;
   baza.Polacz(inna);

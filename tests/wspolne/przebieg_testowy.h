@@ -25,6 +25,7 @@ class PostepTestowy final : public IPostep {
   void Pokaz(const QString& tytul, const QString& tekst) override {
     linie << tytul + QStringLiteral(": ") + tekst;
   }
+  void PokazUwage(const QString& linia) override { linie << QStringLiteral("Uwaga: ") + linia; }
   void Koniec() override { koniec = true; }
 
  private:
