@@ -45,7 +45,7 @@ class PrzebiegImportuKontrahentow final : public PrzebiegImportu {
     };
     m_kontekst.emplace(KontekstImportuKontrahentow{Parametry().sesja, m_opcje, Parametry().struktura, Plik(),
                                                    Parametry().separatorDziesietny, m_bufor, m_numerySklepow,
-                                                   m_raport, m_liczniki});
+                                                   m_raport, m_uwagi, m_liczniki});
     m_rekord.emplace(*m_kontekst);
   }
 

@@ -8,12 +8,13 @@ class Liczniki;
 class NumerySklepow;
 class RaportProblemow;
 class TVLTBuforNip;
+class Uwagi;
 struct KontekstSesji;
 struct OpcjeImportuKontrahentow;
 
 // What the records of one contractor import share. The run owns everything that is referred to here. Around
-// every record it has a batch open, in whose transaction each save is a savepoint; counters and report lines
-// belong to the batch.
+// every record it has a batch open, in whose transaction each save is a savepoint; counters, report lines
+// and notices belong to the batch.
 struct KontekstImportuKontrahentow {
   KontekstSesji& sesja;
   const OpcjeImportuKontrahentow& opcje;
@@ -24,6 +25,7 @@ struct KontekstImportuKontrahentow {
   TVLTBuforNip& bufor;
   NumerySklepow& numerySklepow;
   RaportProblemow& raport;
+  Uwagi& uwagi;
   Liczniki& liczniki;
 
   // Whether a field of a contractor that exists already is to be written.

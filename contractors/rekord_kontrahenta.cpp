@@ -72,7 +72,7 @@ Odmowa RekordKontrahenta::Przygotuj(Decyzja decyzja, int znaleziony) {
 }
 
 Odmowa RekordKontrahenta::Wypelnij(const PolaRekordu& pola, Decyzja decyzja) {
-  TransferKontrahenta transfer(m_import, pola, m_kontrahent);
+  TransferKontrahenta transfer(m_import, pola, m_numer, m_kontrahent);
   if (auto odmowa = transfer.Przenies(PoleKontrahenta::NazwaSkrocona, PoleKontrahenta::Miasto)) return odmowa;
   if (decyzja == Decyzja::DodajJesliInnyAdres)
     if (auto odmowa = SprawdzAdres()) return odmowa;

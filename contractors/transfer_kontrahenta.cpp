@@ -7,6 +7,7 @@
 #include "exchange/pola_rekordu.h"
 #include "model/kontrahent.h"
 #include "run/raport_problemow.h"
+#include "run/uwagi.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,6 +21,8 @@ struct Przenoszone {
   int pole;
   K& kontrahent;
   RaportProblemow& raport;
+  Uwagi& uwagi;
+  int numer;  // of the record
 };
 
 template <auto Ustaw>
@@ -67,18 +70,12 @@ bool WezKropke(QStringView& tekst) {
   return true;
 }
 
-// day.month.year; invalid for anything else.
-QDate Data(QStringView tekst) {
-  const int dzien = WezCyfry(tekst, 1, 2);
-  if (!WezKropke(tekst)) return {};
-  const int miesiac = WezCyfry(tekst, 1, 2);
-  if (!WezKropke(tekst)) return {};
-  const int rok = WezCyfry(tekst, 4, 4);
-  return tekst.isEmpty() ? QDate(rok, miesiac, dzien) : QDate();
-}
-
 Odmowa TerminKarty(const Przenoszone& p) {
-  if (const QDate data = Data(p.pola.Trim(p.pole)); data.isValid()) p.kontrahent.UstawTermWaznKarty(data);
+  const QString tekst = p.pola.Trim(p.pole);
+  if (const QDate data = DataZPliku(tekst); data.isValid())
+    p.kontrahent.UstawTermWaznKarty(data);
+  else if (!tekst.isEmpty())
+    p.uwagi.Zglos({RodzajUwagi::Data}, p.numer);
   return std::nullopt;
 }
 
@@ -155,12 +152,23 @@ static_assert(WKolejnosci());
 
 }  // namespace
 
+QDate DataZPliku(QStringView tekst) {
+  const int dzien = WezCyfry(tekst, 1, 2);
+  if (!WezKropke(tekst)) return {};
+  const int miesiac = WezCyfry(tekst, 1, 2);
+  if (!WezKropke(tekst)) return {};
+  const int rok = WezCyfry(tekst, 4, 4);
+  return tekst.isEmpty() ? QDate(rok, miesiac, dzien) : QDate();
+}
+
 Odmowa TransferKontrahenta::Przenies(int od, int doo) {
   const bool nowy = m_kontrahent.CzyNowy();
   for (const Pole& pole : std::span(kPola).subspan(static_cast<std::size_t>(od - kPierwsze),
                                                    static_cast<std::size_t>(doo - od + 1))) {
     if (!nowy && !m_import.Aktualizuje(pole.numer)) continue;
-    if (auto odmowa = pole.przenies({m_pola, pole.numer, m_kontrahent, m_import.raport})) return odmowa;
+    if (auto odmowa =
+            pole.przenies({m_pola, pole.numer, m_kontrahent, m_import.raport, m_import.uwagi, m_numer}))
+      return odmowa;
   }
   return std::nullopt;
 }

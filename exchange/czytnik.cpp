@@ -16,6 +16,13 @@ Komunikat NiezgodnaLiczbaPol::Pytanie() const {
 Czytnik::Czytnik(const StrukturaPliku& struktura)
     : m_rodzaj(struktura.rodzaj), m_strona(struktura.CBPolskieZnaki), m_pola(struktura.Pola()) {}
 
+std::vector<Spostrzezenie> Czytnik::SpostrzezeniaPliku() const {
+  const auto lepsza = m_ocenaStrony.Lepsza(m_strona);
+  if (!lepsza) return {};
+  return {{Spostrzezenie::Rodzaj::StronaKodowa, Spostrzezenie::kCalaLinia, NazwaStrony(m_strona),
+           NazwaStrony(*lepsza)}};
+}
+
 std::unique_ptr<Czytnik> UtworzCzytnik(const StrukturaPliku& struktura) {
   switch (struktura.CBTypPliku) {
     case TypPliku::Rozdzielany:

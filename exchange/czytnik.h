@@ -9,6 +9,7 @@
 
 #include "exchange/komunikat.h"
 #include "exchange/linia_rekordu.h"
+#include "exchange/ocena_strony.h"
 #include "exchange/spostrzezenie.h"
 #include "exchange/struktura_pliku.h"
 
@@ -65,6 +66,8 @@ class Czytnik {
   virtual std::optional<NiezgodnaLiczbaPol> SprawdzLiczbePol() const { return std::nullopt; }
   // What is remarkable about the record last read; usually nothing.
   const std::vector<Spostrzezenie>& Spostrzezenia() const { return m_spostrzezenia; }
+  // What is remarkable about the file: of its header once it is open, of its letters once it was counted.
+  virtual std::vector<Spostrzezenie> SpostrzezeniaPliku() const;
   // Whether the file carries a catalogue field at all (own layout: every field).
   bool NiesiePole(int pole) const { return pole >= 0 && pole < LiczbaWartosci(m_rodzaj) && m_pola[pole]; }
   // Whether the record last read has a status column; the user's flag for the field is the caller's business.
@@ -85,6 +88,7 @@ class Czytnik {
   LiniaRekordu m_linia;
   int m_numer = 0;
   std::vector<Spostrzezenie> m_spostrzezenia;  // each record begins them anew
+  OcenaStrony m_ocenaStrony;                   // of the records counted
   std::optional<Komunikat> m_blad;
 };
 

@@ -4,8 +4,16 @@
 
 #include "exchange/bajty.h"
 #include "exchange/strony_kodowe.h"
+#include "exchange/typy_kolumn.h"
 
-CzytnikDBase::CzytnikDBase(const StrukturaPliku& struktura) : Czytnik(struktura), m_reguly(struktura) {
+namespace {
+
+constexpr qint64 kCoIleRekordow = 4096;  // between two reports of progress while counting
+
+}  // namespace
+
+CzytnikDBase::CzytnikDBase(const StrukturaPliku& struktura)
+    : Czytnik(struktura), m_struktura(struktura), m_reguly(struktura, m_spostrzezenia) {
   for (const WpisPola& wpis : struktura.pola) m_kolumny.push_back({wpis.Numer().value_or(-1), wpis.Nazwa()});
 }
 
@@ -27,9 +35,30 @@ std::optional<Komunikat> CzytnikDBase::SprawdzPola() const {
   return Komunikat{QStringLiteral("Błąd"), QStringLiteral("W importowanym pliku brak pola: ") + brak->nazwa};
 }
 
-WynikLiczenia CzytnikDBase::Policz(const Postep&) {
+// The size of the file tells the number; the values are looked at for their letters.
+WynikLiczenia CzytnikDBase::Policz(const Postep& postep) {
   WynikLiczenia wynik;
   wynik.rekordow = m_plik.RecordCount();
+  m_ocenaStrony = {};
+  for (qint64 numer = 0; numer < wynik.rekordow && m_plik.ReadRecord(numer); ++numer) {
+    if (!m_plik.IsDeleted())
+      for (const Kolumna& kolumna : m_kolumny) m_ocenaStrony.Dodaj(m_plik.FieldValue(kolumna.indeks));
+    if ((numer + 1) % kCoIleRekordow != 0 || !postep || postep(numer)) continue;
+    wynik.przerwano = true;
+    break;
+  }
+  return wynik;
+}
+
+std::vector<Spostrzezenie> CzytnikDBase::SpostrzezeniaPliku() const {
+  std::vector<Spostrzezenie> wynik = Czytnik::SpostrzezeniaPliku();
+  if (m_plik.HeaderRecordCount() != m_plik.RecordCount())
+    wynik.push_back({Spostrzezenie::Rodzaj::DbaseLiczba, Spostrzezenie::kCalaLinia,
+                     QString::number(m_plik.HeaderRecordCount()), QString::number(m_plik.RecordCount())});
+  for (const Kolumna& kolumna : m_kolumny)
+    if (const auto typ =
+            SprawdzTypKolumny(m_struktura, kolumna.pole, m_plik.FieldType(kolumna.indeks), kolumna.nazwa))
+      wynik.push_back(*typ);
   return wynik;
 }
 
@@ -42,6 +71,7 @@ WynikCzytania CzytnikDBase::Nastepny() {
   ++m_nastepny;
   if (m_plik.IsDeleted()) return WynikCzytania::Pominiety;
   ++m_numer;
+  m_spostrzezenia.clear();
   m_reguly.Wyczysc();
   for (const Kolumna& kolumna : m_kolumny)
     m_reguly.Zapisz(kolumna.pole, Przytnij(m_plik.FieldValue(kolumna.indeks)));

@@ -16,6 +16,7 @@ class CzytnikDBase final : public Czytnik {
   std::optional<Komunikat> SprawdzPola() const override;
   WynikLiczenia Policz(const Postep& postep) override;
   WynikCzytania Nastepny() override;
+  std::vector<Spostrzezenie> SpostrzezeniaPliku() const override;
 
   qint64 Pozycja() const override { return m_nastepny; }
   qint64 Rozmiar() const override { return m_plik.RecordCount(); }
@@ -26,6 +27,7 @@ class CzytnikDBase final : public Czytnik {
     QString nazwa;
     int indeks = -1;  // in the opened file
   };
+  const StrukturaPliku m_struktura;
   PlikDBase m_plik;
   RegulyPol m_reguly;
   std::vector<Kolumna> m_kolumny;

@@ -5,7 +5,7 @@
 
 CzytnikRozdzielany::CzytnikRozdzielany(const StrukturaPliku& struktura)
     : CzytnikTekstowy(struktura, static_cast<int>(struktura.pola.size())),
-      m_reguly(struktura),
+      m_reguly(struktura, m_spostrzezenia),
       m_separator(BajtyNaStronie(struktura.separator, struktura.CBPolskieZnaki)) {
   for (const WpisPola& wpis : struktura.pola) m_kolumny.push_back(wpis.Numer().value_or(-1));
 }

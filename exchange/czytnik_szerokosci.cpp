@@ -5,7 +5,8 @@
 #include "exchange/bajty.h"
 
 CzytnikSzerokosci::CzytnikSzerokosci(const StrukturaPliku& struktura)
-    : CzytnikTekstowy(struktura, static_cast<int>(struktura.pola.size())), m_reguly(struktura) {
+    : CzytnikTekstowy(struktura, static_cast<int>(struktura.pola.size())),
+      m_reguly(struktura, m_spostrzezenia) {
   for (const WpisPola& wpis : struktura.pola)
     m_kolumny.push_back(
         {wpis.Numer().value_or(-1), static_cast<size_t>(std::max(0, wpis.Szerokosc().value_or(0)))});

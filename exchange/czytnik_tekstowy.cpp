@@ -35,13 +35,17 @@ void CzytnikTekstowy::Przewin() {
 
 WynikLiczenia CzytnikTekstowy::Policz(const Postep& postep) {
   WynikLiczenia wynik;
+  m_ocenaStrony = {};
   Przewin();
   std::string_view linia;
   qint64 linii = 0;
   for (;;) {
     const WynikCzytania co = NastepnaLinia(linia);
     if (co == WynikCzytania::Koniec || co == WynikCzytania::Blad) break;
-    if (co == WynikCzytania::Rekord) ++wynik.rekordow;
+    if (co == WynikCzytania::Rekord) {
+      ++wynik.rekordow;
+      m_ocenaStrony.Dodaj(linia);
+    }
     if (++linii % kCoIleLinii == 0 && postep && !postep(Pozycja())) {
       wynik.przerwano = true;
       break;

@@ -57,6 +57,7 @@ bool PlikDBase::WczytajNaglowek() {
   std::array<char, kDlugoscNaglowka> naglowek;
   if (m_plik.read(naglowek.data(), kDlugoscNaglowka) != kDlugoscNaglowka)
     return Odmowa(QStringLiteral("Plik jest krótszy niż nagłówek dBase"));
+  m_rekordowWNaglowku = Slowo16(naglowek.data() + 4) + 65536 * Slowo16(naglowek.data() + 6);
   m_dlugoscNaglowka = Slowo16(naglowek.data() + 8);
   m_dlugoscRekordu = Slowo16(naglowek.data() + 10);
   if (m_dlugoscRekordu > kNajdluzszyRekord) {

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QFile>
-#include <QString>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <QFile>
+#include <QString>
 
 #include "exchange/komunikat.h"
 
@@ -25,6 +26,8 @@ class PlikDBase {
   const std::optional<Komunikat>& Blad() const { return m_blad; }
 
   qint64 RecordCount() const { return m_rekordow; }
+  // What the header says; nothing is read by it.
+  qint64 HeaderRecordCount() const { return m_rekordowWNaglowku; }
   int FieldCount() const { return static_cast<int>(m_pola.size()); }
   // Empty outside 0 to FieldCount() - 1.
   std::string_view FieldName(int indeks) const;
@@ -57,6 +60,7 @@ class PlikDBase {
   qint64 m_dlugoscNaglowka = 0;
   qint64 m_dlugoscRekordu = 0;
   qint64 m_rekordow = 0;
+  qint64 m_rekordowWNaglowku = 0;
   std::vector<Pole> m_pola;
   // Records are read many at a time.
   std::string m_blok;

@@ -45,8 +45,11 @@ std::string PrzycieteBajty(const QString& tekst, StronaKodowa strona) {
 
 }  // namespace
 
-RegulyPol::RegulyPol(const StrukturaPliku& struktura)
-    : m_rodzaj(struktura.rodzaj),
+RegulyPol::RegulyPol(const StrukturaPliku& struktura, std::vector<Spostrzezenie>& spostrzezenia)
+    : m_spostrzezenia(spostrzezenia),
+      m_rodzaj(struktura.rodzaj),
+      m_strona(struktura.CBPolskieZnaki),
+      m_maStawke(struktura.ZawieraPole(PoleTowaru::StawkaVat)),
       m_wartosci(static_cast<size_t>(LiczbaWartosci(struktura.rodzaj))),
       m_kwalifikator(struktura.Kwalifikator()) {
   UstalReguly(struktura);
@@ -91,8 +94,10 @@ void RegulyPol::Zapisz(int numer, std::string_view wartosc) {
       // Several columns make up one name; an empty one adds no blank.
       if (m_wartosc[pole].empty())
         m_wartosc[pole] = wartosc;
-      else if (!wartosc.empty())
+      else if (!wartosc.empty()) {
+        ZauwazKwalifikator(pole, wartosc);
         m_wartosc[pole] = Zlozona(pole).append(" ").append(wartosc);
+      }
       break;
     case Regula::Slowo:
       m_wartosc[pole] = WartoscSlowa(numer, wartosc);
@@ -106,11 +111,12 @@ void RegulyPol::Zapisz(int numer, std::string_view wartosc) {
   }
 }
 
-std::string_view RegulyPol::WartoscSlowa(int pole, std::string_view wartosc) const {
+std::string_view RegulyPol::WartoscSlowa(int pole, std::string_view wartosc) {
   for (const Slownik& slownik : m_slowniki) {
     if (slownik.pole != pole) continue;
     for (const auto& [slowo, znaczenie] : slownik.slowa)
       if (slowo == wartosc) return znaczenie;
+    ZauwazKwalifikator(static_cast<size_t>(pole), wartosc);
     return slownik.domyslna;
   }
   return wartosc;
@@ -127,6 +133,7 @@ std::string& RegulyPol::Zlozona(size_t pole) {
 // "(code||)" for a plain code, list elements as they are, joined by ";".
 void RegulyPol::DolaczKod(size_t pole, std::string_view wartosc) {
   if (wartosc.empty()) return;
+  ZauwazKwalifikator(pole, wartosc);
   std::string& tekst = Zlozona(pole);
   if (!tekst.empty()) tekst += ';';
   if (wartosc.front() == '(')
@@ -139,6 +146,7 @@ void RegulyPol::DolaczKod(size_t pole, std::string_view wartosc) {
 // "(nip|nip)". A value in list form joins inside the parenthesis after ";", brackets and all.
 void RegulyPol::DolaczNip(size_t pole, std::string_view wartosc) {
   if (wartosc.empty()) return;
+  ZauwazKwalifikator(pole, wartosc);
   const bool lista = wartosc.front() == '(';
   std::string& tekst = Zlozona(pole);
   if (tekst.empty()) {
@@ -160,7 +168,22 @@ void RegulyPol::PrzypiszStawke() {
   std::string_view& stawka = m_wartosc[PoleTowaru::StawkaVat];
   const auto opis = std::find_if(m_stawki.begin(), m_stawki.end(),
                                  [stawka](const auto& wpis) { return wpis.first == stawka; });
+  if (opis == m_stawki.end() && m_maStawke) {
+    m_spostrzezenia.push_back(
+        {Spostrzezenie::Rodzaj::NieznanyVat, PoleTowaru::StawkaVat, TekstZeStrony(stawka, m_strona)});
+    ZauwazKwalifikator(PoleTowaru::StawkaVat, stawka);
+  }
   stawka = opis != m_stawki.end() ? std::string_view(opis->second) : kStawkaDomyslna;
+}
+
+// A value that is still qualified where nothing will strip it any more.
+void RegulyPol::ZauwazKwalifikator(size_t pole, std::string_view wartosc) {
+  if (!m_kwalifikator || wartosc.size() < 2) return;
+  const char podwojony[] = {*m_kwalifikator, *m_kwalifikator};
+  const bool otacza = wartosc.front() == *m_kwalifikator && wartosc.back() == *m_kwalifikator;
+  if (!otacza && wartosc.find(std::string_view(podwojony, 2)) == std::string_view::npos) return;
+  const Spostrzezenie nowe{Spostrzezenie::Rodzaj::Cudzyslow, static_cast<int>(pole)};
+  if (m_spostrzezenia.empty() || m_spostrzezenia.back() != nowe) m_spostrzezenia.push_back(nowe);
 }
 
 std::string_view RegulyPol::Zloz() {
@@ -173,6 +196,8 @@ std::string_view RegulyPol::Zloz() {
       wartosc.remove_prefix(1);
       if (wartosc.ends_with(*m_kwalifikator)) wartosc.remove_suffix(1);
     }
+    if (m_kwalifikator && wartosc.find(*m_kwalifikator) != std::string_view::npos)
+      ZauwazKwalifikator(pole, wartosc);
     const auto od = static_cast<std::ptrdiff_t>(m_linia.size());
     m_linia.append(wartosc);
     // A tab would be taken for the end of the value.

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "exchange/spostrzezenie.h"
 #include "exchange/struktura_pliku.h"
 
 // What becomes of a column's value on its way into the record line: the field rules, the VAT rate of goods,
@@ -17,7 +18,8 @@
 // text.
 class RegulyPol {
  public:
-  explicit RegulyPol(const StrukturaPliku& struktura);
+  // What is noticed in a record is added to `spostrzezenia`.
+  RegulyPol(const StrukturaPliku& struktura, std::vector<Spostrzezenie>& spostrzezenia);
 
   void Wyczysc();
   // `pole`: a catalogue number; anything outside the record's values is dropped. `wartosc`: trimmed.
@@ -36,13 +38,17 @@ class RegulyPol {
 
   void UstalReguly(const StrukturaPliku& struktura);
   void UstalOpisyVat(const StrukturaPliku& struktura);
-  std::string_view WartoscSlowa(int pole, std::string_view wartosc) const;
+  std::string_view WartoscSlowa(int pole, std::string_view wartosc);
   std::string& Zlozona(size_t pole);
   void DolaczKod(size_t pole, std::string_view wartosc);
   void DolaczNip(size_t pole, std::string_view wartosc);
   void PrzypiszStawke();
+  void ZauwazKwalifikator(size_t pole, std::string_view wartosc);
 
+  std::vector<Spostrzezenie>& m_spostrzezenia;
   RodzajRekordu m_rodzaj;
+  StronaKodowa m_strona;
+  bool m_maStawke;  // the file carries a VAT column
   size_t m_wartosci;
   std::optional<char> m_kwalifikator;
   std::array<Regula, PoleKontrahenta::LiczbaWartosci> m_reguly{};

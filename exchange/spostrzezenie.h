@@ -6,13 +6,22 @@
 // it; a run tells of it at its end and the preview of a structure marks it.
 struct Spostrzezenie {
   enum class Rodzaj {
-    WiecejPol,  // text behind the last declared field
+    // of a record
+    WiecejPol,    // text behind the last declared field
+    NieznanyVat,  // `szczegol`: a text that no description of a rate explains
+    Cudzyslow,    // `pole` has kept the text qualifier
+    // of the file
+    StronaKodowa,   // `szczegol`: the chosen code page, `drugi`: the one whose Polish letters are there
+    DbaseLiczba,    // `szczegol`: records by the header, `drugi`: records read
+    DbaseLogiczna,  // `szczegol`: a logical column, feeding `pole`, whose words are others
+    DbaseData       // `szczegol`: a date column, feeding `pole`, which takes no such date
   };
   static constexpr int kCalaLinia = -1;
 
   Rodzaj rodzaj;
   int pole = kCalaLinia;  // catalogue number
-  QString szczegol = {};  // the text or the number it is about; empty where the kind says all
+  QString szczegol = {};
+  QString drugi = {};
 
   friend bool operator==(const Spostrzezenie&, const Spostrzezenie&) = default;
 };

@@ -1,5 +1,6 @@
 #include "exchange/strony_kodowe.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -65,6 +66,11 @@ QString TekstZeStrony(std::string_view bajty, StronaKodowa strona) {
   QChar* cel = tekst.data();
   for (const char bajt : bajty) *cel++ = QChar(znaki[static_cast<std::uint8_t>(bajt)]);
   return tekst;
+}
+
+bool JestPolskaLitera(char bajt, StronaKodowa strona) {
+  const Strona& litery = kStrony[static_cast<size_t>(strona)];
+  return std::find(litery.begin(), litery.end(), static_cast<std::uint8_t>(bajt)) != litery.end();
 }
 
 std::string BajtyNaStronie(QStringView tekst, StronaKodowa strona) {

@@ -1,5 +1,6 @@
 #include "goods/import_towarow.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "goods/kontekst_importu.h"
@@ -9,12 +10,14 @@
 #include "goods/rekord_towaru.h"
 #include "goods/rozpoznawanie_slownikow.h"
 #include "goods/stany.h"
+#include "goods/transfer_pol.h"
 #include "model/bufor_nip.h"
 #include "model/bufor_towarow.h"
 #include "model/kody_wlasne.h"
 #include "model/kontekst.h"
 #include "model/nazwy_skrocone.h"
 #include "model/reguly_kodow.h"
+#include "model/stawki_vat.h"
 #include "model/zapas_towarow.h"
 #include "platform/baza/sesja.h"
 #include "run/przebieg_importu.h"
@@ -84,8 +87,9 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
                                        Parametry().separatorDziesietny, m_bufor, m_nipy ? &*m_nipy : nullptr,
                                        m_zasoby->slowniki, m_zasoby->stany, m_zasoby->reguly,
                                        m_zasoby->kodyWlasne, m_zasoby->skroty, m_zasoby->nazwy,
-                                       m_zasoby->zapas, m_raport, m_liczniki, Operator()});
+                                       m_zasoby->zapas, m_raport, m_uwagi, m_liczniki, Operator()});
     m_rekord.emplace(*m_kontekst);
+    ZglosStawkiBezOpisu();
   }
 
   void CzytajZWyprzedzeniem(std::span<const RekordPliku> rekordy) override {
@@ -125,6 +129,23 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
     m_nipy.emplace();
     return FazaBufora(u"przygotowanie bufora NIP-ów"_s, TVLTBuforNip::IloscKontrahentow(baza),
                       [&](const PostepBufora& postep) { return m_nipy->Napelnij(baza, postep); });
+  }
+
+  // A good of the file can never get them.
+  void ZglosStawkiBezOpisu() {
+    const StrukturaPliku& struktura = Parametry().struktura;
+    if (struktura.CBTypPliku == TypPliku::Zorvik || !Plik().NiesiePole(PoleTowaru::StawkaVat)) return;
+    TVLTStawkiVat stawki;
+    stawki.Wczytaj(Parametry().sesja.baza);
+    for (int i = 0; i < stawki.Ilosc(); ++i) {
+      const int stawka = stawki.Stawka(i);
+      const bool opisana = std::any_of(
+          struktura.opisyVat.begin(), struktura.opisyVat.end(),
+          [&](const OpisVat& opis) { return opis.Stawka().toInt() == stawka && !opis.Opis().isEmpty(); });
+      if (!opisana)
+        m_uwagi.ZglosOCalosci({RodzajUwagi::StawkaBezOpisu, StawkaNaTekst(stawka, true),
+                               StawkaNaTekst(TransferPol::kStawkaDomyslna, true)});
+    }
   }
 
   // Inside the transaction nobody else writes, so that what is looked up in memory from here on holds.

@@ -15,6 +15,7 @@ class Stany;
 class TDmVLTNazwySkrocone;
 class TVLTBuforNip;
 class TVLTBuforTowarow;
+class Uwagi;
 class ZapasTowarow;
 struct KontekstSesji;
 struct OpcjeImportuTowarow;
@@ -25,7 +26,7 @@ struct RegulyKodow;
 //
 // Around every record the run has a batch open, in whose transaction the units of the record
 // (JednostkaZapisu) are savepoints. Questions go through `oper`, which commits the batch first and opens one
-// again after the answer. Counters and report lines of the record belong to the batch.
+// again after the answer. Counters, report lines and notices of the record belong to the batch.
 struct KontekstImportu {
   KontekstSesji& sesja;
   const OpcjeImportuTowarow& opcje;
@@ -44,6 +45,7 @@ struct KontekstImportu {
   ZapasTowarow& zapas;
 
   RaportProblemow& raport;
+  Uwagi& uwagi;
   Liczniki& liczniki;
   IOperator& oper;
 

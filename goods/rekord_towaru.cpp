@@ -11,12 +11,14 @@
 #include "model/kody_wlasne.h"
 #include "model/kontekst.h"
 #include "model/nazwy_skrocone.h"
+#include "model/stawki_vat.h"
 #include "model/szukanie_towaru.h"
 #include "model/zapas_towarow.h"
 #include "platform/baza/sesja.h"
 #include "run/liczniki.h"
 #include "run/operator.h"
 #include "run/raport_problemow.h"
+#include "run/uwagi.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -57,6 +59,7 @@ PoRekordzie RekordTowaru::Przetworz(const RekordPliku& rekord) {
   m_nazwa = pola.Trim(PoleTowaru::Nazwa);
   m_nazwaNadana = false;
   m_stan.reset();
+  m_numer = rekord.numer;
   m_import.raport.NowyRekord(m_kod.kod, m_nazwa);
   // Names made for a record that was not saved are free again.
   m_import.skroty.Zwolnij();
@@ -91,7 +94,7 @@ RekordTowaru::Krok RekordTowaru::Przeprowadz(const RekordPliku& rekord, const Po
     m_towar.UstawKod(m_kod.kod);
     m_towar.UstawAktywny(m_aktywny ? 1 : 0);
   }
-  if (const auto odmowa = TransferPol(m_import, pola, m_towar, !m_kod.znaleziony).Przenies(m_nazwa)) {
+  if (const auto odmowa = TransferPol(m_import, rekord, pola, m_towar, !m_kod.znaleziony).Przenies(m_nazwa)) {
     if (!odmowa->tekst.isEmpty()) return Pomin(odmowa->tekst);
     // A dictionary entry that the database refused has no words of its own.
     return m_import.raport.RekordPoliczony() ? Krok::Koniec : Pomin(u"Nie można zapisać towaru"_s);
@@ -251,6 +254,8 @@ RekordTowaru::Krok RekordTowaru::DodajTowar() {
     return krok;
   PotwierdzNadane();
   m_import.liczniki.Zwieksz(Licznik::Dodane);
+  if (!m_import.NiesiePole(PoleTowaru::StawkaVat) && m_towar.Stawka())
+    m_import.uwagi.Zglos({RodzajUwagi::VatDomyslny, StawkaNaTekst(*m_towar.Stawka(), true)}, m_numer);
   if (m_stan) m_import.stany.PrzyjmijNowy(m_towar.Id(), m_import.opcje.CBImportStanow);
   ZapiszStan(m_towar.Id());
   return Krok::Koniec;

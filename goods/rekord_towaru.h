@@ -65,5 +65,6 @@ class RekordTowaru {
   QString m_nazwa;
   bool m_nazwaNadana = false;
   bool m_aktywny = true;
+  int m_numer = 0;  // in the file
   std::optional<double> m_stan;
 };

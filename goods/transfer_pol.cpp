@@ -15,12 +15,11 @@
 #include "model/stawki_vat.h"
 #include "model/towar.h"
 #include "run/raport_problemow.h"
+#include "run/uwagi.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr int kStawkaDomyslna = 2200;
 
 struct PoleTekstowe {
   int pole;
@@ -157,7 +156,23 @@ TransferPol::Wynik TransferPol::Stawka() {
   if (stawka.wartosc < kStawkaZwolniona || stawka.wartosc > kStawkaNajwyzsza) return odmowa;
   if (!m_import.slowniki.Stawka(stawka.wartosc)) return odmowa;
   m_towar.UstawStawka(stawka.wartosc);
+  if (stawka.wartosc == kStawkaDomyslna) ZglosDomyslnaStawke(!stawka.poprawny);
   return std::nullopt;
+}
+
+// Tells of a text that was no rate. The own layout holds numbers, the others the texts that were described.
+void TransferPol::ZglosDomyslnaStawke(bool nieczytelna) {
+  const auto zglos = [&](const QString& tekst) {
+    m_import.uwagi.Zglos({RodzajUwagi::NieznanyVat, tekst, StawkaNaTekst(kStawkaDomyslna, true)},
+                         m_rekord.numer);
+  };
+  if (m_import.struktura.CBTypPliku == TypPliku::Zorvik) {
+    const QString tekst = m_pola.Trim(PoleTowaru::StawkaVat);
+    if (nieczytelna || tekst.isEmpty()) zglos(tekst);
+    return;
+  }
+  for (const Spostrzezenie& s : m_rekord.spostrzezenia)
+    if (s.rodzaj == Spostrzezenie::Rodzaj::NieznanyVat) zglos(s.szczegol);
 }
 
 // Gross prices of the file become net at the rate the good has now; the purchase price alone is rounded.

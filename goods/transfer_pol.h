@@ -7,14 +7,20 @@
 class PolaRekordu;
 class TDmVLTTowar;
 struct KontekstImportu;
+struct RekordPliku;
 
 // Carries the values of one record into the good's record. A new good takes every field of the file; a good
 // of the database takes the fields whose update flag is set and that the file carries, and one managed by the
 // centre keeps its name, type and VAT rate. Dictionary entries are found or added on the way.
 class TransferPol {
  public:
-  TransferPol(KontekstImportu& import, const PolaRekordu& pola, TDmVLTTowar& towar, bool nowy)
-      : m_import(import), m_pola(pola), m_towar(towar), m_nowy(nowy) {}
+  // The rate of a good whose file says none, or one that nobody knows.
+  static constexpr int kStawkaDomyslna = 2200;
+
+  // `pola`: the values of `rekord`.
+  TransferPol(KontekstImportu& import, const RekordPliku& rekord, const PolaRekordu& pola, TDmVLTTowar& towar,
+              bool nowy)
+      : m_import(import), m_rekord(rekord), m_pola(pola), m_towar(towar), m_nowy(nowy) {}
 
   // How the record was refused.
   struct Odmowa {
@@ -31,6 +37,7 @@ class TransferPol {
   Wynik Typ();
   Wynik ProstePola();
   Wynik Stawka();
+  void ZglosDomyslnaStawke(bool nieczytelna);
   void PoziomyCen();
   Wynik Asortyment();
   Wynik Jednostka();
@@ -42,6 +49,7 @@ class TransferPol {
   int KontrahentZNipem(const QString& nip);
 
   KontekstImportu& m_import;
+  const RekordPliku& m_rekord;
   const PolaRekordu& m_pola;
   TDmVLTTowar& m_towar;
   const bool m_nowy;

@@ -123,8 +123,8 @@ void Przebieg::Zakoncz(KoniecPrzebiegu koniec) {
   m_raport.Zamknij();
   m_postep.Gotowe();
   if (koniec != KoniecPrzebiegu::Blad) m_postep.Pokaz(u"Koniec"_s, Tekst(m_opis.zakonczono));
-  for (const Uwaga& uwaga : m_uwagi.Lista()) m_postep.PokazUwage(uwaga.Linia());
   PrzedPodsumowaniem();
+  for (const Uwaga& uwaga : m_uwagi.Lista()) m_postep.PokazUwage(uwaga.Linia());
   for (const PozycjaPodsumowania& pozycja : m_opis.podsumowanie) {
     m_postep.Faza(Tekst(pozycja.tekst));
     m_postep.DopiszLiczbe(m_liczniki[pozycja.licznik]);

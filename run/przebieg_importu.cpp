@@ -61,6 +61,8 @@ std::optional<KoniecPrzebiegu> PrzebiegImportu::PrzejrzyjPlik() {
     Pokaz(*wynik.odmowa);
     return KoniecPrzebiegu::Odmowa;
   }
+  for (const Spostrzezenie& s : m_czytnik->SpostrzezeniaPliku())
+    m_uwagi.ZglosOCalosci(UwagaZeSpostrzezenia(s, Parametry().struktura.rodzaj));
   Postep().Pozycja(m_czytnik->Rozmiar());
   Postep().Gotowe();
   m_rekordow = wynik.rekordow;
@@ -163,7 +165,8 @@ KoniecPrzebiegu PrzebiegImportu::PoOstatnimRekordzie(WynikCzytania wynik) {
 
 void PrzebiegImportu::ZglosSpostrzezenia(const RekordPliku& rekord) {
   for (const Spostrzezenie& s : rekord.spostrzezenia)
-    m_uwagi.Zglos(UwagaZeSpostrzezenia(s, Parametry().struktura.rodzaj), rekord.numer);
+    if (s.rodzaj != Spostrzezenie::Rodzaj::NieznanyVat)  // whether a rate is taken, the run kind knows
+      m_uwagi.Zglos(UwagaZeSpostrzezenia(s, Parametry().struktura.rodzaj), rekord.numer);
 }
 
 void PrzebiegImportu::PominRekord(const RekordPliku& rekord) {

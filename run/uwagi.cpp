@@ -21,6 +21,28 @@ constexpr OpisUwagi kOpisy[] = {
     {RodzajUwagi::WiecejPol, u"wiecej-pol",
      u"Za ostatnim polem opisanym w strukturze pliku jest dalszy tekst, którego nie odczytano; sprawdź "
      u"separator i listę pól, bo wartości mogły trafić do niewłaściwych pól"},
+    {RodzajUwagi::NieznanyVat, u"nieznany-vat",
+     u"Tekst „%1” nie jest opisem żadnej stawki VAT; przyjęto stawkę %2"},
+    {RodzajUwagi::StawkaBezOpisu, u"nieznany-vat",
+     u"Stawka VAT %1 jest w bazie, a w strukturze pliku nie ma jej opisu; towary z tą stawką w pliku dostają "
+     u"stawkę %2"},
+    {RodzajUwagi::VatDomyslny, u"vat-domyslny",
+     u"Plik nie zawiera stawki VAT; nowe towary dostają stawkę %1"},
+    {RodzajUwagi::Cudzyslow, u"cudzyslow",
+     u"Wartość pola „%1” odczytano razem z kwalifikatorem tekstu (cudzysłowem albo apostrofem)"},
+    {RodzajUwagi::StronaKodowa, u"strona-kodowa",
+     u"Większość znaków spoza ASCII nie jest polskimi literami na wybranej stronie kodowej %1, a jest nimi "
+     u"na "
+     u"stronie %2; zmień stronę kodową w strukturze pliku"},
+    {RodzajUwagi::DbaseLiczba, u"dbase-liczba",
+     u"Liczba rekordów według nagłówka tabeli dBase: %1, odczytano: %2; gdy brakuje ostatniego, tabela nie "
+     u"kończy się bajtem 1A: zapisz ją ponownie w programie, z którego pochodzi, albo dopisz ten bajt"},
+    {RodzajUwagi::DbaseLogiczna, u"dbase-typ",
+     u"Kolumna %1 jest logiczna (T, F, Y, N), a w strukturze pliku pole „%2” ma inne wartości"},
+    {RodzajUwagi::DbaseData, u"dbase-typ",
+     u"Kolumna %1 jest datą (rok, miesiąc, dzień bez kropek), której pole „%2” nie odczyta"},
+    {RodzajUwagi::Data, u"data",
+     u"Pole „Termin ważności karty” nie zawiera daty w postaci dzień.miesiąc.rok; datę pominięto"},
 };
 
 constexpr bool WKolejnosci() {
@@ -50,10 +72,26 @@ QString TrescUwagi::Tekst() const {
   return wzor.contains(u"%1") ? wzor.arg(pierwszy) : wzor;
 }
 
-TrescUwagi UwagaZeSpostrzezenia(const Spostrzezenie& spostrzezenie, RodzajRekordu /*rodzaj*/) {
-  switch (spostrzezenie.rodzaj) {
-    case Spostrzezenie::Rodzaj::WiecejPol:
+TrescUwagi UwagaZeSpostrzezenia(const Spostrzezenie& s, RodzajRekordu rodzaj) {
+  using R = Spostrzezenie::Rodzaj;
+  const auto pole = [&] {
+    return QStringView(KatalogPol(rodzaj)[static_cast<std::size_t>(s.pole)].nazwa).toString();
+  };
+  switch (s.rodzaj) {
+    case R::WiecejPol:
       break;
+    case R::NieznanyVat:
+      return {RodzajUwagi::NieznanyVat, s.szczegol, u"22 %"_s};
+    case R::Cudzyslow:
+      return {RodzajUwagi::Cudzyslow, pole()};
+    case R::StronaKodowa:
+      return {RodzajUwagi::StronaKodowa, s.szczegol, s.drugi};
+    case R::DbaseLiczba:
+      return {RodzajUwagi::DbaseLiczba, s.szczegol, s.drugi};
+    case R::DbaseLogiczna:
+      return {RodzajUwagi::DbaseLogiczna, s.szczegol, pole()};
+    case R::DbaseData:
+      return {RodzajUwagi::DbaseData, s.szczegol, pole()};
   }
   return {RodzajUwagi::WiecejPol};
 }

@@ -12,7 +12,19 @@
 struct Spostrzezenie;
 
 // What a run tells without refusing anything. One kind of the result may have several texts.
-enum class RodzajUwagi { WiecejPol, Ilosc };
+enum class RodzajUwagi {
+  WiecejPol,
+  NieznanyVat,
+  StawkaBezOpisu,
+  VatDomyslny,
+  Cudzyslow,
+  StronaKodowa,
+  DbaseLiczba,
+  DbaseLogiczna,
+  DbaseData,
+  Data,
+  Ilosc
+};
 
 // One thing to be told: a kind and what fills its text.
 struct TrescUwagi {
@@ -25,7 +37,8 @@ struct TrescUwagi {
 };
 size_t qHash(const TrescUwagi& tresc, size_t ziarno = 0);
 
-// What a reader noticed, in the words of a notice.
+// What a reader noticed, in the words of a notice. A VAT text is said to mean the rate such texts are read
+// as.
 TrescUwagi UwagaZeSpostrzezenia(const Spostrzezenie& spostrzezenie, RodzajRekordu rodzaj);
 
 // A notice as it is shown.

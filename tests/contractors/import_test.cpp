@@ -342,4 +342,17 @@ TEST_F(ImportTest, BladBazyKonczyPrzebiegAPamiecZgadzaSieZBaza) {
     }
 }
 
+// The date is left out of the record, which is stored; an empty field says nothing.
+TEST_F(ImportTest, NierozpoznanaDataJestUwaga) {
+  UstawPola({0, 1, 12, 32});
+  const WynikPrzebiegu wynik = Importuj("A;11;1;2031-05-01\nB;12;1;1.5.2031\nC;13;1; \nD;14;1;31.02.2031\n");
+  EXPECT_EQ(Wynik(wynik), "+4 ~0 -0 =0");
+  ASSERT_EQ(wynik.uwagi.size(), 1u);
+  EXPECT_EQ(wynik.uwagi[0].NazwaRodzaju(), u"data"_s);
+  EXPECT_THAT(wynik.uwagi[0].rekordy, ElementsAre(1, 4));
+  EXPECT_EQ(wynik.uwagi[0].ile, 2);
+  struktura.UstawOferowane(PoleKontrahenta::TerminWaznosciKarty, false);
+  EXPECT_EQ(Importuj("A;11;1;wczoraj\n").uwagi.size(), 0u);
+}
+
 }  // namespace

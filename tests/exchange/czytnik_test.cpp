@@ -77,6 +77,59 @@ TEST(Spostrzezenia, WiecejPolNizOpisano) {
   for (const auto& p : przypadki) EXPECT_EQ(Zauwazone(p.struktura, p.tresc), p.oczekiwane) << p.tresc;
 }
 
+TEST(Spostrzezenia, NieznanaStawkaIPozostawionyKwalifikator) {
+  StrukturaPliku s = Struktura(kTowary, TypPliku::Rozdzielany,
+                               {u"00"_s, u"01"_s, u"01"_s, u"03"_s, u"23"_s, u"26"_s, u"31"_s});
+  s.opisyVat = {OpisVat(u"23A"_s), OpisVat(u"8 \"B\""_s)};
+  s.CBPolskieZnaki = StronaKodowa::LatinII;
+  const std::string tresc =
+      "\"1\";\"a\";;1;A;2;1\n"
+      "2;a;b;0;\"A\";\"2\";1\n"
+      "3;\"a\";\"b\";\"2\";\"B\";;\"N\"\n"
+      "4;\"x \"\"y\"\"\";;0;;(1|\"\"|);0\n"
+      "5;19\" x;\";0;\x88;2;0\n";
+  const QStringList oczekiwane{u"2 Cudzyslow 26"_s, u"2 NieznanyVat 23 \"A\""_s, u"2 Cudzyslow 23"_s,
+                               u"3 Cudzyslow 1"_s,  u"3 Cudzyslow 3"_s,          u"3 Cudzyslow 31"_s,
+                               u"4 Cudzyslow 26"_s, u"4 NieznanyVat 23"_s,       u"4 Cudzyslow 1"_s,
+                               u"4 Cudzyslow 26"_s, u"5 NieznanyVat 23 ł"_s};
+  EXPECT_EQ(Zauwazone(s, tresc), oczekiwane) << Zauwazone(s, tresc).join(u'|').toStdString();
+  s.CBKwalifikatorTekstu = KwalifikatorTekstu::Brak;
+  EXPECT_EQ(Zauwazone(s, tresc).filter(u"Cudzyslow"_s), QStringList());
+  s.pola.resize(3);  // no VAT column, nothing to explain
+  EXPECT_EQ(Zauwazone(s, "4;x;y\n"), QStringList());
+}
+
+// The word żółć as each page has it, and letters that belong to none.
+TEST(Spostrzezenia, LiteryInnejStronyKodowej) {
+  constexpr auto W = StronaKodowa::Windows, L = StronaKodowa::LatinII, M = StronaKodowa::Mazovia;
+  const struct {
+    StronaKodowa strona;
+    std::string bajty;
+    QString oczekiwane;
+  } przypadki[] = {
+      {W, "\xBE\xA2\x88\x86", u"0 StronaKodowa Windows Latin II"_s},
+      {W, "\xA7\xA2\x92\x8D", u"0 StronaKodowa Windows Mazovia"_s},
+      {L, "\xBF\xF3\xB3\xE6", u"0 StronaKodowa Latin II Windows"_s},
+      {M, "\xBF\xF3\xB3\xE6", u"0 StronaKodowa Mazovia Windows"_s},
+      {StronaKodowa::Ascii, "\xBF\xF3\xB3\xE6", u"0 StronaKodowa ASCII Windows"_s},
+      {W, "\xBF\xF3\xB3\xE6", {}},
+      {L, "\xBE\xA2\x88\x86", {}},
+      {M, "\xA7\xA2\x92\x8D", {}},
+      {W, "\xB3\x88", {}},  // as many as not
+      {W, "\xB3\x88\x88", u"0 StronaKodowa Windows Latin II"_s},
+      {W, "\xD6\xFC\xDF", {}},  // German
+      {W, "zolc", {}},
+  };
+  for (const auto& p : przypadki) {
+    StrukturaPliku s = Struktura(kTowary, TypPliku::Rozdzielany, {u"00"_s, u"01"_s});
+    s.CBPolskieZnaki = p.strona;
+    const QStringList oczekiwane = p.oczekiwane.isEmpty() ? QStringList() : QStringList{p.oczekiwane};
+    const std::string daleko(70'000, 'a');
+    EXPECT_EQ(Zauwazone(s, "1;" + daleko + "\n# \xBF\xBF\xBF\xBF\xBF\n2;" + p.bajty + "\n"), oczekiwane)
+        << p.bajty;
+  }
+}
+
 TEST(CzytnikRozdzielany, Separatory) {
   StrukturaPliku s = Struktura(kTowary, TypPliku::Rozdzielany, {u"00"_s, u"01"_s, u"02"_s});
   s.CBKwalifikatorTekstu = KwalifikatorTekstu::Brak;

@@ -106,4 +106,46 @@ TEST(CzytnikDBase, KolumnyPolImaja) {
   EXPECT_EQ(OdczytTresci(s, bajty), QStringList{u"W importowanym pliku brak pola: CENA"_s});
 }
 
+// Types are those of the columns KOD and NAZWA, the count is that of the header: 10.
+TEST(Spostrzezenia, NaglowekDBase) {
+  const auto kTowary = RodzajRekordu::Towary, kKontrahenci = RodzajRekordu::Kontrahenci;
+  const struct {
+    RodzajRekordu rodzaj;
+    QString pole;
+    char typ;
+    const char* slowa;  // active and removed, also the kinds
+    size_t rekordow;
+    QStringList oczekiwane;
+  } przypadki[] = {
+      {kTowary, u"31"_s, 'L', "TF", 10, {}},
+      {kTowary, u"31"_s, 'L', "tn", 10, {}},
+      {kTowary, u"31"_s, 'C', "10", 10, {}},
+      {kTowary, u"31"_s, 'L', "T0", 10, {u"0 DbaseLogiczna 31 NAZWA"_s}},
+      {kTowary, u"03"_s, 'L', "TF", 10, {u"0 DbaseLogiczna 3 NAZWA"_s}},
+      {kTowary, u"22"_s, 'L', "TF", 10, {u"0 DbaseLogiczna 22 NAZWA"_s}},
+      {kTowary, u"06"_s, 'L', "10", 10, {}},
+      {kTowary, u"06"_s, 'D', "10", 10, {}},
+      {kTowary, u"12"_s, 'D', "10", 10, {u"0 DbaseData 12 NAZWA"_s}},
+      {kKontrahenci, u"32"_s, 'D', "10", 10, {u"0 DbaseData 32 NAZWA"_s}},
+      {kKontrahenci, u"11"_s, 'L', "Y0", 10, {}},
+      {kKontrahenci, u"14"_s, 'L', "1F", 10, {u"0 DbaseLogiczna 14 NAZWA"_s}},
+      {kKontrahenci, u"31"_s, 'L', "TF", 10, {u"0 DbaseLogiczna 31 NAZWA"_s}},
+      {kTowary, u"06"_s, 'C', "10", 9, {u"0 DbaseLiczba 10 9"_s}},
+      {kTowary, u"06"_s, 'C', "10", 11, {u"0 DbaseLiczba 10 11"_s}},
+  };
+  for (const auto& p : przypadki) {
+    StrukturaPliku s = Struktura(p.rodzaj, TypPliku::DBase, {u"00KOD"_s, p.pole + u"NAZWA"_s});
+    s.EdPoleAktywny = s.EdPoleDostawca = s.EdPoleSklep = QString(QLatin1Char(p.slowa[0]));
+    s.EdPoleUsuniety = QString(QLatin1Char(p.slowa[1]));
+    std::string bajty =
+        Tabela{.pola = kPola, .rekordy = std::vector<std::string>(p.rekordow, " 5901x     ")}.Bajty();
+    bajty[2 * 32 + 11] = p.typ;
+    EXPECT_EQ(Zauwazone(s, bajty), p.oczekiwane) << p.pole.toStdString() << p.typ << p.slowa;
+  }
+  StrukturaPliku s = Struktura(kTowary, TypPliku::DBase, {u"00KOD"_s, u"01NAZWA"_s});
+  const std::vector<std::string> rekordy(10, " 5901\x88\x86    ");
+  EXPECT_EQ(Zauwazone(s, Tabela{.pola = kPola, .rekordy = rekordy}.Bajty()),
+            QStringList{u"0 StronaKodowa Windows Latin II"_s});
+}
+
 }  // namespace

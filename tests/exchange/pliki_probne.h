@@ -79,9 +79,11 @@ inline QStringList OdczytTresci(const StrukturaPliku& struktura, const std::stri
   return OdczytPliku(struktura, PlikProbny(tresc).Sciezka());
 }
 
-// What the reader notices, "record kind field text"; what says nothing is left out.
+// What the reader notices, "record kind field texts", those of the file at the end as of record 0; what says
+// nothing is left out.
 inline QStringList Zauwazone(const StrukturaPliku& struktura, const std::string& tresc) {
-  const char* const rodzaje[] = {"WiecejPol"};
+  const char* const rodzaje[] = {"WiecejPol",   "NieznanyVat",   "Cudzyslow", "StronaKodowa",
+                                 "DbaseLiczba", "DbaseLogiczna", "DbaseData"};
   const PlikProbny plik(tresc);
   const std::unique_ptr<Czytnik> czytnik = UtworzCzytnik(struktura);
   EXPECT_FALSE(czytnik->Otworz(plik.Sciezka()));
@@ -89,11 +91,14 @@ inline QStringList Zauwazone(const StrukturaPliku& struktura, const std::string&
   const auto dopisz = [&](int rekord, const Spostrzezenie& s) {
     QStringList opis{QString::number(rekord), QString::fromLatin1(rodzaje[static_cast<size_t>(s.rodzaj)])};
     if (s.pole != Spostrzezenie::kCalaLinia) opis << QString::number(s.pole);
-    if (!s.szczegol.isEmpty()) opis << s.szczegol;
+    for (const QString& szczegol : {s.szczegol, s.drugi})
+      if (!szczegol.isEmpty()) opis << szczegol;
     wynik << opis.join(QLatin1Char(' '));
   };
   for (WynikCzytania w; (w = czytnik->Nastepny()) == WynikCzytania::Rekord || w == WynikCzytania::Pominiety;)
     if (w == WynikCzytania::Rekord)
       for (const Spostrzezenie& s : czytnik->Spostrzezenia()) dopisz(czytnik->NumerRekordu(), s);
+  czytnik->Policz({});
+  for (const Spostrzezenie& s : czytnik->SpostrzezeniaPliku()) dopisz(0, s);
   return wynik;
 }

@@ -20,6 +20,7 @@ TEST_F(SterownikTest, FazyICalePodsumowanie) {
       ElementsAre(u"łączenie z bazą VLT Win"_s, u"przygotowanie bufora towarów"_s,
                   u"Wstępne przeglądanie pliku"_s, u"Ilość rekordów do przetworzenia 2"_s,
                   u"Numer aktualnego rekordu 2"_s, u"zamykanie pliku importu"_s, kKoniec,
+                  u"Uwaga: Plik nie zawiera stawki VAT; nowe towary dostają stawkę 22 %. Rekordów: 1 (1)."_s,
                   u"Ilość dodanych towarów 1"_s, u"Ilość poprawionych towarów 0"_s,
                   u"Ilość pominiętych towarów 1"_s, u"Ilość dodanych asortymentów1"_s,
                   u"Ilość dodanych jednostek1"_s, u"Ilość dodanych stawek1"_s, u"Ilość dodanych kategorii0"_s,
@@ -30,6 +31,44 @@ TEST_F(SterownikTest, FazyICalePodsumowanie) {
   Importuj("590003;Bułka;Pieczywo\n");
   EXPECT_FALSE(postep.linie.contains(u"przygotowanie bufora towarów"_s));
   EXPECT_TRUE(postep.linie.contains(u"Ilość rekordów do przetworzenia 0"_s));
+}
+
+// "kind text count: records"
+QStringList Uwagi(const WynikPrzebiegu& wynik) {
+  QStringList uwagi;
+  for (const Uwaga& u : wynik.uwagi)
+    uwagi << u"%1 %2 %3: %4"_s.arg(u.NazwaRodzaju(), u.tekst).arg(u.ile).arg(u.NumeryRekordow());
+  return uwagi;
+}
+
+TEST_F(SterownikTest, UwagiOStawkachVat) {
+  b.baza.ExecSQL("delete from Vat");
+  for (const int stawka : {2300, 800, 550, -1})
+    b.baza.ExecSQL("insert into Vat (Stawka) values (:Stawka)", {{"Stawka", stawka}});
+  opcje.cb_nowestawki = opcje.cb_akttow = opcje.cb_nowetowary = true;
+  const QString bezOpisu =
+      u"nieznany-vat Stawka VAT 5,5 % jest w bazie, a w strukturze pliku nie ma jej opisu; towary z tą "
+      u"stawką w "
+      u"pliku dostają stawkę 22 % 0: "_s;
+  const auto nieznana = [](const char* tekst, const char* rekordy) {
+    return u"nieznany-vat Tekst „%1” nie jest opisem żadnej stawki VAT; przyjęto stawkę 22 % %2"_s.arg(
+        QString::fromUtf8(tekst), QString::fromUtf8(rekordy));
+  };
+  UstawPola({0, 1, 23});
+  EXPECT_THAT(Uwagi(Importuj("590001;a;5%\n590002;b;A\n590003;c;ż5\n590004;d;5%\n590005;e; \n;f;7%\n")),
+              ElementsAre(nieznana("5%", "2: 1, 4"), nieznana("ż5", "1: 3"), nieznana("", "1: 5"), bezOpisu));
+  // A good whose rate is not written takes none.
+  struktura.UstawOferowane(PoleTowaru::StawkaVat, false);
+  EXPECT_THAT(Uwagi(Importuj("590001;aa;7%\n590007;g;7%\n")),
+              ElementsAre(nieznana("7%", "1: 2"), QString(bezOpisu).replace("5,5", "22"), bezOpisu));
+  UstawPola({0, 1});
+  EXPECT_THAT(
+      Uwagi(Importuj("590001;ab\n590008;h\n")),
+      ElementsAre(u"vat-domyslny Plik nie zawiera stawki VAT; nowe towary dostają stawkę 22 % 1: 2"_s));
+  struktura.CBTypPliku = TypPliku::Zorvik;
+  const QString linia = u"naglowek\n590010\ti"_s + QString(22, u'\t') + u"x%"_s + QString(8, u'\t') +
+                        u"1\n590011\tj"_s + QString(22, u'\t') + u"2300"_s + QString(8, u'\t') + u"1\n"_s;
+  EXPECT_THAT(Uwagi(Importuj(linia)), ElementsAre(nieznana("x%", "1: 1")));
 }
 
 TEST_F(SterownikTest, BuforNipTylkoGdyPotrzebny) {
