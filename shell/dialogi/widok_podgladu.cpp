@@ -27,8 +27,9 @@ namespace {
 
 constexpr std::chrono::milliseconds kZwloka{200};
 constexpr int kNajszerszaKolumna = 260;
+constexpr qsizetype kNajwiecejUwag = 4;  // the table needs room as well
 
-// All reasons against the file, then the records that would make the run stop.
+// All reasons against the file, then the records that would make the run stop, then what it would tell.
 QString TekstUwag(const PodgladPliku& podglad) {
   QStringList uwagi = podglad.powody;
   const auto zUwaga = [](const PodgladPliku::Wiersz& wiersz) { return !wiersz.uwaga.isEmpty(); };
@@ -38,7 +39,14 @@ QString TekstUwag(const PodgladPliku& podglad) {
     const auto ile = std::count_if(pierwszy, podglad.wiersze.end(), zUwaga);
     if (ile > 1) uwagi.last() += u" Takich rekordów wśród pokazanych: %1."_s.arg(ile);
   }
+  uwagi << podglad.uwagi.mid(0, kNajwiecejUwag);
+  if (const qsizetype dalszych = podglad.uwagi.size() - kNajwiecejUwag; dalszych > 0)
+    uwagi << u"Dalszych uwag: %1. Wskazują je znaki w tabeli."_s.arg(dalszych);
   return uwagi.join(u'\n');
+}
+
+QString Polaczone(const QString& a, const QString& b) {
+  return a.isEmpty() || b.isEmpty() ? a + b : a + u'\n' + b;
 }
 
 // The name first: a long folder is cut at its end.
@@ -155,17 +163,20 @@ void WidokPodgladu::PokazWiersze(const PodgladPliku& podglad) {
   m_tabela->setRowCount(static_cast<int>(podglad.wiersze.size()));
   m_tabela->setHorizontalHeaderLabels(podglad.naglowki);
   const QIcon ostrzezenie = style()->standardIcon(QStyle::SP_MessageBoxWarning);
+  const QIcon informacja = style()->standardIcon(QStyle::SP_MessageBoxInformation);
   for (int w = 0; w < m_tabela->rowCount(); ++w) {
     const PodgladPliku::Wiersz& wiersz = podglad.wiersze[static_cast<size_t>(w)];
     auto* const naglowek = new QTableWidgetItem(QString::number(w + 1));
-    if (!wiersz.uwaga.isEmpty()) {
-      naglowek->setIcon(ostrzezenie);
-      naglowek->setToolTip(wiersz.uwaga);
+    const QString oLinii = Polaczone(wiersz.uwaga, wiersz.wLinii);
+    if (!oLinii.isEmpty()) {
+      naglowek->setIcon(wiersz.uwaga.isEmpty() ? informacja : ostrzezenie);
+      naglowek->setToolTip(oLinii);
     }
     m_tabela->setVerticalHeaderItem(w, naglowek);
     for (int k = 0; k < m_tabela->columnCount(); ++k) {
       auto* const komorka = new QTableWidgetItem(wiersz.wartosci[k]);
-      komorka->setToolTip(wiersz.uwaga);
+      komorka->setToolTip(Polaczone(wiersz.zauwazone[k], oLinii));
+      if (!wiersz.zauwazone[k].isEmpty()) komorka->setIcon(informacja);
       m_tabela->setItem(w, k, komorka);
     }
   }

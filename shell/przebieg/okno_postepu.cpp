@@ -8,6 +8,7 @@
 
 #include "robotnik/stan_przebiegu.h"
 #include "shell/przebieg/okno_pominietych.h"
+#include "shell/przebieg/okno_uwag.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -37,6 +38,7 @@ Tfrm_progress::Tfrm_progress(StanPrzebiegu& stan, Rozmowa& rozmowa, QWidget* rod
   connect(m_ui->button, &QPushButton::clicked, this, [this] { buttonClick(); });
   connect(m_ui->pominiete, &QPushButton::clicked, this,
           [this] { PokazPominiete(this, m_rozmowa, m_plikPominietych); });
+  connect(m_ui->uwagi, &QPushButton::clicked, this, [this] { PokazUwagi(this, m_rozmowa, m_uwagi); });
 }
 
 Tfrm_progress::~Tfrm_progress() = default;
@@ -53,6 +55,9 @@ void Tfrm_progress::PokazWynik(const WynikPrzebiegu& wynik) {
                       : koniec;
   m_plikPominietych = wynik.plikPominietych;
   if (m_timer->isActive()) m_timer->start(kOkresPrzedKoncemMs);
+  m_uwagi = wynik.uwagi;
+  m_ui->uwagi->setText(u"&Uwagi (%1)..."_s.arg(m_uwagi.size()));
+  m_ui->uwagi->setVisible(!m_uwagi.empty());
   m_ui->pominiete->setVisible(QFileInfo(m_plikPominietych).size() > 0);
 }
 

@@ -22,7 +22,8 @@ class Tfrm_progress final : public QDialog {
   ~Tfrm_progress() override;
 
   TLProgressView& Widok();
-  // How the run ended, shown once the worker is finished; offers the records it skipped.
+  // How the run ended, shown once the worker is finished; offers the records it skipped and what
+  // it noticed.
   void PokazWynik(const WynikPrzebiegu& wynik);
 
   void reject() override;
@@ -42,4 +43,5 @@ class Tfrm_progress final : public QDialog {
   Rozmowa& m_rozmowa;
   QString m_zakonczenie;
   QString m_plikPominietych;
+  std::vector<Uwaga> m_uwagi;
 };

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -15,6 +16,8 @@
 #include "shell/przebieg/wykonanie_przebiegu.h"
 #include "tests/okno/osoba_przy_oknie.h"
 #include "tests/okno/rozmowa_testowa.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -162,6 +165,36 @@ TEST_F(OknoPostepu, PrzebiegZaPrzebiegiem) {
       o.postep.Koniec();
     });
     EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Zakonczono);
+  }
+}
+
+TEST_F(OknoPostepu, UwagiMajaWlasnaListe) {
+  const std::vector<Uwaga> uwagi{{RodzajUwagi::WiecejPol, u"Dalszy tekst"_s, 12, {1, 3}},
+                                 {RodzajUwagi::StronaKodowa, u"Inna strona"_s, 0, {}}};
+  for (const bool sa : {true, false}) {
+    QStringList komorki;
+    rozmowa.dialogi.push_back([&](QDialog& okno) {
+      auto& przycisk = *okno.findChild<QPushButton*>("uwagi");
+      return CzekajIZamknij(okno, {{[&] { return Przycisk(okno).text() == u"Zamknij"; },
+                                    [&] {
+                                      EXPECT_EQ(przycisk.isVisible(), sa);
+                                      if (sa) przycisk.click();
+                                    }}});
+    });
+    if (sa)
+      rozmowa.dialogi.push_back([&](QDialog& lista) {
+        const auto& tabela = *lista.findChild<QTableWidget*>("tabela");
+        for (int i = 0; i < tabela.rowCount() * 3; ++i) komorki << tabela.item(i / 3, i % 3)->text();
+        return 0;
+      });
+    Przebiegnij([&](const Otoczenie&) {
+      WynikPrzebiegu wynik;
+      wynik.koniec = KoniecPrzebiegu::Zakonczono;
+      if (sa) wynik.uwagi = uwagi;
+      return wynik;
+    });
+    EXPECT_EQ(komorki,
+              sa ? QStringList({"Dalszy tekst", "12", u"1, 3, …"_s, "Inna strona", "", ""}) : QStringList());
   }
 }
 

@@ -98,4 +98,38 @@ TEST(Podglad, BrakPlikuJestPowodem) {
   EXPECT_TRUE(podglad.wiersze.empty());
 }
 
+// Marks of the cells, "row.column kind", of lines with the column "-"; then the notices below.
+QStringList Znaki(const StrukturaPliku& struktura, const std::string& tresc, qsizetype* uwag = nullptr) {
+  const PodgladPliku podglad = CzytajPodglad(struktura, PlikProbny(tresc).Sciezka());
+  QStringList znaki;
+  for (std::size_t w = 0; w < podglad.wiersze.size(); ++w) {
+    const PodgladPliku::Wiersz& wiersz = podglad.wiersze[w];
+    if (!wiersz.wLinii.isEmpty()) znaki << u"%1.- %2"_s.arg(w + 1).arg(wiersz.wLinii.section(u' ', 0, 1));
+    for (int k = 0; k < wiersz.zauwazone.size(); ++k)
+      if (!wiersz.zauwazone[k].isEmpty())
+        znaki << u"%1.%2 %3"_s.arg(w + 1).arg(k).arg(wiersz.zauwazone[k].section(u' ', 0, 1));
+  }
+  if (uwag) *uwag = podglad.uwagi.size();
+  return znaki;
+}
+
+TEST(Podglad, ZnaczyToCoPrzebiegPowieWUwagach) {
+  qsizetype uwag = 0;
+  StrukturaPliku towary = Towary(TypPliku::Rozdzielany, "00 01 23 31");
+  towary.opisyVat = {OpisVat(u"23"_s, u"A"_s)};
+  EXPECT_EQ(Znaki(towary, "1;a;A;1;\n2;b;5%;1;x\n3;\xBE\xA2\x88\x86;A;\"N\"\n4;b;A;1\n", &uwag),
+            (QStringList{u"2.- Za ostatnim"_s, u"2.2 Tekst „5%”"_s, u"3.1 Większość znaków"_s,
+                         u"3.3 Wartość pola"_s}));
+  EXPECT_EQ(uwag, 4);
+  const StrukturaPliku kontrahenci =
+      Struktura(RodzajRekordu::Kontrahenci, TypPliku::Rozdzielany, {"00", "32"});
+  EXPECT_EQ(Znaki(kontrahenci, "A;1.12.2030\nB;2030-12-01\nC;\n", &uwag), QStringList{"2.1 Pole „Termin"});
+  EXPECT_EQ(uwag, 1);
+  std::string tabela = Tabela{.pola = {{"KOD", 4}, {"STAN", 1}}, .rekordy = {" 5901T", " 5902 "}}.Bajty();
+  tabela[2 * 32 + 11] = 'L';
+  EXPECT_EQ(Znaki(Towary(TypPliku::DBase, "00KOD 31STAN"), tabela, &uwag),
+            (QStringList{u"1.1 Kolumna STAN"_s, u"2.1 Kolumna STAN"_s}));
+  EXPECT_EQ(uwag, 2);  // the count in the header as well
+}
+
 }  // namespace
