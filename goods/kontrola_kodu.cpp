@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Digits only: the length test keeps the value within 64 bits for every limit a person can type in earnest.
+// Of digits; the length test keeps them within 64 bits.
 long long WartoscCyfr(QStringView cyfry) {
   return cyfry.toLongLong();
 }

@@ -27,6 +27,8 @@ enum class TowarBezKodu { RBPominTowarBezKodu = 1, RBDodajKodWlasny = 2, RBPytaj
 
 enum class JakieTowary { RBTowaryWszystkie = 1, RBTowaryAktywne = 2, RBTowaryUsuniete = 3 };
 
+inline constexpr int kCyfrKoduKrotkiego = 13;
+
 struct OpcjeImportuTowarow {
   bool cb_akttow = true;
   bool cb_nowetowary = true;
@@ -45,7 +47,7 @@ struct OpcjeImportuTowarow {
   bool cb_KodyZaczynajaceSieOdZera = false;
   bool cb_KodyZawierajaceLitery = false;
   bool cb_SprawdzajCyfreKontrolnaWEAN = false;
-  QString EdKodyKrotkie = QStringLiteral("10000");  // any text a person types
+  QString EdKodyKrotkie = QStringLiteral("10000");  // at most kCyfrKoduKrotkiego digits; empty: none is short
   int UpDownMinDlugoscKodu = 1;                     // characters, 1 to 20
   int UpDownMaxDlugoscKodu = 13;
   bool cb_KodyWazone = false;

@@ -2,11 +2,14 @@
 
 #include <algorithm>
 
+#include <QLineEdit>
 #include <QMetaProperty>
 #include <QRadioButton>
 #include <QScopedValueRollback>
+#include <QValidator>
 
 #include "ustawienia/tabela_ustawien.h"
+#include "ustawienia/ustawienia.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -59,6 +62,21 @@ std::vector<QWidget*> Kontrolki(const QWidget& okno, const Ustawienie& ustawieni
   return kontrolki;
 }
 
+// Lets a person type what the setting takes.
+class WalidatorUstawienia final : public QValidator {
+ public:
+  WalidatorUstawienia(const Ustawienie& ustawienie, QObject* rodzic)
+      : QValidator(rodzic), m_ustawienie(ustawienie) {}
+
+  State validate(QString& tekst, int& /*pozycja*/) const override {
+    Ustawienia proba;
+    return m_ustawienie.wpisz(proba, tekst) ? Acceptable : Invalid;
+  }
+
+ private:
+  const Ustawienie& m_ustawienie;
+};
+
 // Radio buttons that are stored one by one change together.
 bool Rodzenstwo(const QObject* a, const QObject* b) {
   return a == b || (a->inherits("QRadioButton") && b->inherits("QRadioButton") && a->parent() == b->parent());
@@ -71,8 +89,11 @@ Powiazania::Powiazania(QWidget& okno, Ustawienia& ustawienia) : m_ustawienia(ust
   for (const Ustawienie& ustawienie : TabelaUstawien()) {
     Powiazanie powiazanie{&ustawienie, Kontrolki(okno, ustawienie)};
     if (powiazanie.kontrolki.empty()) continue;
-    for (QWidget* const kontrolka : powiazanie.kontrolki)
+    for (QWidget* const kontrolka : powiazanie.kontrolki) {
       connect(kontrolka, Wlasciwosc(*kontrolka).notifySignal(), this, zmieniono);
+      if (auto* const linia = qobject_cast<QLineEdit*>(kontrolka))
+        linia->setValidator(new WalidatorUstawienia(ustawienie, linia));
+    }
     m_powiazania.push_back(std::move(powiazanie));
   }
 }

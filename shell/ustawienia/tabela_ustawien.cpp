@@ -8,6 +8,7 @@
 
 #include <QDir>
 
+#include "model/reguly_kodow.h"
 #include "platform/config.h"
 #include "platform/liczby.h"
 #include "ustawienia/nazwy_czlonow.h"
@@ -96,6 +97,18 @@ constexpr Ustawienie Tekst(std::u16string_view klucz, std::u16string_view domysl
             return true;
           },
           Kontrolka<Kroki...>()};
+}
+
+template <int Najwyzej, auto... Kroki>
+constexpr Ustawienie Cyfry(std::u16string_view klucz, std::u16string_view domyslna) {
+  Ustawienie ustawienie = Tekst<Kroki...>(klucz, domyslna);
+  ustawienie.rodzaj = RodzajUstawienia::Cyfry;
+  ustawienie.wpisz = [](U& u, const QString& tekst) {
+    if (!SameCyfry(tekst) || tekst.size() > Najwyzej) return false;
+    Czlon<Kroki...>(u) = tekst;
+    return true;
+  };
+  return ustawienie;
 }
 
 template <auto... Kroki>
@@ -198,7 +211,8 @@ constexpr Ustawienie kTabela[] = {
     Flaga<&U::importTow, &OpcjeImportuTowarow::cb_KodyZawierajaceLitery>(u"ParKodyZawierajaceLitery", u"0"),
     Flaga<&U::importTow, &OpcjeImportuTowarow::cb_SprawdzajCyfreKontrolnaWEAN>(u"ParSprawdzCyfreKontrolna",
                                                                                u"0"),
-    Tekst<&U::importTow, &OpcjeImportuTowarow::EdKodyKrotkie>(u"ParKodyKrotkie", u"10000"),
+    Cyfry<kCyfrKoduKrotkiego, &U::importTow, &OpcjeImportuTowarow::EdKodyKrotkie>(u"ParKodyKrotkie",
+                                                                                  u"10000"),
     Liczba<1, 20, &U::importTow, &OpcjeImportuTowarow::UpDownMinDlugoscKodu>(u"ParMinDlKodu", u"1"),
     Liczba<1, 20, &U::importTow, &OpcjeImportuTowarow::UpDownMaxDlugoscKodu>(u"ParMaxDlKodu", u"13"),
     Flaga<&U::importTow, &OpcjeImportuTowarow::cb_KodyWazone>(u"ParKodyWazone", u"0"),

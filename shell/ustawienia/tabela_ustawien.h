@@ -13,6 +13,7 @@ enum class RodzajUstawienia {
   Flaga,        // "0" or "1"
   Liczba,       // a whole number within its bounds: positions, item indexes, three-way groups
   Tekst,        // any text
+  Cyfry,        // digits, kept as they were typed; may be empty
   Separator,    // any text; a tabulator is "tab", one space is "spac"
   PlikWymiany,  // a path; the default is a name in the start-up folder
   Lista         // the number of entries; the entries follow under a stem and their number from 0

@@ -151,8 +151,8 @@ TEST(WierszPolecen, KolejnoscUstawien) {
   EXPECT_EQ(poRegulach.Tekst(u"ParJakieTowary"_s), u"1"_s);
 
   // Entries may stand before the length of their list. What Windows-1250 lacks is not lost silently.
-  const Wynik lista =
-      s.Uruchom(Slowa("ustawienia --ustaw ParPoleTow0=00 --ustaw ParIloscPolTow=1 --ustaw ParKodyKrotkie=Ω"));
+  const Wynik lista = s.Uruchom(
+      Slowa("ustawienia --ustaw ParPoleTow0=00 --ustaw ParIloscPolTow=1 --ustaw ParPoleTypUsluga=Ω"));
   EXPECT_TRUE(lista.wyjscie.contains(u"ParPoleTow0                        00\r\n"_s));
   EXPECT_TRUE(lista.bledy.contains(u"UWAGA: Znaki spoza strony kodowej Windows-1250"_s));
 

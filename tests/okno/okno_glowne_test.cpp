@@ -17,20 +17,20 @@ TEST_F(OknoGlowne, UruchomienieBierzeUstawieniaWKolejnosci) {
   b.baza.ExecSQL("insert into Magazyn (MagId, Nazwa) values (3, 'Zaplecze')");
   b.baza.ExecSQL("insert into Magazyn (MagId, Nazwa) values (1, 'Żabka')");
   ASSERT_FALSE(plik_konfiguracji::Zapisz(Sciezka(u"ZorvikDef.cfg"_s), Config({{"ParNoweTowary", "0"},
-                                                                              {"ParKodyKrotkie", "def"},
+                                                                              {"ParKodyKrotkie", "500"},
                                                                               {"ParImportStanow", "1"},
                                                                               {"ParJakieTowary", "3"},
                                                                               {"ParTowarBezNazwy", "1"},
                                                                               {"ParTypPlikuTow", "1"}}))
                    .blad);
   b.baza.ZapiszKonfiguracje(magazyn_ustawien::NazwaKonfiguracji(),
-                            Config({{"ParKodyKrotkie", "baza"}, {"ParActivePageIndex", "2"}}));
+                            Config({{"ParKodyKrotkie", "700"}, {"ParActivePageIndex", "2"}}));
   ASSERT_TRUE(Otworz());
   EXPECT_TRUE(okno->isVisible());
   EXPECT_EQ(okno->windowTitle(), u"Import/Eksport bazy towarów/kontrahentów ("_s + b.baza.Nazwa() + u')');
   EXPECT_TRUE(Zaznaczony(u"cb_akttow"_s));
   EXPECT_FALSE(Zaznaczony(u"cb_nowetowary"_s));
-  EXPECT_EQ(Znajdz<QLineEdit>(u"EdKodyKrotkie"_s).text(), u"baza"_s);
+  EXPECT_EQ(Znajdz<QLineEdit>(u"EdKodyKrotkie"_s).text(), u"700"_s);
   EXPECT_EQ(Znajdz<QTabWidget>(u"PageControl"_s).currentIndex(), 2);
   EXPECT_EQ(U().plikImportuTow, QDir::toNativeSeparators(Sciezka(u"TOWARY_I.txt"_s)));
   // The rules between options, once after everything was loaded: the structure has neither names nor a

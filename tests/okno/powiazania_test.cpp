@@ -63,7 +63,7 @@ class Strony : public testing::Test {
     }
   }
   static QString Inny(const QString& tekst) {
-    return tekst == u"1" ? u"0"_s : tekst == u"0" ? u"1"_s : tekst == u"10000" ? u"ż 5"_s : u"7"_s;
+    return tekst == u"1" ? u"0"_s : tekst == u"0" ? u"1"_s : u"7"_s;
   }
 
   QWidget forma;
@@ -137,6 +137,14 @@ TEST_F(Strony, KlikniecieZostawiaJedenPrzyciskNip) {
   for (const auto* przycisk : forma.findChildren<QRadioButton*>())
     EXPECT_FALSE(przycisk->objectName().startsWith(u"rb_") && przycisk->isChecked());
   EXPECT_TRUE(zmienione.isEmpty());
+}
+
+TEST_F(Strony, GranicaKodowKrotkichPrzyjmujeSameCyfry) {
+  auto& pole = dynamic_cast<QLineEdit&>(Kontrolka("EdKodyKrotkie"));
+  pole.clear();
+  for (const QString& wpisane : {u"x"_s, u" "_s, u"-"_s, u"1234567890123"_s, u"4"_s}) pole.insert(wpisane);
+  EXPECT_EQ(pole.text(), u"1234567890123"_s);
+  EXPECT_EQ(u.importTow.EdKodyKrotkie, u"1234567890123"_s);
 }
 
 TEST_F(Strony, DlugoscKoduMoznaWpisac) {

@@ -50,6 +50,8 @@ QString InnaWartosc(const Ustawienie& ustawienie) {
     case RodzajUstawienia::Tekst:
     case RodzajUstawienia::PlikWymiany:
       return QStringLiteral("ż ") + Klucz(ustawienie);
+    case RodzajUstawienia::Cyfry:
+      return QStringLiteral("0123456789012");
     case RodzajUstawienia::Separator:
       return QStringLiteral("spac");
     case RodzajUstawienia::Lista:
@@ -177,7 +179,8 @@ TEST(TabelaUstawien, NieprzyjmowaneKluczeIWartosci) {
       {"ParPoleTow2", "01", NieznanyKlucz},   {"ParPoleTow01", "01", NieznanyKlucz},
       {"ParPoleTow-1", "01", NieznanyKlucz},  {"ParPoleTow", "01", NieznanyKlucz},
       {"ParIloscPolTow", "x", ZlaWartosc},    {"ParIloscPolKontr", "99999999", Ustawiono},
-      {"ParIloscOpisowVAT", "-3", Ustawiono},
+      {"ParIloscOpisowVAT", "-3", Ustawiono}, {"ParKodyKrotkie", "", Ustawiono},
+      {"ParKodyKrotkie", "12 ", ZlaWartosc},  {"ParKodyKrotkie", "12345678901234", ZlaWartosc},
   };
   Ustawienia u = Domyslne();
   for (const auto& p : przypadki)
@@ -215,11 +218,11 @@ TEST_F(Zrodla, PozniejszeZrodloMaPierwszenstwo) {
   BazaTestowa test;
   test.baza.ExecSQL("create table Konfiguracja (Nazwa text, Kolejnosc integer, Parametr text, Wartosc text)");
   TMConfig wBazie;
-  for (const char* klucz : {"ParKodyKrotkie", "ParPoleAktywnyTow", "ParPoleUsunietyTow", "ParObcy"})
+  for (const char* klucz : {"ParPoleTypUsluga", "ParPoleAktywnyTow", "ParPoleUsunietyTow", "ParObcy"})
     wBazie.Ustaw(QLatin1String(klucz), QStringLiteral("baza"));
   wBazie.Ustaw(QStringLiteral("ParAktualTow"), QStringLiteral("tak"));
   test.baza.ZapiszKonfiguracje(magazyn_ustawien::NazwaKonfiguracji(), wBazie);
-  Plik("ZorvikDef.cfg", {{"ParTypPlikuTow", "1"}, {"ParPoleTypTowar", "def"}, {"ParKodyKrotkie", "def"}});
+  Plik("ZorvikDef.cfg", {{"ParTypPlikuTow", "1"}, {"ParPoleTypTowar", "def"}, {"ParPoleTypUsluga", "def"}});
 
   magazyn_ustawien::Zrodla zrodla;
   zrodla.katalogStartowy = m_folder.path();
@@ -232,7 +235,7 @@ TEST_F(Zrodla, PozniejszeZrodloMaPierwszenstwo) {
   const magazyn_ustawien::WynikWczytania wynik = WczytajUstawienia(zrodla, u);
 
   EXPECT_EQ(u.strukturaTow.EdPoleTypTowar, QStringLiteral("def"));
-  EXPECT_EQ(u.importTow.EdKodyKrotkie, QStringLiteral("baza"));
+  EXPECT_EQ(u.strukturaTow.EdPoleTypUsluga, QStringLiteral("baza"));
   EXPECT_EQ(u.strukturaTow.EdPoleAktywny, QStringLiteral("plik"));
   EXPECT_EQ(u.strukturaTow.EdPoleUsuniety, QStringLiteral("klucz"));
   EXPECT_EQ(wynik.bledneKlucze, std::vector{QStringLiteral("ParNieMa")});
