@@ -1,5 +1,7 @@
 #include "goods/bloki.h"
 
+#include <algorithm>
+
 #include <QList>
 
 namespace {
@@ -31,6 +33,13 @@ std::optional<Element> WezElement(QStringView& reszta) {
   reszta = reszta.mid(1).trimmed();
   if (reszta.isEmpty()) return std::nullopt;
   return element;
+}
+
+// A name that holds what parts a block would be read back as something else.
+bool DobraNazwa(QStringView nazwa) {
+  constexpr QStringView kZnakiBloku = u";()";
+  return !nazwa.isEmpty() &&
+         std::none_of(nazwa.begin(), nazwa.end(), [=](QChar znak) { return kZnakiBloku.contains(znak); });
 }
 
 std::optional<int> Liczba(QStringView tekst) {
@@ -85,16 +94,14 @@ WynikBloku<BlokKategorii> CzytajBlokKategorii(QStringView blok) {
   BlokKategorii wynik;
   const qsizetype dwukropek = blok.indexOf(u':');
   wynik.kategoria = blok.left(dwukropek < 0 ? blok.size() : dwukropek).trimmed().toString();
-  if (wynik.kategoria.isEmpty() || wynik.kategoria.contains(kOtwarcie) ||
-      wynik.kategoria.contains(kZamkniecie))
-    return Zly<BlokKategorii>();
+  if (!DobraNazwa(wynik.kategoria)) return Zly<BlokKategorii>();
   if (dwukropek < 0) return {std::move(wynik), {}};
 
   QStringView reszta = blok.mid(dwukropek + 1).trimmed();
   if (reszta.isEmpty()) return Zly<BlokKategorii>();
   while (!reszta.isEmpty()) {
     const auto element = WezElement(reszta);
-    if (!element || element->przed.isEmpty()) return Zly<BlokKategorii>();
+    if (!element || !DobraNazwa(element->przed)) return Zly<BlokKategorii>();
     const qsizetype koniecN = element->tresc.indexOf(u':');
     if (koniecN < 0) return Zly<BlokKategorii>();
     ParametrZBloku parametr;
@@ -114,21 +121,26 @@ WynikBloku<BlokKategorii> CzytajBlokKategorii(QStringView blok) {
   return {std::move(wynik), {}};
 }
 
+// A later column that brought a list left its "(" behind the ";" and took the ")" of what was there before: a
+// list may be opened again while it is open, but it is closed once, at a ";" or at the end.
 WynikBloku<std::vector<QString>> CzytajBlokNipow(QStringView blok) {
   using Nipy = std::vector<QString>;
-  blok = blok.trimmed();
-  if (blok.size() < 2 || blok.front() != kOtwarcie || blok.back() != kZamkniecie) return Zly<Nipy>();
   Nipy nipy;
-  for (const QStringView czesc : blok.mid(1, blok.size() - 2).split(kNastepny)) {
-    // Joining columns leaves a "(" in front of what a later column brought, and sometimes the ")" of the
-    // earlier one.
-    QStringView tresc = czesc.trimmed();
-    if (tresc.startsWith(kOtwarcie)) tresc = tresc.mid(1);
-    if (tresc.endsWith(kZamkniecie)) tresc.chop(1);
-    if (tresc.contains(kOtwarcie) || tresc.contains(kZamkniecie)) return Zly<Nipy>();
-    for (const QStringView nip : tresc.split(kCzesc))
-      if (!nip.trimmed().isEmpty()) nipy.push_back(nip.trimmed().toString());
+  bool otwarty = false;
+  for (QStringView czesc : blok.split(kNastepny)) {
+    czesc = czesc.trimmed();
+    if (czesc.startsWith(kOtwarcie))
+      czesc = czesc.mid(1);
+    else if (!otwarty)
+      return Zly<Nipy>();
+    otwarty = !czesc.endsWith(kZamkniecie);
+    if (!otwarty) czesc.chop(1);
+    if (czesc.contains(kOtwarcie) || czesc.contains(kZamkniecie)) return Zly<Nipy>();
+    for (const QStringView nip : czesc.split(kCzesc)) nipy.push_back(nip.trimmed().toString());
   }
-  if (nipy.empty()) return Zly<Nipy>();
+  const auto pusty = [](const QString& nip) { return nip.isEmpty(); };
+  nipy.erase(nipy.begin(), std::find_if_not(nipy.begin(), nipy.end(), pusty));
+  nipy.erase(std::find_if_not(nipy.rbegin(), nipy.rend(), pusty).base(), nipy.end());
+  if (otwarty || nipy.empty() || std::any_of(nipy.begin(), nipy.end(), pusty)) return Zly<Nipy>();
   return {std::move(nipy), {}};
 }

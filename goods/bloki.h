@@ -30,7 +30,7 @@ struct KodZBloku {
 WynikBloku<std::vector<KodZBloku>> CzytajBlokKodow(QStringView blok);
 
 // "Category" or "Category: par(n:a|b|c);par(n:lo..hi)". A range parameter has bounds, a list parameter has
-// values.
+// values. No name is empty or holds ";".
 struct ParametrZBloku {
   enum class Typ { Lista = 0, Zakres = 1 };
 
@@ -52,5 +52,5 @@ struct BlokKategorii {
 WynikBloku<BlokKategorii> CzytajBlokKategorii(QStringView blok);
 
 // "(number|number)"; blocks joined from several columns may hold ";" or ";(" between numbers. Empty numbers
-// are dropped.
+// at either end are dropped, one between others makes the block malformed.
 WynikBloku<std::vector<QString>> CzytajBlokNipow(QStringView blok);

@@ -66,6 +66,12 @@ TEST(Bloki, SaCzytaneCaleAlboWcale) {
       {Nipy, u"(1", u"?"_s},
       {Nipy, u"1)", u"?"_s},
       {Nipy, u"(1(2)", u"?"_s},
+      {Nipy, u"(1;(2|3;(4)", u"1,2,3,4"_s},  // from three columns
+      {Nipy, u"((1))", u"?"_s},
+      {Nipy, u"(1;(2))", u"?"_s},
+      {Nipy, u"(1;2);3)", u"?"_s},
+      {Nipy, u"(1||2)", u"?"_s},
+      {Nipy, u"(1;;2)", u"?"_s},
 
       {Kategoria, u" Nabiał ", u"Nabiał"_s},
       {Kategoria, u"Nabiał: Tłuszcz(2:3,2 %|2 %);Masa(500:1..1000)",
@@ -82,6 +88,10 @@ TEST(Bloki, SaCzytaneCaleAlboWcale) {
       {Kategoria, u"N:", u"?"_s},
       {Kategoria, u"N(1)", u"?"_s},
       {Kategoria, u": p(1:a)", u"?"_s},
+      {Kategoria, u"N: ;p(1:a)", u"?"_s},
+      {Kategoria, u"N: p(1:a);;q(1:b)", u"?"_s},
+      {Kategoria, u"N: p;q(1:a)", u"?"_s},
+      {Kategoria, u"N;M", u"?"_s},
   };
   for (const Blok& b : bloki)
     EXPECT_EQ(b.czytaj(b.blok), b.wynik) << QString::fromUtf16(b.blok).toStdString();
