@@ -17,6 +17,12 @@ std::string NipKontrahenta(std::uint64_t numer);
 // first warehouse. `noweCeny` changes both prices of every record and nothing else.
 void ZapiszPlikTowarow(const std::string& sciezka, int ile, TypPliku typ, bool noweCeny);
 
+// Goods in the own layout that grow in one direction: one good with so many additional codes whose short names
+// are to be made, one with so many parameters of its category, all new, so many goods with an assortment each.
+void ZapiszPlikKodow(const std::string& sciezka, int ile);
+void ZapiszPlikParametrow(const std::string& sciezka, int ile);
+void ZapiszPlikAsortymentow(const std::string& sciezka, int ile);
+
 // Contractors in the own layout: tax numbers that do not repeat, written in three ways, suppliers, producers
 // and customers, every third of them with two persons and every fourth with a card, every hundredth a shop.
 // `nowyKredyt` changes the credit limit of every record and nothing else.

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 
+#include "bench/pomiar_dlugich.h"
 #include "bench/pomiar_eksportu.h"
 #include "bench/pomiar_importu.h"
 #include "bench/pomiar_okna.h"
@@ -12,8 +13,8 @@
 
 // pomiar [N] [CZĘŚĆ]: how fast imports and exports are beside a plain program that leaves the same rows or
 // the same file (wzorzec), how the cost of a record grows, what memory and waits for the disk they take,
-// what an import costs in the window, and how fast both are on a server beside psql.
-// Goods are measured by N, contractors by half of it. Exit status 1 when a limit does not hold.
+// what very long records cost, what an import costs in the window, and how fast both are on a server beside
+// psql. Goods are measured by N, contractors by half of it. Exit status 1 when a limit does not hold.
 
 namespace {
 
@@ -34,11 +35,8 @@ void Eksport(const Warsztat& warsztat, int ile, Tabela& tabela) {
 constexpr struct {
   const char* nazwa;
   void (*zmierz)(const Warsztat&, int, Tabela&);
-} kCzesci[] = {{"towary", Towary},
-               {"kontrahenci", Kontrahenci},
-               {"eksport", Eksport},
-               {"okno", ZmierzOkno},
-               {"serwer", ZmierzSerwer}};
+} kCzesci[] = {{"towary", Towary},       {"kontrahenci", Kontrahenci}, {"eksport", Eksport},
+               {"dlugie", ZmierzDlugie}, {"okno", ZmierzOkno},         {"serwer", ZmierzSerwer}};
 
 }  // namespace
 
@@ -47,7 +45,7 @@ int main(int argc, char** argv) {
   const std::string wybrana = argc > 2 ? argv[2] : "";
   const auto wybierz = [&](const auto& czesc) { return wybrana.empty() || wybrana == czesc.nazwa; };
   if (ile < 2 || argc > 3 || std::none_of(std::begin(kCzesci), std::end(kCzesci), wybierz)) {
-    std::fputs("Użycie: pomiar [N] [towary|kontrahenci|eksport|okno|serwer]\n", stderr);
+    std::fputs("Użycie: pomiar [N] [towary|kontrahenci|eksport|dlugie|okno|serwer]\n", stderr);
     return 2;
   }
   try {

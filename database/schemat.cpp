@@ -24,10 +24,12 @@ constexpr std::string_view kSchemat[] = {
     R"(create table Asort (
         AsId {klucz},
         Nazwa {tekst} not null))",
+    "create index AsortNazwa on Asort (Nazwa)",
     R"(create table JM (
         JMId {klucz},
         Nazwa {tekst} not null,
         Precyzja {calk} not null default 0))",
+    "create index JMNazwa on JM (Nazwa)",
     R"(create table Vat (
         Stawka {calk} not null primary key))",
     R"(create table Magazyn (
@@ -36,6 +38,7 @@ constexpr std::string_view kSchemat[] = {
     R"(create table Kategoria (
         KatId {klucz},
         Nazwa {tekst} not null))",
+    "create index KategoriaNazwa on Kategoria (Nazwa)",
     // Typ: 0 a list (its values stand in ParWartosc, counted from 0), 1 a range from Od to Do
     R"(create table Parametr (
         ParId {klucz},
@@ -43,6 +46,7 @@ constexpr std::string_view kSchemat[] = {
         Typ {calk} not null default 0,
         Od {dzies} not null default 0,
         Do {dzies} not null default 0))",
+    "create index ParametrNazwa on Parametr (Nazwa)",
     R"(create table ParWartosc (
         ParId {calk} not null references Parametr (ParId),
         Kolejnosc {calk} not null,

@@ -120,6 +120,7 @@ void RozpoznawanieSlownikow::Wczytaj() {
   m_formaty = formaty.Formaty();
   m_iloscFormatow = formaty.Ilosc();
   m_stawki.Wczytaj(m_sesja.baza);
+  m_kategoria = {};
 }
 
 int RozpoznawanieSlownikow::Asortyment(const QString& nazwa, int biezacy) {
@@ -238,9 +239,16 @@ std::optional<std::pair<int, double>> RozpoznawanieSlownikow::Parametr(int katId
 }
 
 int RozpoznawanieSlownikow::ParametrWKategorii(int katId, const QString& nazwa) {
-  for (const int parId : m_kategorie.Parametry(katId))
-    if (TaSamaNazwa(m_parametry.Nazwa(parId), nazwa)) return parId;
-  return -1;
+  if (m_kategoria.katId != katId) {
+    m_kategoria = {katId, {}, nullptr};
+    for (const int parId : m_kategorie.Parametry(katId)) PrzyjmijParametr(parId);
+  }
+  return m_kategoria.parametry.value(nazwa.toCaseFolded(), -1);
+}
+
+void RozpoznawanieSlownikow::PrzyjmijParametr(int parId) {
+  const QString nazwa = m_parametry.Nazwa(parId).toCaseFolded();
+  if (!m_kategoria.parametry.contains(nazwa)) m_kategoria.parametry.insert(nazwa, parId);
 }
 
 // Names of parameters are unique in the database, so one that other categories have is only attached. A new
@@ -250,7 +258,7 @@ int RozpoznawanieSlownikow::DodajParametr(int katId, const QString& nazwa, const
   // Left alone: the caller refuses the type.
   if (istniejacy >= 0 && m_parametry.Rodzaj(istniejacy) != TypParametru(parametr)) return istniejacy;
   TDmVLTParametr nowy(m_sesja);
-  TDmVLTKategoria kategoria(m_sesja);
+  std::unique_ptr<TDmVLTKategoria> kategoria = std::move(m_kategoria.wpis);
   int parId = istniejacy;
   const bool zapisany = Udalo([&] {
     JednostkaZapisu jednostka(m_sesja.baza);
@@ -263,16 +271,21 @@ int RozpoznawanieSlownikow::DodajParametr(int katId, const QString& nazwa, const
         nowy.UstawZakres(parametr.od, parametr.doo);
       parId = nowy.Zapisz();
     }
-    kategoria.Wczytaj(katId);
-    kategoria.DodajParametr(parId);
-    kategoria.Zapisz();
+    if (!kategoria) {
+      kategoria = std::make_unique<TDmVLTKategoria>(m_sesja);
+      kategoria->Wczytaj(katId);
+    }
+    kategoria->DodajParametr(parId);
+    kategoria->Zapisz();
     jednostka.Zatwierdz();
   });
   if (!zapisany) return -1;
-  m_kategorie.Przyjmij(kategoria);
+  m_kategorie.Przyjmij(*kategoria);
+  m_kategoria.wpis = std::move(kategoria);
   if (istniejacy < 0) {
     m_parametry.Przyjmij(nowy);
     m_liczniki.Zwieksz(Licznik::Parametry);
   }
+  PrzyjmijParametr(parId);
   return parId;
 }

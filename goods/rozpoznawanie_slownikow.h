@@ -1,9 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
 
+#include <QHash>
 #include <QString>
 
 #include "goods/bloki.h"
@@ -62,6 +64,8 @@ class RozpoznawanieSlownikow {
   void Przemianuj(const Rodzaj& rodzaj, TDmVLTListaSlownika& lista, int id, const QString& nazwa);
   bool DodajFormat(FormatKoduWazonego format);
   int ParametrWKategorii(int katId, const QString& nazwa);
+  // Into the names of the category met last.
+  void PrzyjmijParametr(int parId);
   int DodajParametr(int katId, const QString& nazwa, const ParametrZBloku& parametr);
 
   KontekstSesji& m_sesja;
@@ -76,4 +80,12 @@ class RozpoznawanieSlownikow {
   TDmVLTListaParametrow m_parametry;
   TVLTStawkiVat m_stawki;
   int m_iloscFormatow = 0;
+  // Of the category met last: a block of thousands of parameters neither looks through them all for each one
+  // nor reads the category anew for each one it adds.
+  struct KategoriaWReku {
+    int katId = -1;
+    QHash<QString, int> parametry;          // case-folded name -> identifier of the first one
+    std::unique_ptr<TDmVLTKategoria> wpis;  // null until a parameter is added
+  };
+  KategoriaWReku m_kategoria;
 };

@@ -130,21 +130,34 @@ void TDmVLTKategoria::DodajParametr(int parId) {
     m_parametry.push_back(parId);
 }
 
+void TDmVLTKategoria::ClearDetails() {
+  m_parametry.clear();
+  m_zapisane = 0;
+  m_nastepnaKolejnosc = 0;
+}
+
 void TDmVLTKategoria::AfterLoad(bool isNew, int id) {
   if (isNew) return;
-  for (auto odczyt =
-           Context.baza.Otworz("select ParId from KatParam where KatId = :KatId order by Kolejnosc, ParId",
-                               {TypPola::Calkowite}, {{"KatId", id}});
-       odczyt.Nastepny();)
+  for (auto odczyt = Context.baza.Otworz(
+           "select ParId, Kolejnosc from KatParam where KatId = :KatId order by Kolejnosc, ParId",
+           {TypPola::Calkowite, TypPola::Calkowite}, {{"KatId", id}});
+       odczyt.Nastepny();) {
     m_parametry.push_back(static_cast<int>(odczyt[0].AsInteger()));
+    m_nastepnaKolejnosc = static_cast<int>(odczyt[1].AsInteger()) + 1;
+  }
+  m_zapisane = m_parametry.size();
 }
 
 void TDmVLTKategoria::ZapiszSzczegoly(int id) {
-  Context.baza.ExecSQL("delete from KatParam where KatId = :KatId", {{"KatId", id}});
-  int kolejnosc = 0;
-  for (const int parId : m_parametry)
+  int kolejnosc = m_nastepnaKolejnosc;
+  for (std::size_t i = m_zapisane; i < m_parametry.size(); ++i)
     Context.baza.ExecSQL("insert into KatParam (KatId, ParId, Kolejnosc) values (:KatId, :ParId, :Kolejnosc)",
-                         {{"KatId", id}, {"ParId", parId}, {"Kolejnosc", kolejnosc++}});
+                         {{"KatId", id}, {"ParId", m_parametry[i]}, {"Kolejnosc", kolejnosc++}});
+}
+
+void TDmVLTKategoria::AfterSave() {
+  m_nastepnaKolejnosc += static_cast<int>(m_parametry.size() - m_zapisane);
+  m_zapisane = m_parametry.size();
 }
 
 TDmVLTListaKategorii::TDmVLTListaKategorii(KontekstSesji& context)

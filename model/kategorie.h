@@ -54,7 +54,8 @@ class TDmVLTListaParametrow final : public TDmVLTListaSlownika {
   std::unordered_map<int, std::vector<QString>> m_wartosci;
 };
 
-// A category with its parameters in order. 2877 no name, 2878 name used.
+// A category with its parameters in order; they are only ever added behind the others, so a save writes the
+// new ones alone. 2877 no name, 2878 name used.
 class TDmVLTKategoria final : public TDmVLTWpisSlownika {
  public:
   explicit TDmVLTKategoria(KontekstSesji& context);
@@ -64,12 +65,15 @@ class TDmVLTKategoria final : public TDmVLTWpisSlownika {
   void DodajParametr(int parId);
 
  protected:
-  void ClearDetails() override { m_parametry.clear(); }
+  void ClearDetails() override;
   void AfterLoad(bool isNew, int id) override;
   void ZapiszSzczegoly(int id) override;
+  void AfterSave() override;
 
  private:
   std::vector<int> m_parametry;
+  std::size_t m_zapisane = 0;   // of the parameters, the first ones
+  int m_nastepnaKolejnosc = 0;  // behind them
 };
 
 // All categories, with their parameters in memory.

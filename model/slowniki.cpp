@@ -128,7 +128,7 @@ void TDmVLTListaSlownika::Przyjmij(const TDmVLTWpisSlownika& wpis) {
     m_zindeksowane = 0;
   }
   FillRowFromElement(wpis);
-  Query.ZatwierdzZmiany();
+  Query.ZatwierdzWiersz();
 }
 
 void TDmVLTListaSlownika::ClearDetails() {

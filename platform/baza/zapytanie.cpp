@@ -173,3 +173,8 @@ void TKMQuery::ZatwierdzZmiany() {
     for (TMField& pole : wiersz) pole.m_zmienione = false;
   m_zmianyWierszy = false;
 }
+
+void TKMQuery::ZatwierdzWiersz() {
+  for (TMField& pole : m_wiersze[static_cast<std::size_t>(m_biezacy)]) pole.m_zmienione = false;
+  m_zmianyWierszy = false;
+}

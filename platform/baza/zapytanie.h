@@ -125,6 +125,8 @@ class TKMQuery final : public TMCustomDataSet {
   bool GetUpdatesPending() const;
   // The rows as they are now become the rows as read: called after they were written.
   void ZatwierdzZmiany();
+  // The same where nothing but the current row was changed or added: long lists grow by many rows one by one.
+  void ZatwierdzWiersz();
 
  private:
   void CzytajWiersze();

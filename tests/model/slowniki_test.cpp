@@ -125,6 +125,15 @@ TEST_F(Slowniki, KategorieIParametryZeSzczegolami) {
     kategorie.Otworz();
     parametry_.Otworz();
   }
+  // One more goes behind the others, wherever they stand.
+  b.baza.ExecSQL("update KatParam set Kolejnosc = Kolejnosc * 3 + 2");
+  zakres.Nowy();
+  zakres.UstawNazwe(u"Waga"_s);
+  zakres.UstawZakres(1, 2);
+  kategoria.Wczytaj(1);
+  kategoria.DodajParametr(zakres.Zapisz());
+  kategoria.Zapisz();
+  EXPECT_EQ(b.Kolumna("select Kolejnosc from KatParam order by ParId", TypPola::Calkowite), u"5,2,6"_s);
   lista.Wczytaj(kolor);
   EXPECT_EQ(lista.Wartosci().size(), 2u);
   lista.UstawZakres(0, 1);
