@@ -81,6 +81,7 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
     m_paczka.PoOtwarciu = [this](bool obceZmiany) { PoOtwarciuPaczki(obceZmiany); };
     m_paczka.PoZatwierdzeniu = [this] {
       m_zasoby->skroty.ZatwierdzPaczke();
+      m_zasoby->nazwy.ZatwierdzPaczke();
       m_bufor.Zatwierdz();
     };
     m_kontekst.emplace(KontekstImportu{Parametry().sesja, m_opcje, Parametry().struktura, Plik(),
@@ -100,6 +101,7 @@ class PrzebiegImportuTowarow final : public PrzebiegImportu {
     m_bufor.Cofnij();
     m_zasoby->kodyWlasne.Zapomnij();
     m_zasoby->skroty.CofnijPaczke();
+    m_zasoby->nazwy.CofnijPaczke();
   }
 
   PoRekordzie Rekord(const RekordPliku& rekord) override { return m_rekord->Przetworz(rekord); }

@@ -57,7 +57,6 @@ PoRekordzie RekordTowaru::Przetworz(const RekordPliku& rekord) {
   m_kod = {};
   m_kod.kod = pola.Trim(PoleTowaru::Kod);
   m_nazwa = pola.Trim(PoleTowaru::Nazwa);
-  m_nazwaNadana = false;
   m_stan.reset();
   m_numer = rekord.numer;
   m_import.raport.NowyRekord(m_kod.kod, m_nazwa);
@@ -158,7 +157,6 @@ RekordTowaru::Krok RekordTowaru::UstalNazwe() {
       return Pomin(u"Brak nazwy towaru"_s);
     case TowarBezNazwy::RBDodajTowarZNazwaAuto:
       m_nazwa = m_import.nazwy.Zaproponuj();
-      m_nazwaNadana = true;
       break;
     case TowarBezNazwy::RBDodajTowarBezNazwy:
       break;  // asked for when the good is saved
@@ -209,9 +207,12 @@ std::optional<int> RekordTowaru::TowarZNazwa() const {
 }
 
 RekordTowaru::Krok RekordTowaru::DodajJakoKodDodatkowy(int towId) {
+  ZapytajOKod();
   if (const WynikKodu wynik = m_import.reguly.SprawdzDodatkowy(m_kod.kod); !wynik.Dobry())
     return Pomin(u"Błąd w kodzie dodatkowym: "_s + wynik.szczegol);
   m_towar.Wczytaj(towId);
+  // Only a code that was asked for: one of the file would have found the good.
+  if (m_towar.MaKod(m_kod.kod)) return Pomin(u"Towar o tym kodzie już jest w bazie"_s);
   KodDodatkowy kod;
   kod.kod = m_kod.kod;
   m_towar.Kody().Dodaj(std::move(kod));
@@ -230,7 +231,9 @@ RekordTowaru::Krok RekordTowaru::CzytajStan(const PolaRekordu& pola) {
   if (pola.Trim(PoleTowaru::Stan).isEmpty()) return Krok::Dalej;
   const auto ilosc = pola.Liczba(PoleTowaru::Stan);
   if (!ilosc.poprawny) return Pomin(ilosc.bledny + u" nie jest liczbą"_s);
-  if (ilosc.wartosc >= 0 || m_import.opcje.cb_importStanowUjemnych) m_stan = ilosc.wartosc;
+  if (ilosc.wartosc < 0 && !m_import.opcje.cb_importStanowUjemnych) return Krok::Dalej;
+  m_import.stany.WymagajIlosci(m_import.opcje.CBImportStanow, ilosc.wartosc);
+  m_stan = ilosc.wartosc;
   return Krok::Dalej;
 }
 
@@ -246,13 +249,12 @@ RekordTowaru::Krok RekordTowaru::DodajTowar() {
       m_towar.UstawNazwa(nazwa->trimmed());
       m_towar.UtworzBrakujaceSkroty();
     }
-  if (m_kod.kod.isEmpty())
-    if (const auto kod = m_import.oper.PodajTekst({u"Uwaga"_s, u"Podaj kod towaru "_s + m_nazwa}))
-      m_towar.UstawKod(kod->trimmed());
+  ZapytajOKod();
+  m_towar.UstawKod(m_kod.kod);
 
   if (const Krok krok = Zapisz(u"Błąd dodania do bazy (użytkownik zrezygnował)"_s); krok != Krok::Dalej)
     return krok;
-  PotwierdzNadane();
+  m_import.kodyWlasne.Potwierdz(m_towar.Kod());
   m_import.liczniki.Zwieksz(Licznik::Dodane);
   if (!m_import.NiesiePole(PoleTowaru::StawkaVat) && m_towar.Stawka())
     m_import.uwagi.Zglos({RodzajUwagi::VatDomyslny, StawkaNaTekst(*m_towar.Stawka(), true)}, m_numer);
@@ -261,9 +263,10 @@ RekordTowaru::Krok RekordTowaru::DodajTowar() {
   return Krok::Koniec;
 }
 
-void RekordTowaru::PotwierdzNadane() {
-  m_import.kodyWlasne.Potwierdz(m_towar.Kod());
-  if (m_nazwaNadana) m_import.nazwy.Potwierdz();
+void RekordTowaru::ZapytajOKod() {
+  if (!m_kod.kod.isEmpty()) return;
+  if (const auto kod = m_import.oper.PodajTekst({u"Uwaga"_s, u"Podaj kod towaru "_s + m_nazwa}))
+    m_kod.kod = kod->trimmed();
 }
 
 RekordTowaru::Krok RekordTowaru::PoprawTowar() {
@@ -311,6 +314,7 @@ bool RekordTowaru::ZmienStatus() {
 RekordTowaru::Krok RekordTowaru::Zapisz(const QString& rezygnacja) {
   switch (m_zapis.Zapisz(rezygnacja)) {
     case ZapisTowaru::Wynik::Zapisany:
+      m_import.nazwy.Zapisana(m_towar.Nazwa());
       return Krok::Dalej;
     case ZapisTowaru::Wynik::Pominiety:
       return Krok::Koniec;

@@ -50,7 +50,8 @@ class RekordTowaru {
   bool ZapiszStan(int towId);
   bool ZmienStatus();
   bool SlownikiDoUzupelnienia() const;
-  void PotwierdzNadane();
+  // Of a record without one, when nothing else gives it a code.
+  void ZapytajOKod();
 
   // Dalej when the good was saved; otherwise the record is done with, `rezygnacja` in the report.
   Krok Zapisz(const QString& rezygnacja);
@@ -63,7 +64,6 @@ class RekordTowaru {
   // Of the record in hand.
   KodRekordu m_kod;
   QString m_nazwa;
-  bool m_nazwaNadana = false;
   bool m_aktywny = true;
   int m_numer = 0;  // in the file
   std::optional<double> m_stan;

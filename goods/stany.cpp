@@ -69,6 +69,10 @@ double Stany::Obecny(int towId, int n, int magId) {
   return odczyt.Nastepny() ? odczyt[0].AsFloat() : 0;
 }
 
+void Stany::WymagajIlosci(int n, double ilosc) const {
+  if (Magazyn(n)) WymagajZakresu(ilosc);
+}
+
 bool Stany::Ustaw(int towId, int n, double ilosc) {
   const auto magId = Magazyn(n);
   if (!magId) return false;

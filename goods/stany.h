@@ -26,6 +26,10 @@ class Stany {
   // What was read is old: another transaction has begun.
   void Zapomnij() { m_odczytane.clear(); }
 
+  // 2006 for a quantity that the N-th warehouse cannot hold; nothing is asked of a warehouse that is not
+  // there.
+  void WymagajIlosci(int n, double ilosc) const;
+
   // Writes the quantity of a good into the N-th warehouse of the list (from 1), as one unit, and counts it
   // (Licznik::Stany). False when nothing changed: no such warehouse, or the quantity is there already. A good
   // without a stock row keeps none, though the answer is true. 2006 for a quantity that the column cannot

@@ -1,8 +1,9 @@
 #include "goods/transfer_pol.h"
 
-#include <algorithm>
-#include <cmath>
 #include <vector>
+
+#include <QHash>
+#include <QSet>
 
 #include "exchange/pola_rekordu.h"
 #include "goods/bloki.h"
@@ -181,7 +182,7 @@ void TransferPol::PoziomyCen() {
   if (stawka <= 0) return;
   const OpcjeImportuTowarow& opcje = m_import.opcje;
   if (opcje.cb_poziomCenyZakupuImp == PoziomCeny::Brutto && Bierze(PoleTowaru::CenaEw))
-    m_towar.UstawCenaEw(std::round(NettoZBrutto(m_towar.CenaEw(), stawka) * 100) / 100);
+    m_towar.UstawCenaEw(Zaokraglij(NettoZBrutto(m_towar.CenaEw(), stawka), 2));
   if (opcje.cb_poziomCenSprzedazyImp != PoziomCeny::Brutto) return;
   for (const CenaSprzedazy& p : kCenySprzedazy)
     if (Bierze(p.pole)) (m_towar.*p.ustaw)(NettoZBrutto((m_towar.*p.cena)(), stawka));
@@ -220,15 +221,18 @@ TransferPol::Wynik TransferPol::Kody() {
   auto blok = CzytajBlokKodow(pole);
   if (blok.blad) return BladBlokuPola(*blok.blad, u"Błąd w polu kodów dodatkowych"_s);
 
+  QHash<QString, const KodDodatkowy*> obecne;
+  for (const KodDodatkowy& kod : m_towar.Kody().Wszystkie())
+    if (!obecne.contains(kod.kod)) obecne.insert(kod.kod, &kod);
+  QSet<QString> nowe;
   std::vector<KodDodatkowy> kody;
   for (KodZBloku& zPliku : blok.wartosc) {
-    const bool powtorzony =
-        std::any_of(kody.begin(), kody.end(), [&](const KodDodatkowy& k) { return k.kod == zPliku.kod; });
-    if (powtorzony || !m_import.reguly.SprawdzDodatkowy(zPliku.kod).Dobry())
+    if (nowe.contains(zPliku.kod) || !m_import.reguly.SprawdzDodatkowy(zPliku.kod).Dobry())
       return Odmowa{u"Błąd w kodzie dodatkowym: "_s + zPliku.kod};
-    const int indeks = m_towar.Kody().Indeks(zPliku.kod);
-    KodDodatkowy kod = indeks < 0 ? KodDodatkowy{} : m_towar.Kody()[indeks];
+    const KodDodatkowy* const obecny = obecne.value(zPliku.kod);
+    KodDodatkowy kod = obecny ? *obecny : KodDodatkowy{};
     kod.kod = std::move(zPliku.kod);
+    nowe.insert(kod.kod);
     if (!zPliku.skrot.isEmpty()) kod.skrot = std::move(zPliku.skrot);
     kod.prefPLU = zPliku.plu;
     kody.push_back(std::move(kod));
@@ -254,19 +258,8 @@ TransferPol::Wynik TransferPol::Kategoria() {
     if (!wartosc) return kZgloszona;
     m_towar.Wartosci().Ustaw(wartosc->first, wartosc->second);
   }
-  UzupelnijParametry(katId);
+  m_towar.Wartosci().Uzupelnij(m_import.slowniki.ParametryKategorii(katId));
   return std::nullopt;
-}
-
-// Every parameter of the category has a value, and nothing else has one.
-void TransferPol::UzupelnijParametry(int katId) {
-  const std::vector<int>& parametry = m_import.slowniki.ParametryKategorii(katId);
-  const auto wartosci = m_towar.Wartosci().Wszystkie();
-  for (const auto& [parId, wartosc] : wartosci)
-    if (std::find(parametry.begin(), parametry.end(), parId) == parametry.end())
-      m_towar.Wartosci().Usun(parId);
-  for (const int parId : parametry)
-    if (!m_towar.Wartosci().Wartosc(parId)) m_towar.Wartosci().Ustaw(parId, 0);
 }
 
 void TransferPol::Producent() {

@@ -43,7 +43,6 @@ class TransferPol {
   Wynik Jednostka();
   Wynik Kody();
   Wynik Kategoria();
-  void UzupelnijParametry(int katId);
   void Producent();
   Wynik Dostawcy();
   int KontrahentZNipem(const QString& nip);

@@ -1,5 +1,7 @@
 #include "goods/zapis_towaru.h"
 
+#include <QSet>
+
 #include "goods/kontekst_importu.h"
 #include "model/bledy.h"
 #include "model/bufor_towarow.h"
@@ -29,6 +31,15 @@ QString TekstOdmowy(int kod, bool brakKodu) {
     default:
       return u"Nie można zapisać towaru"_s;
   }
+}
+
+// Names that a good had before its save and has not any more.
+QSet<QString> Oddane(const TVLTBuforTowarow::Teksty& bylo, const TVLTBuforTowarow::Teksty& jest) {
+  if (bylo.skrot == jest.skrot && bylo.dodSkroty == jest.dodSkroty) return {};
+  const auto skroty = [](const TVLTBuforTowarow::Teksty& teksty) {
+    return QSet<QString>(teksty.dodSkroty.begin(), teksty.dodSkroty.end()) << teksty.skrot;
+  };
+  return skroty(bylo) - skroty(jest);
 }
 
 bool OdmowaSkrotu(int kod) {
@@ -66,7 +77,9 @@ void ZapisTowaru::ZapiszIPowiadom() {
   } else {
     const TVLTBuforTowarow::Teksty bylo = m_towar.TekstyZBazy();
     const int id = m_towar.Zapisz();
-    m_import.bufor.Zmien(id, bylo, m_towar.Teksty());
+    const TVLTBuforTowarow::Teksty jest = m_towar.Teksty();
+    m_import.bufor.Zmien(id, bylo, jest);
+    for (const QString& skrot : Oddane(bylo, jest)) m_import.skroty.Oddaj(skrot);
   }
   m_import.skroty.Potwierdz();
 }

@@ -9,13 +9,11 @@
 
 namespace {
 
-auto ZNumerem(int kolejnosc) {
-  return [kolejnosc](const KodDodatkowy& kod) { return kod.kolejnosc == kolejnosc; };
-}
-
+// Order numbers rise.
 const KodDodatkowy* Znajdz(const std::vector<KodDodatkowy>& kody, int kolejnosc) {
-  const auto kod = std::find_if(kody.begin(), kody.end(), ZNumerem(kolejnosc));
-  return kod == kody.end() ? nullptr : &*kod;
+  const auto kod = std::lower_bound(kody.begin(), kody.end(), kolejnosc,
+                                    [](const KodDodatkowy& k, int numer) { return k.kolejnosc < numer; });
+  return kod == kody.end() || kod->kolejnosc != kolejnosc ? nullptr : &*kod;
 }
 
 // A stored code can be changed in all but its text: another text is another code.
@@ -87,15 +85,13 @@ int KodyDodatkowe::Dodaj(KodDodatkowy kod) {
   return m_kody.back().kolejnosc;
 }
 
-bool KodyDodatkowe::Zmien(const KodDodatkowy& kod) {
-  const auto znaleziony = std::find_if(m_kody.begin(), m_kody.end(), ZNumerem(kod.kolejnosc));
-  if (znaleziony == m_kody.end()) return false;
-  *znaleziony = kod;
-  return true;
+void KodyDodatkowe::UstawSkrot(int indeks, const QString& skrot) {
+  if (indeks < 0 || indeks >= Ilosc()) throw EVLTWDError(2003, nullptr, QString::number(indeks));
+  m_kody[static_cast<std::size_t>(indeks)].skrot = skrot;
 }
 
 bool KodyDodatkowe::Usun(int kolejnosc) {
-  return std::erase_if(m_kody, ZNumerem(kolejnosc)) != 0;
+  return std::erase_if(m_kody, [=](const KodDodatkowy& kod) { return kod.kolejnosc == kolejnosc; }) != 0;
 }
 
 void KodyDodatkowe::Ustaw(std::vector<KodDodatkowy> kody) {

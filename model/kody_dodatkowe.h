@@ -34,8 +34,8 @@ class KodyDodatkowe {
 
   // Appends behind the last one and returns the order number it got.
   int Dodaj(KodDodatkowy kod);
-  // Replaces the code with that order number; false when there is none.
-  bool Zmien(const KodDodatkowy& kod);
+  // 2003 outside the list.
+  void UstawSkrot(int indeks, const QString& skrot);
   bool Usun(int kolejnosc);
   // Takes a whole new list in its order. Codes that came from this good keep their order number as long as
   // the numbers still rise; the others (0) get the next free one.

@@ -1,6 +1,7 @@
 #include "model/nazwy_skrocone.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "model/bufor_towarow.h"
@@ -96,13 +97,11 @@ QString Zlacz(const std::vector<QStringView>& slowa, qsizetype najwyzej, bool zO
   return tekst;
 }
 
-enum class Kolizja { Brak, Glowny, Dodatkowy };
+using Kolizja = SkrotyTowaru::Kolizja;
 
-Kolizja ZnajdzKolizje(const QString& skrot, const SkrotyTowaru& kody, int indeks) {
-  if (indeks >= 0 && skrot == kody.glowny) return Kolizja::Glowny;
-  for (std::size_t i = 0; i < kody.dodatkowe.size(); ++i)
-    if (static_cast<int>(i) != indeks && skrot == kody.dodatkowe[i]) return Kolizja::Dodatkowy;
-  return Kolizja::Brak;
+// Of all numbers with the same count of digits.
+size_t KluczNumerow(QStringView poczatek, int cyfr) {
+  return qHash(poczatek, static_cast<size_t>(cyfr));
 }
 
 // Both messages open the apostrophe only for an additional code: these are the product's texts.
@@ -111,6 +110,27 @@ QString PoczatekKomunikatu(const QString& skrot, bool dodatkowy) {
 }
 
 }  // namespace
+
+SkrotyTowaru::SkrotyTowaru(QString glowny, std::span<const QString> dodatkowe)
+    : m_glowny(std::move(glowny)), m_dodatkowe(dodatkowe.begin(), dodatkowe.end()) {
+  m_ile.reserve(static_cast<qsizetype>(m_dodatkowe.size()));
+  for (const QString& skrot : m_dodatkowe) ++m_ile[skrot];
+}
+
+void SkrotyTowaru::Zmien(int indeks, const QString& skrot) {
+  if (indeks >= 0) {
+    --m_ile[m_dodatkowe[static_cast<std::size_t>(indeks)]];
+    ++m_ile[skrot];
+  }
+  (indeks < 0 ? m_glowny : m_dodatkowe[static_cast<std::size_t>(indeks)]) = skrot;
+}
+
+SkrotyTowaru::Kolizja SkrotyTowaru::Znajdz(const QString& skrot, int indeks) const {
+  if (indeks >= 0 && skrot == m_glowny) return Kolizja::Glowny;
+  const auto miejsce = static_cast<std::size_t>(indeks);
+  const bool wlasny = indeks >= 0 && miejsce < m_dodatkowe.size() && skrot == m_dodatkowe[miejsce];
+  return m_ile.value(skrot) > (wlasny ? 1 : 0) ? Kolizja::Dodatkowy : Kolizja::Brak;
+}
 
 RegulySkrotow RegulySkrotow::Wczytaj(TVLTBazaDanych& baza) {
   TMConfig nowsza;
@@ -231,7 +251,7 @@ TDmVLTNazwySkrocone::Wynik TDmVLTNazwySkrocone::SprawdzWsrodKodow(const QString&
                                                                   const SkrotyTowaru& kody, int indeks) {
   const bool dodatkowy = indeks >= 0;
   const QString poczatek = PoczatekKomunikatu(skrot, dodatkowy);
-  switch (ZnajdzKolizje(skrot, kody, indeks)) {
+  switch (kody.Znajdz(skrot, indeks)) {
     case Kolizja::Glowny:
       return {false, poczatek + QStringLiteral(" jest używany dla kodu głównego tego samego towaru")};
     case Kolizja::Dodatkowy:
@@ -283,8 +303,7 @@ QString TDmVLTNazwySkrocone::Poczatek(const QString& podstawa, int dlugoscPrzyro
 TDmVLTNazwySkrocone::Stan TDmVLTNazwySkrocone::StanKandydata(const QString& skrot, const Cel& cel) const {
   const size_t odcisk = Odcisk(skrot);
   if (m_nadane.contains(odcisk)) return Stan::Zajety;
-  if (m_wstepne.contains(odcisk) || !Poprawny(skrot) ||
-      ZnajdzKolizje(skrot, cel.kody, cel.indeks) != Kolizja::Brak)
+  if (m_wstepne.contains(odcisk) || !Poprawny(skrot) || cel.kody.Znajdz(skrot, cel.indeks) != Kolizja::Brak)
     return Stan::Chwilowy;
   return cel.sprawdzajBaze && ZnajdzUzycie(skrot, cel.wlasneId) ? Stan::Zajety : Stan::Wolny;
 }
@@ -309,30 +328,45 @@ std::optional<QString> TDmVLTNazwySkrocone::UtworzOdNumeru(const QString& podsta
 // beginning holds for every name that is cut down to it.
 std::optional<QString> TDmVLTNazwySkrocone::UtworzZNumerem(const QString& podstawa, const Cel& cel) {
   const bool pamietaj = cel.sprawdzajBaze && cel.wlasneId < 0;
+  SprawdzoneNumery tylkoTeraz;
+  SprawdzoneNumery& wszystkieSprawdzone = cel.sprawdzone ? *cel.sprawdzone : tylkoTeraz;
   int cyfr = 1;
   for (int pierwszy = 1; pierwszy <= kProb; pierwszy *= 10, ++cyfr) {
     QString poczatek = Poczatek(podstawa, cyfr + (m_reguly.spacjeNaZnak != 0 ? 1 : 0));
     if (m_reguly.spacjeNaZnak != 0) poczatek += QChar(m_reguly.spacjeNaZnak);
-    int bezPamieci = 0;
-    int& odNumeru = pamietaj ? m_odNumeru[qHash(poczatek, static_cast<size_t>(cyfr))] : bezPamieci;
-    odNumeru = std::max(odNumeru, pierwszy);
-    bool ciagle = true;
-    for (int numer = odNumeru; numer < pierwszy * 10; ++numer) {
-      const QString kandydat = poczatek + QString::number(numer);
-      const Stan stan = StanKandydata(kandydat, cel);
+    const size_t klucz = KluczNumerow(poczatek, cyfr);
+    Numery bezPamieci;
+    Numery& znane = pamietaj ? m_numery[klucz] : bezPamieci;
+    znane.od = std::max(znane.od, pierwszy);
+    int& sprawdzone = wszystkieSprawdzone[klucz];
+    QString kandydat;
+    const auto sprobuj = [&](int numer) {
+      kandydat = poczatek + QString::number(numer);
+      sprawdzone = numer + 1;
+      return StanKandydata(kandydat, cel);
+    };
+    for (auto numer = znane.zwolnione.lower_bound(sprawdzone); numer != znane.zwolnione.end();) {
+      const Stan stan = sprobuj(*numer);
+      if (stan == Stan::Wolny) return Nadaj(kandydat);
+      numer = stan == Stan::Zajety ? znane.zwolnione.erase(numer) : std::next(numer);
+    }
+    bool ciagle = sprawdzone <= znane.od;
+    for (int numer = std::max(znane.od, sprawdzone); numer < pierwszy * 10; ++numer) {
+      const Stan stan = sprobuj(numer);
       if (stan == Stan::Wolny) return Nadaj(kandydat);
       ciagle = ciagle && stan == Stan::Zajety;
-      if (ciagle) odNumeru = numer + 1;
+      if (ciagle) znane.od = numer + 1;
     }
   }
   return std::nullopt;
 }
 
 std::optional<QString> TDmVLTNazwySkrocone::Utworz(const QString& nazwa, const SkrotyTowaru& kody, int indeks,
-                                                   int wlasneId, bool sprawdzajBaze, int numer) {
+                                                   int wlasneId, bool sprawdzajBaze, int numer,
+                                                   SprawdzoneNumery* sprawdzone) {
   const QString podstawa = Podstawa(nazwa);
   if (podstawa.isNull()) return QString();
-  const Cel cel{kody, indeks, wlasneId, sprawdzajBaze};
+  const Cel cel{kody, indeks, wlasneId, sprawdzajBaze, sprawdzone};
   if (numer >= 0) return UtworzOdNumeru(podstawa, cel, numer);
   const QString bezNumeru = Poczatek(podstawa, 0);
   if (StanKandydata(bezNumeru, cel) == Stan::Wolny) return Nadaj(bezNumeru);
@@ -350,9 +384,22 @@ void TDmVLTNazwySkrocone::CofnijPaczke() {
   m_nadane.subtract(m_nadaneWPaczce);
   m_nadaneWPaczce.clear();
   m_wstepne.clear();
-  m_odNumeru.clear();
+  m_numery.clear();
 }
 
 void TDmVLTNazwySkrocone::Zwolnij() {
   m_wstepne.clear();
+}
+
+// The number may begin anywhere in the digits at the end.
+void TDmVLTNazwySkrocone::Oddaj(const QString& skrot) {
+  int numer = 0;
+  int waga = 1;
+  for (int cyfr = 1; waga <= kProb && cyfr < skrot.size(); ++cyfr, waga *= 10) {
+    const char16_t cyfra = skrot[skrot.size() - cyfr].unicode();
+    if (cyfra < u'0' || cyfra > u'9') return;
+    numer += (cyfra - u'0') * waga;
+    const auto znane = m_numery.find(KluczNumerow(QStringView(skrot).chopped(cyfr), cyfr));
+    if (cyfra != u'0' && znane != m_numery.end() && numer < znane->od) znane->zwolnione.insert(numer);
+  }
 }

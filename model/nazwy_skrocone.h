@@ -1,7 +1,9 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <span>
+#include <vector>
 
 #include <QHash>
 #include <QSet>
@@ -29,11 +31,28 @@ struct RegulySkrotow {
   bool Dozwolony(QChar znak) const;
 };
 
-// The short names of one good's codes as its record holds them now.
-struct SkrotyTowaru {
-  QString glowny = {};
-  std::span<const QString> dodatkowe = {};
+// The short names of one good's codes as its record holds them now. Codes are known by their index, the main
+// code by -1.
+class SkrotyTowaru {
+ public:
+  SkrotyTowaru() = default;
+  SkrotyTowaru(QString glowny, std::span<const QString> dodatkowe);
+
+  void Zmien(int indeks, const QString& skrot);
+
+  enum class Kolizja { Brak, Glowny, Dodatkowy };
+  // The other code of the good that has the name.
+  Kolizja Znajdz(const QString& skrot, int indeks) const;
+
+ private:
+  QString m_glowny;
+  std::vector<QString> m_dodatkowe;
+  QHash<QString, int> m_ile;  // additional codes by their short name
 };
+
+// Of one beginning of numbered names: the number below which none is free. For the names of many codes of one
+// good, made one after another: none of them searches from the start.
+using SprawdzoneNumery = QHash<size_t, int>;
 
 // Short names ("nazwy na kasach") of goods and of their additional codes: checks them and makes unique ones.
 // One object serves a run. It remembers the names it has handed out, so that two goods of one file never
@@ -70,11 +89,14 @@ class TDmVLTNazwySkrocone {
 
   // A unique short name for a good's name; `indeks` as above names the code it is for, whose own present name
   // does not stand in the way. `numer` -1 tries without a number first. Empty for a name without words,
-  // nothing when 9999 tries found no free name.
+  // nothing when 9999 tries found no free name. `sprawdzone`: what the names made just before have found out;
+  // between them no name of the good may become free.
   std::optional<QString> Utworz(const QString& nazwa, const SkrotyTowaru& kody, int indeks, int wlasneId,
-                                bool sprawdzajBaze, int numer = -1);
+                                bool sprawdzajBaze, int numer = -1, SprawdzoneNumery* sprawdzone = nullptr);
   void Potwierdz();
   void Zwolnij();
+  // A stored good does not have this name any more: its number is tried again.
+  void Oddaj(const QString& skrot);
   // The records saved since the last of these two calls are stored for good; or their saves were undone.
   void ZatwierdzPaczke() { m_nadaneWPaczce.clear(); }
   void CofnijPaczke();
@@ -94,6 +116,13 @@ class TDmVLTNazwySkrocone {
     int indeks;
     int wlasneId;
     bool sprawdzajBaze;
+    SprawdzoneNumery* sprawdzone;
+  };
+  // What a run knows of the numbers behind one beginning. Only those held by stored names of other goods
+  // count.
+  struct Numery {
+    int od = 0;  // all below were found taken, so that thousands of equal names do not search from 1
+    std::set<int> zwolnione;  // but for these, which may be free again
   };
 
   Werdykt Ocen(const QString& skrot) const;
@@ -113,7 +142,5 @@ class TDmVLTNazwySkrocone {
   QSet<size_t> m_nadane;
   QSet<size_t> m_nadaneWPaczce;  // a part of them
   QSet<size_t> m_wstepne;
-  // Per beginning of numbered names: the number below which all were found taken, so that thousands of equal
-  // names do not search from 1 again. Only numbers held by stored names of other goods are counted.
-  QHash<size_t, int> m_odNumeru;
+  QHash<size_t, Numery> m_numery;
 };

@@ -59,6 +59,14 @@ bool WartosciParametrow::Usun(int parId) {
   return std::erase_if(m_wartosci, [parId](const Pozycja& p) { return p.first == parId; }) != 0;
 }
 
+void WartosciParametrow::Uzupelnij(std::vector<int> parametry) {
+  std::sort(parametry.begin(), parametry.end());
+  std::vector<Pozycja> pelne;
+  pelne.reserve(parametry.size());
+  for (const int parId : parametry) pelne.emplace_back(parId, Wartosc(parId).value_or(0));
+  m_wartosci = std::move(pelne);
+}
+
 bool WartosciParametrow::TakieSameJakWBazie() const {
   return std::equal(m_wartosci.begin(), m_wartosci.end(), m_zBazy.begin(), m_zBazy.end(),
                     [](const Pozycja& a, const Pozycja& b) {

@@ -23,6 +23,8 @@ class WartosciParametrow {
   std::optional<double> Wartosc(int parId) const;
   void Ustaw(int parId, double wartosc);
   bool Usun(int parId);
+  // Exactly these parameters have a value; one that had none gets 0.
+  void Uzupelnij(std::vector<int> parametry);
   const std::vector<Pozycja>& Wszystkie() const { return m_wartosci; }  // by ParId
 
   // The same parameters, values within 1e-6.

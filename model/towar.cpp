@@ -195,10 +195,12 @@ void TDmVLTTowar::UstawNotatka(const QString& tekst) {
   m_notatka = tekst;
 }
 
-std::vector<QString> TDmVLTTowar::SkrotyDodatkowych() const {
-  std::vector<QString> skroty;
-  for (const KodDodatkowy& kod : m_kody.Wszystkie()) skroty.push_back(kod.skrot);
-  return skroty;
+SkrotyTowaru TDmVLTTowar::Skroty(int jeszcze) const {
+  std::vector<QString> dodatkowe;
+  dodatkowe.reserve(m_kody.Wszystkie().size() + static_cast<std::size_t>(jeszcze));
+  for (const KodDodatkowy& kod : m_kody.Wszystkie()) dodatkowe.push_back(kod.skrot);
+  dodatkowe.resize(dodatkowe.size() + static_cast<std::size_t>(jeszcze));
+  return {Skrot(), dodatkowe};
 }
 
 std::optional<QString> TDmVLTTowar::ZaproponujSkrot(const QString& nazwa, const SkrotyTowaru& skroty,
@@ -212,27 +214,30 @@ bool TDmVLTTowar::SkrotDoPoprawy(int indeks) const {
   const QString skrot = dodatkowy ? m_kody[indeks].skrot : Skrot();
   const TDmVLTNazwySkrocone& skroty = m_otoczenie.skroty;
   if (!skroty.Poprawny(skrot) || skroty.SprawdzUnikalnosc(skrot, Id(), dodatkowy).towId >= 0) return true;
-  return dodatkowy &&
-         !TDmVLTNazwySkrocone::SprawdzWsrodKodow(skrot, {Skrot(), SkrotyDodatkowych()}, indeks).dobry;
+  return dodatkowy && !TDmVLTNazwySkrocone::SprawdzWsrodKodow(skrot, Skroty(), indeks).dobry;
 }
 
 bool TDmVLTTowar::UtworzSkrot(int indeks) {
-  const auto skrot = ZaproponujSkrot(Nazwa(), {Skrot(), SkrotyDodatkowych()}, indeks);
+  const auto skrot = ZaproponujSkrot(Nazwa(), Skroty(), indeks);
   if (!skrot) return false;
-  if (indeks < 0) {
+  if (indeks < 0)
     UstawSkrot(*skrot);
-  } else {
-    KodDodatkowy kod = m_kody[indeks];
-    kod.skrot = *skrot;
-    m_kody.Zmien(kod);
-  }
+  else
+    m_kody.UstawSkrot(indeks, *skrot);
   return true;
 }
 
 bool TDmVLTTowar::UtworzBrakujaceSkroty() {
   if (Pusty(Skrot()) && !UtworzSkrot()) return false;
-  for (int i = 0; i < m_kody.Ilosc(); ++i)
-    if (Pusty(m_kody[i].skrot) && !UtworzSkrot(i)) return false;
+  SkrotyTowaru skroty = Skroty();
+  SprawdzoneNumery sprawdzone;
+  for (int i = 0; i < m_kody.Ilosc(); ++i) {
+    if (!Pusty(m_kody[i].skrot)) continue;
+    const auto skrot = m_otoczenie.skroty.Utworz(Nazwa(), skroty, i, Id(), true, -1, &sprawdzone);
+    if (!skrot || skrot->isEmpty()) return false;
+    skroty.Zmien(i, *skrot);
+    m_kody.UstawSkrot(i, *skrot);
+  }
   return true;
 }
 
@@ -244,13 +249,15 @@ bool TDmVLTTowar::MaKod(const QString& kod) const {
   return RownyTekst(Query.Field(KolumnaTowaru::Kod).Value(), kod) || m_kody.Indeks(kod) >= 0;
 }
 
+bool TDmVLTTowar::Zmieniona(std::size_t kolumna) const {
+  const TMField& pole = Query.Field(kolumna);
+  return pole.Zmienione() && (kPola[kolumna].typ != TypPola::Dziesietne ||
+                              !RowneKwoty(pole.AsFloat(), pole.OldValue().AsFloat()));
+}
+
 bool TDmVLTTowar::TakiSamJakWBazie() const {
-  for (std::size_t i = 0; i < KolumnaTowaru::kIlosc; ++i) {
-    const TMField& pole = Query.Field(i);
-    if (i == KolumnaTowaru::Aktywny || !pole.Zmienione()) continue;
-    if (kPola[i].typ != TypPola::Dziesietne || !RowneKwoty(pole.AsFloat(), pole.OldValue().AsFloat()))
-      return false;
-  }
+  for (std::size_t i = 0; i < KolumnaTowaru::kIlosc; ++i)
+    if (i != KolumnaTowaru::Aktywny && Zmieniona(i)) return false;
   return m_kody.TakieSameJakWBazie() && m_wartosci.TakieSameJakWBazie() && m_dostawcy.TakieSameJakWBazie();
 }
 

@@ -16,12 +16,12 @@
 
 class TDmVLTListaKategorii;
 class TDmVLTListaSlownika;
+class SkrotyTowaru;
 class TDmVLTNazwySkrocone;
 class TVLTBazaDanych;
 class ZapasTowarow;
 struct OdczytanyTowar;
 struct RegulyKodow;
-struct SkrotyTowaru;
 
 // What the goods records of one run share beside the session. Everything is held by reference: a rule changed
 // during the run (a new weighted-code format) holds from the next save on.
@@ -239,7 +239,8 @@ class TDmVLTTowar final : public TDmVLTElement {
   struct Plan;
   class Walidacja;
 
-  std::vector<QString> SkrotyDodatkowych() const;
+  // `jeszcze`: codes that the record does not hold yet, without a name.
+  SkrotyTowaru Skroty(int jeszcze = 0) const;
   void UstawStatus(bool aktywny);
   // Null when it was not read ahead.
   const OdczytanyTowar* Odczytany(int id) const;
@@ -253,7 +254,13 @@ class TDmVLTTowar final : public TDmVLTElement {
   void ZapiszNotatke(int id) const;
   void WstawPowiazanie(int id) const;
   void ZapiszSzczegoly(int id) const;
+  // Whether a column differs from what was read; numbers within 1e-6 are the same.
+  bool Zmieniona(std::size_t kolumna) const;
   bool Zmienione(std::initializer_list<KolumnaTowaru::Numer> kolumny) const;
+  // The same of what the save in hand writes, which is not always what the record holds: the main code takes
+  // its stored form, automatic codes are added.
+  bool Zapisuje(std::size_t kolumna) const;
+  const KodyDodatkowe& ZapisywaneKody() const;
   void SprawdzKasy(int id) const;
   void ZaznaczNaKasach(int id) const;
   QString OpisZmian() const;

@@ -81,15 +81,14 @@ class TDmVLTTowar::Walidacja {
 
   WynikWalidacji Dodatkowe() {
     if (!Towar()) return {};
-    const std::vector<QString> skroty = m_t.SkrotyDodatkowych();
-    const QString glowny = m_t.Skrot();
+    const SkrotyTowaru skroty = m_t.Skroty();
     for (int i = 0; i < m_t.m_kody.Ilosc(); ++i) {
       const KodDodatkowy& kod = m_t.m_kody[i];
       if (auto wynik = Wynik(m_o.reguly.SprawdzDodatkowy(kod.kod)); !wynik.Dobry()) return wynik;
       if (kod.kod == m_plan.kod) return {2828, kod.kod};
       if (auto wynik = WolnyKod(kod.kod, 2830); !wynik.Dobry()) return wynik;
       if (auto wynik = PoprawnySkrot(kod.skrot, true); !wynik.Dobry()) return wynik;
-      if (auto wynik = TDmVLTNazwySkrocone::SprawdzWsrodKodow(kod.skrot, {glowny, skroty}, i); !wynik.dobry)
+      if (auto wynik = TDmVLTNazwySkrocone::SprawdzWsrodKodow(kod.skrot, skroty, i); !wynik.dobry)
         return {2824, wynik.komunikat};
       if (auto wynik = WolnySkrot(kod.skrot, true); !wynik.Dobry()) return wynik;
     }
@@ -102,10 +101,7 @@ class TDmVLTTowar::Walidacja {
     if (kod.isEmpty() || kod == m_plan.kod || m_t.m_kody.Indeks(kod) >= 0) return {};
     if (auto wynik = Wynik(m_o.reguly.SprawdzAutomatyczny(kod)); !wynik.Dobry()) return wynik;
     if (auto wynik = WolnyKod(kod, 2897); !wynik.Dobry()) return wynik;
-    std::vector<QString> skroty = m_t.SkrotyDodatkowych();
-    skroty.emplace_back();
-    const int indeks = m_t.m_kody.Ilosc();
-    const auto skrot = m_o.skroty.Utworz(m_t.Nazwa(), {m_t.Skrot(), skroty}, indeks, m_t.Id(), true);
+    const auto skrot = m_o.skroty.Utworz(m_t.Nazwa(), m_t.Skroty(1), m_t.m_kody.Ilosc(), m_t.Id(), true);
     if (auto wynik = PoprawnySkrot(skrot.value_or(QString()), true); !wynik.Dobry()) return wynik;
     m_plan.kody = m_t.m_kody;
     m_plan.kody->Dodaj({0, kod, *skrot});

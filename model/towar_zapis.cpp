@@ -201,7 +201,7 @@ std::vector<Parametr>& TDmVLTTowar::ParametryZapisu() {
     if (kZapisywane[i] == K::Kod)
       m_parametry[i].wartosc = m_plan->kod;
     else
-      m_parametry[i].wartosc = pole.Value();
+      m_parametry[i].wartosc = CzyNowy() || Zmieniona(kZapisywane[i]) ? pole.Value() : pole.OldValue();
   }
   return m_parametry;
 }
@@ -215,7 +215,15 @@ void TDmVLTTowar::ZapiszNotatke(int id) const {
 }
 
 bool TDmVLTTowar::Zmienione(std::initializer_list<KolumnaTowaru::Numer> kolumny) const {
-  return std::any_of(kolumny.begin(), kolumny.end(), [&](auto k) { return Query.Field(k).Zmienione(); });
+  return std::any_of(kolumny.begin(), kolumny.end(), [&](auto k) { return Zmieniona(k); });
+}
+
+bool TDmVLTTowar::Zapisuje(std::size_t kolumna) const {
+  return kolumna == K::Kod ? !RownyTekst(Query.Field(K::Kod).OldValue(), m_plan->kod) : Zmieniona(kolumna);
+}
+
+const KodyDodatkowe& TDmVLTTowar::ZapisywaneKody() const {
+  return m_plan->kody ? *m_plan->kody : m_kody;
 }
 
 void TDmVLTTowar::WstawPowiazanie(int id) const {
@@ -227,7 +235,7 @@ void TDmVLTTowar::WstawPowiazanie(int id) const {
 
 // Rows that did not change are left alone.
 void TDmVLTTowar::ZapiszSzczegoly(int id) const {
-  (m_plan->kody ? *m_plan->kody : m_kody).Zapisz(Context.baza, id);
+  ZapisywaneKody().Zapisz(Context.baza, id);
   if (m_stany) m_stany->Zapisz(Context.baza, id);
   (m_plan->wartosci ? *m_plan->wartosci : m_wartosci).Zapisz(Context.baza, id);
   m_dostawcy.Zapisz(Context.baza, id);
@@ -235,7 +243,9 @@ void TDmVLTTowar::ZapiszSzczegoly(int id) const {
 
 // A good that a register holds keeps what the register knows it by.
 void TDmVLTTowar::SprawdzKasy(int id) const {
-  if (!Zmienione({K::TypTowaru, K::Kod, K::Stawka, K::Skrot}) && m_kody.TakieSameJakWBazie()) return;
+  constexpr K::Numer kZnane[] = {K::TypTowaru, K::Kod, K::Stawka, K::Skrot};
+  const bool zmiana = std::any_of(std::begin(kZnane), std::end(kZnane), [&](auto k) { return Zapisuje(k); });
+  if (!zmiana && ZapisywaneKody().TakieSameJakWBazie()) return;
   if (Context.baza
           .Otworz("select KasaId from KasTow where TowId = :TowId and Wyslany <> 0", {TypPola::Calkowite},
                   {{"TowId", id}})
@@ -245,9 +255,9 @@ void TDmVLTTowar::SprawdzKasy(int id) const {
 
 void TDmVLTTowar::ZaznaczNaKasach(int id) const {
   bool ceny = false;
-  bool inne = m_kody.Zmienione();
+  bool inne = ZapisywaneKody().Zmienione();
   for (std::size_t i = 0; i < K::kIlosc; ++i)
-    if (Query.Field(i).Zmienione()) (CenaSprzedazy(i) ? ceny : inne) = true;
+    if (Zapisuje(i)) (CenaSprzedazy(i) ? ceny : inne) = true;
   if (!ceny && !inne) return;
   Context.baza.Popraw(ceny && inne ? "update KasTow set ZmianyCen = 1, ZmianyInne = 1 where TowId = :TowId"
                       : ceny       ? "update KasTow set ZmianyCen = 1 where TowId = :TowId"
@@ -259,9 +269,10 @@ QString TDmVLTTowar::OpisZmian() const {
   QString opis = QStringLiteral("Zmiana towaru");
   QString lacznik = QStringLiteral(": ");
   for (const OpisZmiany& zmiana : kOpisyZmian) {
+    if (!Zapisuje(zmiana.pole)) continue;
     const TMField& pole = Query.Field(zmiana.pole);
-    if (!pole.Zmienione()) continue;
-    opis += lacznik + QString::fromUtf16(zmiana.nazwa) + u' ' + zmiana.opis(pole.OldValue(), pole.Value());
+    const Wartosc jest = zmiana.pole == K::Kod ? Wartosc(m_plan->kod) : pole.Value();
+    opis += lacznik + QString::fromUtf16(zmiana.nazwa) + u' ' + zmiana.opis(pole.OldValue(), jest);
     lacznik = QStringLiteral(", ");
   }
   return opis;

@@ -194,6 +194,13 @@ TEST_F(Rekord, KazdaOdmowaMaSwojKomunikat) {
        },
        "2000000000015;x\n",
        {u"Kod jest przypisany do więcej niż jednego towaru"_s}},
+      {"stan poza zakresem",
+       [&](ImportTestowy& im) {
+         pola({0, 1, 28})(im);
+         im.opcje.CBImportStanow = 1;
+       },
+       "5900000000015;x;1000000000000000\n",
+       {u"Przekroczony limit ilości lub kwoty"_s}},
       {"suma centralnego",
        [&](ImportTestowy& im) {
          pola({0, 1, 18})(im);
@@ -263,6 +270,13 @@ TEST_F(Rekord, NowyTowarBierzeWszystkiePola) {
   EXPECT_THAT(i.Pominiete(), ElementsAre(u"5900000000015 | Żurek | Towar identyczny z towarem w bazie"_s));
 }
 
+TEST_F(Rekord, PolowaGroszaIdzieWGore) {
+  i.UstawPola({0, 1, 17, 23});
+  i.opcje.cb_poziomCenyZakupuImp = PoziomCeny::Brutto;
+  i.Importuj("5900000000015;x;1.0854;B\n");
+  EXPECT_EQ(Kolumna("CenaEw", "5900000000015"), u"1.01"_s);
+}
+
 TEST_F(Rekord, PlikZKodemICenaNieRuszaReszty) {
   i.UstawPola({0, 17});
   const QString przedtem =
@@ -316,6 +330,14 @@ TEST_F(Rekord, StatusIStanZmieniajaSieTakzeBezAktualizacji) {
   EXPECT_TRUE(i.postep.linie.join(u'\n').contains(u"Wykonano import stanów magazynowych"_s));
 }
 
+TEST_F(Rekord, BezKolumnyStatusuTowarJestAktywny) {
+  for (const bool przywracac : {false, true}) {
+    i.opcje.cb_PrzywrocUsuniety = przywracac;
+    EXPECT_EQ(i.Importuj("4006381333931;Usunięty\n").liczniki[Licznik::Poprawione], przywracac ? 1 : 0);
+    EXPECT_EQ(Kolumna("Aktywny", "4006381333931"), przywracac ? u"1"_s : u"0"_s);
+  }
+}
+
 TEST_F(Rekord, WlasnyUkladCzytaTypIStawkeJakoLiczby) {
   i.struktura.CBTypPliku = TypPliku::Zorvik;
   const auto rekord = [](const char* kod, const char* typ, const char* stawka) {
@@ -344,6 +366,49 @@ TEST_F(Rekord, NadaneKodyINazwySaKolejne) {
             u"1001 Towar bez nazwy 0001,1002 Towar bez nazwy 0002,1003 Zajęty,1004 Towar bez nazwy 0003"_s);
 }
 
+// What a record takes or sets free counts for those behind it, whether the batch is undone and gone through
+// again or not.
+TEST_F(Rekord, NumeryNazwISkrotowPamietajaTenImport) {
+  i.UstawPola({0, 1, 2});
+  i.opcje.towarBezNazwy = TowarBezNazwy::RBDodajTowarZNazwaAuto;
+  i.opcje.towarZTaSamaNazwa = TowarZTaSamaNazwa::RBDodajTowarZTaSamaNazwa;
+  i.Importuj("611111;Ser;;\n611112;Ser;;\n611113;Ser;;\n");
+  for (const char* seria : {"62", "63"}) {
+    SCOPED_TRACE(seria);
+    const bool zderzenie = seria == std::string("63");
+    int zatwierdzen = 0;
+    i.b.baza.UstawPodsluch([&](std::string_view sql) {
+      if (sql == "commit" && ++zatwierdzen == 1 && zderzenie)
+        throw EBladBazy(RodzajBleduBazy::Kolizja, u"Błąd"_s, {});
+    });
+    i.opcje.towarZTaSamaNazwa = TowarZTaSamaNazwa::RBDodajJakoKodDodatkowy;
+    const auto zKodami = [&](QString tekst) { return tekst.replace(u'*', QString::fromLatin1(seria)); };
+    i.Importuj(
+        zKodami(u"*0001;;;\n*0002;Towar bez nazwy 0002;;\n*0003;;;\n*0005;Towar bez nazwy 0009;;\n"
+                u"5901234123457;Towar bez nazwy 0011;;\n*0004;;;\n"_s));
+    EXPECT_EQ(i.b.Kolumna("select Kod || ' ' || Nazwa from Towar where Kod like '" + std::string(seria) +
+                          "000_' order by Kod"),
+              zKodami(u"*0001 Towar bez nazwy 0001,*0002 Towar bez nazwy 0002,*0003 Towar bez nazwy 0003,"
+                      u"*0004 Towar bez nazwy 0012,*0005 Towar bez nazwy 0009"_s));
+    EXPECT_EQ(i.b.Liczba("select count(*) from KodDod"), 1);
+    EXPECT_GE(zatwierdzen, zderzenie ? 2 : 1);
+
+    zatwierdzen = 0;
+    i.opcje.towarZTaSamaNazwa = TowarZTaSamaNazwa::RBDodajTowarZTaSamaNazwa;
+    i.Importuj(zKodami(u"*0011;Ser;;\n611112;Ser;*\n*0012;Ser;;\n*0013;Ser;;\n"_s));
+    EXPECT_EQ(
+        i.b.Kolumna("select Skrot from Towar where Kod like '" + std::string(seria) + "001_' order by Kod"),
+        u"Ser 3,Ser 1,Ser 4"_s);
+    i.b.baza.UstawPodsluch({});
+    for (const char* sql :
+         {"delete from Istw where TowId in (select TowId from Towar where Kod like '6_0%')",
+          "delete from Towar where Kod like '6_0%'", "update Towar set Skrot = 'Ser 1' where Kod = '611112'",
+          "update Towar set Nazwa = 'Mleko świeże' where Kod = '5901234123457'"})
+      i.b.baza.ExecSQL(sql);
+    i.bufor.Uniewaznij();
+  }
+}
+
 TEST_F(Rekord, KodDochodziDoTowaruOTejSamejNazwie) {
   i.opcje.towarZTaSamaNazwa = TowarZTaSamaNazwa::RBDodajJakoKodDodatkowy;
   i.opcje.cb_akttow = false;
@@ -366,7 +431,19 @@ TEST_F(Rekord, OperatorPoprawiaRezygnujeAlboZatrzymuje) {
   EXPECT_EQ(Kolumna("Nazwa", "5900000000022"), u"5900000000015"_s);
   EXPECT_EQ(Kolumna("Nazwa", "5900000000015"), u"Nazwany"_s);
 
+  // The code is asked for before it becomes an additional one of the good with the same name.
   i.UstawPola({0, 1});
+  i.osoba.pytania.clear();
+  i.opcje.towarZTaSamaNazwa = TowarZTaSamaNazwa::RBDodajJakoKodDodatkowy;
+  i.osoba.tekst = u" 779 "_s;
+  i.Importuj(";Nazwany\n;Nazwany\n");
+  EXPECT_THAT(i.osoba.pytania, ElementsAre(u"Podaj kod towaru Nazwany"_s, u"Podaj kod towaru Nazwany"_s));
+  EXPECT_EQ(
+      i.b.Kolumna("select Kod from KodDod where TowId = (select TowId from Towar where Nazwa = 'Nazwany')"
+                  " order by Kolejnosc"),
+      u"778,779"_s);
+  EXPECT_THAT(i.Pominiete(), ElementsAre(u" | Nazwany | Towar o tym kodzie już jest w bazie"_s));
+
   i.osoba.tekst.reset();
   i.osoba.pytania.clear();
   wynik = i.Importuj("5900000000039;;\n");

@@ -209,10 +209,15 @@ TEST(NumeracjaNazw, IdzieDalejOdNajwyzszej) {
   NumeracjaNazw nazwy(i.b.baza);
   EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 0001"_s);
   EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 0001"_s);
-  nazwy.Potwierdz();
+  nazwy.Zapisana(u"Towar bez nazwy 0001"_s);
+  EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 0002"_s);
+  nazwy.ZatwierdzPaczke();
+  nazwy.Zapisana(u"Towar bez nazwy 41");  // a record's own
+  EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 0042"_s);
+  nazwy.CofnijPaczke();
   EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 0002"_s);
   for (const char* nazwa : {"Towar bez nazwy 10000", "Towar bez nazwy 0007", "Towar bez nazwy i kodu",
-                            "Towar bez nazwy 9223372036854775807"})
+                            "towar bez nazwy 20000", "Towar bez nazwy 9223372036854775807"})
     i.b.baza.ExecSQL("insert into Towar (Nazwa, Skrot, Kod) values ('" + std::string(nazwa) + "', '', '')");
   nazwy.Zapomnij();
   EXPECT_EQ(nazwy.Zaproponuj(), u"Towar bez nazwy 10001"_s);

@@ -263,6 +263,8 @@ TEST_F(Towary, ZmianyTrafiajaDoDziennikaKasISklepow) {
        [](T& t) { t.UstawJMId(2), t.UstawStawka(-1), t.UstawCenaHurt(1); }},
       {u": kod z '900' na '902', typ towar na usługa"_s, u"0|1"_s,
        [](T& t) { t.UstawKod(u"902"_s), t.UstawTypTowaru(TypTowaru::Usluga); }},
+      {{}, u"0|0"_s, [](T& t) { t.UstawCenaDet(12.5 + 5e-7); }},
+      {{}, u"0|1"_s, [](T& t) { t.UstawCenaDet(12.5 + 5e-7), t.UstawOpis2(u"y"_s); }},
       {{}, u"0|0"_s, [](T&) {}}};
   for (const auto& [opis, flagi, zmien] : przypadki) {
     b.baza.ExecSQL("update KasTow set ZmianyCen = 0, ZmianyInne = 0");
@@ -273,6 +275,39 @@ TEST_F(Towary, ZmianyTrafiajaDoDziennikaKasISklepow) {
     EXPECT_EQ(b.OstatniWpis(), QString(u"Zmiana towaru"_s + opis));
     EXPECT_EQ(b.Tekst("select ZmianyCen || '|' || ZmianyInne from KasTow"), flagi);
     EXPECT_EQ(b.Liczba("select count(*) from SklepFlagi where Zmiana is not null"), 1);
+  }
+  EXPECT_EQ(b.Liczba("select count(*) from Towar where CenaDet = 12.5"), 1) << "the same price stays";
+}
+
+// What counts is what is written: a main code completed by the system and an automatic code are changes,
+// blanks around a code are none.
+TEST_F(Towary, KasyPatrzaNaToCoBedzieZapisane) {
+  const std::tuple<bool, bool, int, QString> przypadki[] = {
+      {false, false, 0, {}},
+      {true, false, 2820, u": kod z '2700012' na '2700012?????\?'"_s},
+      {false, true, 2820, {}}};
+  for (const auto& [maska, krotki, kod, opis] : przypadki) {
+    const int id = Zapisany(u"2700012"_s, u"Ser"_s);
+    for (const int wyslany : {1, 0}) {
+      b.baza.ExecSQL("delete from KasTow");
+      b.baza.ExecSQL("insert into KasTow (KasaId, TowId, Wyslany) values (1, :TowId, :Wyslany)",
+                     {{"TowId", id}, {"Wyslany", wyslany}});
+      reguly.uzupelniacWazone = maska;
+      reguly.kodyKrotkie =
+          krotki ? RegulyKodow::KodyKrotkie::ObcinajZera : RegulyKodow::KodyKrotkie::NieTworzyc;
+      auto towar = Wczytany(id);
+      towar->UstawKod(u" 2700012 "_s);
+      towar->UstawCenaDet(2 - wyslany);
+      EXPECT_EQ(KodBledu([&] { towar->Zapisz(); }), wyslany == 1 ? kod : 0);
+      skroty->Zwolnij();
+      if (wyslany == 1) continue;
+      EXPECT_EQ(b.Liczba("select ZmianyInne from KasTow"), kod != 0 ? 1 : 0);
+      EXPECT_TRUE(b.OstatniWpis().startsWith(u"Zmiana towaru"_s + opis)) << b.OstatniWpis().toStdString();
+    }
+    for (const char* tabela : {"KasTow", "KodDod", "Istw", "Towar"})
+      b.baza.ExecSQL(std::string("delete from ") + tabela);
+    reguly.uzupelniacWazone = false;
+    reguly.kodyKrotkie = RegulyKodow::KodyKrotkie::NieTworzyc;
   }
 }
 
@@ -423,6 +458,13 @@ TEST_F(Towary, SkrotPowstajeZNazwyTylkoGdyJestPusty) {
   EXPECT_EQ(towar->Skrot(), u"Ser");
   EXPECT_NE(towar->Kody()[0].skrot, u"Ser");
   EXPECT_GT(towar->Zapisz(), 0);
+  // Many codes of one good, with names of their own in between.
+  towar->Kody().Ustaw({Dodatkowy(u"4"_s, {}), Dodatkowy(u"5"_s, u"Ser 2"_s), Dodatkowy(u"6"_s, u" "_s),
+                       Dodatkowy(u"7"_s, {}), Dodatkowy(u"8"_s, u"Ser 4"_s)});
+  EXPECT_TRUE(towar->UtworzBrakujaceSkroty());
+  QStringList nazwy;
+  for (const KodDodatkowy& kod : towar->Kody().Wszystkie()) nazwy << kod.skrot;
+  EXPECT_EQ(nazwy.join(u','), u"Ser 3,Ser 2,Ser 5,Ser 6,Ser 4"_s);
 }
 
 TEST_F(Towary, UsuwanieIPrzywracanie) {
