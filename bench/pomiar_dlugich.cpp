@@ -21,7 +21,7 @@ double Zmierz(const Warsztat& warsztat, const Dlugie& dlugie, int ile) {
   dlugie.zapiszPlik(warsztat.Sciezka("dlugie.txt"), ile);
   std::vector<double> czasy;
   for (int runda = 0; runda < kRund; ++runda) {
-    warsztat.NowaBaza("dlugie.db");
+    warsztat.KopiujBaze(Warsztat::kPusta, "dlugie.db");
     czasy.push_back(warsztat
                         .Zorvik({"import-towarow", "dlugie.txt", "dlugie.db", kKonfiguracja, '.', "dodanych",
                                  dlugie.jedenRekord ? 1 : ile})
