@@ -136,16 +136,24 @@ void TDmVLTKategoria::ClearDetails() {
   m_nastepnaKolejnosc = 0;
 }
 
+ZapisaneParametry CzytajParametryKategorii(TVLTBazaDanych& baza, int katId) {
+  ZapisaneParametry parametry;
+  for (auto odczyt =
+           baza.Otworz("select ParId, Kolejnosc from KatParam where KatId = :KatId order by Kolejnosc, ParId",
+                       {TypPola::Calkowite, TypPola::Calkowite}, {{"KatId", katId}});
+       odczyt.Nastepny();) {
+    parametry.id.push_back(static_cast<int>(odczyt[0].AsInteger()));
+    parametry.nastepnaKolejnosc = static_cast<int>(odczyt[1].AsInteger()) + 1;
+  }
+  return parametry;
+}
+
 void TDmVLTKategoria::AfterLoad(bool isNew, int id) {
   if (isNew) return;
-  for (auto odczyt = Context.baza.Otworz(
-           "select ParId, Kolejnosc from KatParam where KatId = :KatId order by Kolejnosc, ParId",
-           {TypPola::Calkowite, TypPola::Calkowite}, {{"KatId", id}});
-       odczyt.Nastepny();) {
-    m_parametry.push_back(static_cast<int>(odczyt[0].AsInteger()));
-    m_nastepnaKolejnosc = static_cast<int>(odczyt[1].AsInteger()) + 1;
-  }
+  ZapisaneParametry zapisane = CzytajParametryKategorii(Context.baza, id);
+  m_parametry = std::move(zapisane.id);
   m_zapisane = m_parametry.size();
+  m_nastepnaKolejnosc = zapisane.nastepnaKolejnosc;
 }
 
 void TDmVLTKategoria::ZapiszSzczegoly(int id) {

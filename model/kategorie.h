@@ -54,6 +54,14 @@ class TDmVLTListaParametrow final : public TDmVLTListaSlownika {
   std::unordered_map<int, std::vector<QString>> m_wartosci;
 };
 
+// The parameters of a category as they are stored: identifiers in their order, and the order number behind
+// them.
+struct ZapisaneParametry {
+  std::vector<int> id;
+  int nastepnaKolejnosc = 0;
+};
+ZapisaneParametry CzytajParametryKategorii(TVLTBazaDanych& baza, int katId);
+
 // A category with its parameters in order; they are only ever added behind the others, so a save writes the
 // new ones alone. 2877 no name, 2878 name used.
 class TDmVLTKategoria final : public TDmVLTWpisSlownika {

@@ -176,12 +176,7 @@ TDmVLTTowar::Plan TDmVLTTowar::Zaplanuj() const {
 std::vector<int> TDmVLTTowar::ParametryKategorii() const {
   TDmVLTListaKategorii* const kategorie = m_otoczenie.kategorie;
   if (kategorie && kategorie->Znajdz(KatId())) return kategorie->Parametry(KatId());
-  std::vector<int> parametry;
-  for (auto odczyt = Context.baza.Otworz("select ParId from KatParam where KatId = :KatId",
-                                         {TypPola::Calkowite}, {{"KatId", KatId()}});
-       odczyt.Nastepny();)
-    parametry.push_back(static_cast<int>(odczyt[0].AsInteger()));
-  return parametry;
+  return CzytajParametryKategorii(Context.baza, KatId()).id;
 }
 
 // Every parameter of the category has a value.

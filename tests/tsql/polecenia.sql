@@ -44,10 +44,14 @@ create table Asort (
     AsId int identity primary key,
     Nazwa nvarchar(850) collate Latin1_General_BIN2 not null);
 
+create index AsortNazwa on Asort (Nazwa);
+
 create table JM (
     JMId int identity primary key,
     Nazwa nvarchar(850) collate Latin1_General_BIN2 not null,
     Precyzja int not null default 0);
+
+create index JMNazwa on JM (Nazwa);
 
 create table Vat (
     Stawka int not null primary key);
@@ -60,12 +64,16 @@ create table Kategoria (
     KatId int identity primary key,
     Nazwa nvarchar(850) collate Latin1_General_BIN2 not null);
 
+create index KategoriaNazwa on Kategoria (Nazwa);
+
 create table Parametr (
     ParId int identity primary key,
     Nazwa nvarchar(850) collate Latin1_General_BIN2 not null,
     Typ int not null default 0,
     Od float not null default 0,
     Do float not null default 0);
+
+create index ParametrNazwa on Parametr (Nazwa);
 
 create table ParWartosc (
     ParId int not null references Parametr (ParId),
@@ -973,9 +981,6 @@ insert into Kategoria (Nazwa)
   values (:Nazwa);
 select cast(scope_identity() as int);
 
-delete from KatParam
-  where KatId = :KatId;
-
 select ParId
   from Parametr
   where Nazwa = :Nazwa
@@ -996,7 +1001,7 @@ select KatId, Nazwa
   from Kategoria
   where KatId = :Id;
 
-select ParId
+select ParId, Kolejnosc
   from KatParam
   where KatId = :KatId
   order by Kolejnosc, ParId;
