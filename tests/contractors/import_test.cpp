@@ -222,6 +222,9 @@ TEST_F(ImportTest, BrakujaceKolumny) {
   UstawPola({0, 34, 1});
   EXPECT_EQ(Wynik(Importuj("Nazwa;;123\n")), "+0 ~0 -0 =1");
   EXPECT_EQ(Wynik(Importuj("Nazwa;();123\n")), "+0 ~1 -0 =0");
+  UstawPola({0, 32, 1});
+  for (const QString& zla : {u"1.2.27"_s, u"1.2.20270"_s, u"001.2.2027"_s})
+    EXPECT_EQ(Wynik(Importuj(u"Nazwa;%1;123\n"_s.arg(zla))), "+0 ~0 -0 =1") << zla.toStdString();
   EXPECT_EQ(b.Tekst("select Ulica || Staly || Aktywny || (select count(*) from Osoba) from Kontrahent"),
             u"Polna000"_s);
 }
@@ -294,10 +297,26 @@ TEST_F(ImportTest, NumerDodanyPrzezInnyProgram) {
   b.Polacz(inny);
   oper = &osoba;
   osoba.liczbaPol = OdpowiedzLiczbaPol::Pomin;
+  UstawPola({0, 1, 14});
   osoba.przyPytaniu = [&] {
     inny.ExecSQL("insert into Kontrahent (Nazwa, NIP, Odbiorca) values ('B', '2-2', 1)");
+    inny.ExecSQL(
+        "insert into Sklep (SklepId, NrSklepu) select KontrId, 50 from Kontrahent where NIP = '2-2'");
   };
-  EXPECT_EQ(Wynik(Importuj("A;1\nX\nB;22\nA;1\n")), "+1 ~0 -1 =2");
+  EXPECT_EQ(Wynik(Importuj("A;1;1\nX\nB;22;1\nA;1;1\nC;3;1\n")), "+2 ~0 -1 =2");
+  EXPECT_EQ(b.Kolumna("select NrSklepu from Sklep order by NrSklepu", TypPola::Calkowite), u"1,50,51"_s);
+}
+
+// What an undone batch had added is added when its records come again, under the same numbers of shops.
+TEST_F(ImportTest, PowtorzonaPaczkaZaczynaOdNowa) {
+  UstawPola({0, 1, 14});
+  int zatwierdzen = 0;
+  b.baza.UstawPodsluch([&](std::string_view sql) {
+    if (sql == "commit" && ++zatwierdzen == 1) throw EBladBazy(RodzajBleduBazy::Kolizja, u"Błąd"_s, {});
+  });
+  EXPECT_EQ(Wynik(Importuj("A;1;1\nA;1;1\nB;2;1\n")), "+2 ~0 -0 =1");
+  b.baza.UstawPodsluch({});
+  EXPECT_EQ(b.Kolumna("select NrSklepu from Sklep order by NrSklepu", TypPola::Calkowite), u"1,2"_s);
 }
 
 // Each statement of a run fails in turn. Every fault of the database ends the run, the counters say what the

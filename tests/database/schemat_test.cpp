@@ -4,6 +4,8 @@
 
 #include "tests/wspolne/baza_testowa.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class Schemat : public testing::Test, protected BazaTestowa {
@@ -20,8 +22,10 @@ class Schemat : public testing::Test, protected BazaTestowa {
 };
 
 TEST_F(Schemat, NowaBazaMaStawkiIKonfiguracjeINicWiecej) {
-  EXPECT_EQ(Liczba("select sum(Stawka) from Vat"), 2300 + 800 + 500 - 1);
-  EXPECT_EQ(Liczba("select count(*) from Konfiguracja where Nazwa = 'NazwaSkrocona'"), 8);
+  EXPECT_EQ(Kolumna("select Stawka from Vat order by Stawka", TypPola::Calkowite), u"-1,0,500,800,2300"_s);
+  EXPECT_EQ(Kolumna("select Wartosc from Konfiguracja where Nazwa = 'NazwaSkrocona' order by Kolejnosc",
+                    TypPola::Tekst, u'|'),
+            u"0|1|1|.,-/%&+|32||1|18"_s);
   EXPECT_EQ(Liczba("select Wartosc from Konfiguracja where Nazwa = 'Wykazy' and Kolejnosc = 0"), 2);
   EXPECT_EQ(Liczba("select (select count(*) from Magazyn) + (select count(*) from Asort)"), 0);
 }
@@ -55,6 +59,12 @@ TEST_F(Schemat, DaneDemoSaSpojne) {
             Liczba("select (select count(*) from Towar) * (select count(*) from Magazyn)"));
   EXPECT_EQ(Liczba("select count(*) from Towar where Stawka not in (select Stawka from Vat)"), 0);
   EXPECT_EQ(Liczba("select count(*) from Towar where length(Skrot) not between 1 and 18"), 0);
+  // Gross prices in grosze, and who makes the good.
+  EXPECT_EQ(Kolumna("select T.Kod || ' ' || round(T.CenaDet * (10000 + T.Stawka) / 100) || ' ' || K.Skrot"
+                    " from Towar T, Kontrahent K where K.KontrId = T.Producent and T.Kod in ('5909912001653',"
+                    " '5909918001527') order by T.Kod")
+                .remove(u".0"_s),
+            u"5909912001653 189 Źródło,5909918001527 3757 Świt"_s);
 }
 
 }  // namespace

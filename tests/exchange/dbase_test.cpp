@@ -94,6 +94,25 @@ TEST(PlikDBase, PolePozaRekordemJestPuste) {
   EXPECT_EQ(plik.FieldValue("NAZWA"), "");
 }
 
+// Records come in blocks of 256 KiB. A table cut off meanwhile is told of and never read as zeros.
+TEST(PlikDBase, BlokiRekordowISkroconyPlik) {
+  std::vector<std::string> rekordy;
+  for (int i = 0; i < 30'000; ++i) rekordy.push_back(' ' + std::to_string(5'900'000'000 + i));
+  const PlikProbny bajty(Tabela{.pola = kPola, .rekordy = rekordy}.Bajty());
+  PlikDBase plik;
+  ASSERT_TRUE(plik.Open(bajty.Sciezka()));
+  for (int i = 0; i < 30'000; ++i) {
+    ASSERT_TRUE(plik.ReadRecord(i));
+    ASSERT_EQ(' ' + std::string(plik.FieldValue("KOD")) + std::string(plik.FieldValue("NAZWA")),
+              rekordy[size_t(i)]);
+  }
+  ASSERT_TRUE(plik.ReadRecord(0));
+  ASSERT_TRUE(QFile::resize(bajty.Sciezka(), 97 + 11 * 24'000));
+  EXPECT_TRUE(plik.ReadRecord(23'999));
+  EXPECT_FALSE(plik.ReadRecord(24'000));
+  EXPECT_TRUE(plik.Blad()->tekst.contains(u"skrócony w trakcie odczytu"));
+}
+
 TEST(CzytnikDBase, KolumnyPolImaja) {
   const std::string bajty =
       Tabela{.pola = kPola, .rekordy = {" 5901 \x88uk  ", "*5902Mleko ", " 5903Ser   "}}.Bajty();

@@ -78,6 +78,7 @@ TEST_F(Baza, LiczbyJakoTeksty) {
     jakoTekst.SetFloat(liczba);
     EXPECT_EQ(jakoTekst.AsUtf8(), tekst);
   }
+  EXPECT_EQ(std::pair(Wartosc(2.7).AsInteger(), Wartosc(-2.5).AsInteger()), std::pair(3LL, -3LL));
 }
 
 TEST_F(Baza, ZmianyPolPamietajaStaraWartosc) {
@@ -143,9 +144,11 @@ TEST_F(Baza, JednostkaCofaTylkoSiebie) {
 
 TEST_F(Baza, CzytaniaNieTrzymajaTransakcji) {
   for (const char* nazwa : {"a", "b", "c"}) Dodaj(QString::fromLatin1(nazwa));
-  TVLTBazaDanych druga;
+  TVLTBazaDanych druga, trzecia;
   b.Polacz(druga);
+  b.Polacz(trzecia);
   const long long przed = druga.ZnacznikObcychZmian();
+  EXPECT_NE(trzecia.ZnacznikObcychZmian(), przed) << "one connection cannot tell what another has seen";
   {
     // The same text read again while its first reading stands in the middle.
     auto zewnetrzny = druga.Otworz("select Nazwa from T order by Id", {TypPola::Tekst});

@@ -215,6 +215,23 @@ TEST_F(Serwer, ZerwanePolaczenieKonczyTransakcje) {
   EXPECT_EQ(Nazwy(), QString());
 }
 
+// Which fault ends the run, which costs one record and which has the batch repeated.
+TEST_F(Serwer, RodzajBleduZeStanuSql) {
+  using R = RodzajBleduBazy;
+  const std::pair<const char*, R> stany[] = {
+      {"53100", R::PelnyDysk},    {"40001", R::Kolizja},      {"40P01", R::Kolizja},
+      {"25006", R::TylkoOdczyt},  {"55P03", R::Blokada},      {"57014", R::Czas},
+      {"42501", R::Uprawnienia},  {"58030", R::Wejscie},      {"XX001", R::Wejscie},
+      {"53300", R::Polaczenie},   {"23505", R::Ograniczenie}, {"22001", R::Ograniczenie},
+      {"54000", R::Ograniczenie}, {"42P01", R::Inny}};
+  for (const auto& [stan, rodzaj] : stany) try {
+      b().baza.ExecSQL(std::string("do $$begin raise exception 'x' using errcode = '") + stan + "'; end$$");
+      ADD_FAILURE() << "no error";
+    } catch (const EBladBazy& blad) {
+      EXPECT_EQ(blad.Rodzaj(), rodzaj) << stan;
+    }
+}
+
 // Two importing programs take turns; who waits for longer than allowed is told.
 TEST_F(Serwer, JedenImportNaRaz) {
   TVLTBazaDanych inna;

@@ -98,6 +98,7 @@ TEST_F(PrzebiegTest, CalyPlik) {
   EXPECT_EQ(Zapisanych(), 2);
   EXPECT_EQ(Pominiete(), "2 | z\xB3y | \xAFle\r\n2 | z\xB3y | Bardzo \x9Fle\r\n2 | z\xB3y | Najgorzej\r\n");
   EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 1);
+  EXPECT_EQ(QFileInfo(baza.Sciezka() + u"-wal"_s).size(), 0) << "what is saved lies in the database file";
   Uruchom(Rekordy(2 * PaczkaZapisow::kNajwiecejRekordow + 1));
   EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 1 + 3);
 }
@@ -177,8 +178,9 @@ TEST_F(PrzebiegTest, PrzedPytaniemPaczkaJestZatwierdzona) {
     odczyt.Nastepny();
     widoczne = odczyt[0].AsInteger();
     EXPECT_FALSE(baza.baza.GetCzyWTransakcji());
+    EXPECT_EQ(Pominiete().count('\n'), 3) << "the file keeps pace with what is saved";
   };
-  EXPECT_EQ(Uruchom("1;a\n2;pytanie\n").koniec, KoniecPrzebiegu::Zakonczono);
+  EXPECT_EQ(Uruchom("0;z\xB3y\n1;a\n2;pytanie\n").koniec, KoniecPrzebiegu::Zakonczono);
   EXPECT_EQ(widoczne, 1);
   EXPECT_EQ(baza.baza.LiczbaZatwierdzen(), 2);
 }
@@ -188,25 +190,29 @@ TEST_F(PrzebiegTest, PrzedPytaniemPaczkaJestZatwierdzona) {
 TEST_F(PrzebiegTest, KolidujacaPaczkaJestPowtarzana) {
   const struct {
     const char* polecenie;
-    int ktore, razy;
+    std::string_view ktore;  // a letter for each of these statements: those with an x fail
     KoniecPrzebiegu koniec;
     long long zapisanych;
   } przypadki[] = {
-      {"insert into Proba", 3, 1, KoniecPrzebiegu::Zakonczono, 3},
-      {"commit", 1, 3, KoniecPrzebiegu::Zakonczono, 3},
-      {"commit", 2, 1, KoniecPrzebiegu::Zakonczono, 3},
-      {"begin", 1, 2, KoniecPrzebiegu::Zakonczono, 3},
-      {"commit", 1, 4, KoniecPrzebiegu::Blad, 0},
-      {"insert into Proba", 3, 4, KoniecPrzebiegu::Blad, 1},
+      {"insert into Proba", "..x", KoniecPrzebiegu::Zakonczono, 3},
+      {"commit", "xxx", KoniecPrzebiegu::Zakonczono, 3},
+      {"commit", ".x", KoniecPrzebiegu::Zakonczono, 3},
+      {"begin", "xx", KoniecPrzebiegu::Zakonczono, 3},
+      {"commit", "xxxx", KoniecPrzebiegu::Blad, 0},
+      {"insert into Proba", "..xxxx", KoniecPrzebiegu::Blad, 1},
+  };
+  const auto koliduj = [this](std::string_view polecenie, std::string_view ktore) {
+    baza.baza.ExecSQL("delete from Proba");
+    baza.baza.UstawPodsluch([polecenie, ktore](std::string_view sql) mutable {
+      if (!sql.starts_with(polecenie) || ktore.empty()) return;
+      const char teraz = ktore.front();
+      ktore.remove_prefix(1);
+      if (teraz == 'x') throw EBladBazy(RodzajBleduBazy::Kolizja, u"Zakleszczenie"_s, {});
+    });
   };
   for (const auto& p : przypadki) {
     SCOPED_TRACE(p.polecenie);
-    baza.baza.ExecSQL("delete from Proba");
-    int numer = 0;
-    baza.baza.UstawPodsluch([&](std::string_view sql) {
-      if (sql.starts_with(p.polecenie) && ++numer >= p.ktore && numer < p.ktore + p.razy)
-        throw EBladBazy(RodzajBleduBazy::Kolizja, u"Zakleszczenie"_s, {});
-    });
+    koliduj(p.polecenie, p.ktore);
     const WynikPrzebiegu wynik = Uruchom("1;a\n2;z\xB3y\n3;pytanie\n4;b\n");
     baza.baza.UstawPodsluch({});
     EXPECT_EQ(wynik.koniec, p.koniec);
@@ -214,6 +220,8 @@ TEST_F(PrzebiegTest, KolidujacaPaczkaJestPowtarzana) {
     EXPECT_EQ(wynik.liczniki[Licznik::Dodane], p.zapisanych);
     EXPECT_EQ(Pominiete().count('\n'), p.zapisanych == 0 ? 0 : 3);
   }
+  koliduj("commit", "xx.xx");  // the count begins anew with every batch
+  EXPECT_EQ(Uruchom(Rekordy(PaczkaZapisow::kNajwiecejRekordow + 1)).koniec, KoniecPrzebiegu::Zakonczono);
 }
 
 // A commit that fails takes its batch with its counters and lines; the batches before it stay.
