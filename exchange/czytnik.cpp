@@ -4,6 +4,7 @@
 #include "exchange/czytnik_rozdzielany.h"
 #include "exchange/czytnik_szerokosci.h"
 #include "exchange/czytnik_wlasny.h"
+#include "platform/tozsamosc_pliku.h"
 
 Komunikat NiezgodnaLiczbaPol::Pytanie() const {
   return {QStringLiteral("Uwaga"),
@@ -35,6 +36,15 @@ std::unique_ptr<Czytnik> UtworzCzytnik(const StrukturaPliku& struktura) {
       break;
   }
   return std::make_unique<CzytnikWlasny>(struktura);
+}
+
+std::optional<Komunikat> OdmowaPlikuImportu(const QString& sciezka) {
+  const RodzajPliku rodzaj = RodzajPlikuSciezki(sciezka);
+  if (rodzaj == RodzajPliku::Zwykly) return std::nullopt;
+  if (rodzaj == RodzajPliku::Brak) return KomunikatBrakPliku(sciezka);
+  return Komunikat{QStringLiteral("UWAGA"),
+                   QStringLiteral("%1 jest %2, a nie plikiem\nZapisz dane w zwykłym pliku i wskaż ten plik")
+                       .arg(sciezka, CzymJest(rodzaj))};
 }
 
 Komunikat KomunikatBrakPliku(const QString& sciezka) {

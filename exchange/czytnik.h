@@ -95,6 +95,8 @@ class Czytnik {
 // The reader for the structure's file type. The structure is copied as far as it is needed.
 std::unique_ptr<Czytnik> UtworzCzytnik(const StrukturaPliku& struktura);
 
-// What the opening of an import file answers when the file is missing or cannot be opened.
+// What the opening of an import file answers when the file is missing, is no regular file (nothing when it is
+// one) or cannot be opened.
+std::optional<Komunikat> OdmowaPlikuImportu(const QString& sciezka);
 Komunikat KomunikatBrakPliku(const QString& sciezka);
 Komunikat KomunikatBladOtwarcia(const QString& sciezka);

@@ -21,7 +21,7 @@ std::optional<Komunikat> CzytnikDBase::Otworz(const QString& sciezka) {
   m_blad.reset();
   m_nastepny = 0;
   m_numer = 0;
-  if (!QFile::exists(sciezka)) return KomunikatBrakPliku(sciezka);
+  if (auto odmowa = OdmowaPlikuImportu(sciezka)) return odmowa;
   if (!m_plik.Open(sciezka)) return m_plik.Blad() ? m_plik.Blad() : KomunikatBladOtwarcia(sciezka);
   for (Kolumna& kolumna : m_kolumny)
     kolumna.indeks = m_plik.FieldIndex(BajtyNaStronie(kolumna.nazwa, m_strona));

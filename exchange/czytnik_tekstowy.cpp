@@ -1,7 +1,5 @@
 #include "exchange/czytnik_tekstowy.h"
 
-#include <QFile>
-
 #include "exchange/bajty.h"
 
 namespace {
@@ -17,7 +15,7 @@ CzytnikTekstowy::CzytnikTekstowy(const StrukturaPliku& struktura, int deklarowan
 
 std::optional<Komunikat> CzytnikTekstowy::Otworz(const QString& sciezka) {
   m_blad.reset();
-  if (!QFile::exists(sciezka)) return KomunikatBrakPliku(sciezka);
+  if (auto odmowa = OdmowaPlikuImportu(sciezka)) return odmowa;
   if (!m_plik.Open(sciezka, TMFile::Tryb::Odczyt)) return KomunikatBladOtwarcia(sciezka);
   if (const std::optional<QString> odmowa = RozpoznajPlik(sciezka))
     return Komunikat{QStringLiteral("BŁĄD"), *odmowa};

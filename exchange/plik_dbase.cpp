@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/otwarcie_pliku.h"
+#include "platform/tozsamosc_pliku.h"
+
 namespace {
 
 constexpr qint64 kDlugoscNaglowka = 32;
@@ -31,10 +34,11 @@ bool TaSamaNazwa(std::string_view a, std::string_view b) {
 bool PlikDBase::Open(const QString& sciezka, bool tylkoOdczyt) {
   Close();
   m_blad.reset();
-  if (!QFile::exists(sciezka)) return false;
+  if (RodzajPlikuSciezki(sciezka) == RodzajPliku::Brak) return false;
   m_plik.setFileName(sciezka);
-  const QIODevice::OpenMode jak = tylkoOdczyt ? QIODevice::ReadOnly : QIODevice::ReadWrite;
-  if (!m_plik.open(jak | QIODevice::Unbuffered)) return Odmowa(m_plik.errorString());
+  if (const auto powod =
+          OtworzPlik(m_plik, sciezka, tylkoOdczyt ? SposobOtwarcia::Odczyt : SposobOtwarcia::Modyfikacja))
+    return Odmowa(*powod);
   if (WczytajNaglowek()) return true;
   Close();
   return false;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/otwarcie_pliku.h"
+
 namespace {
 
 constexpr size_t kPorcja = 256 * 1024;
@@ -49,6 +51,21 @@ bool JestUtf8(std::string_view tekst) {
   return polskich >= kWystarczy;
 }
 
+std::optional<QString> Otworz(QFile& plik, const QString& sciezka, TMFile::Tryb tryb) {
+  switch (tryb) {
+    case TMFile::Tryb::Odczyt:
+      return OtworzPlik(plik, sciezka, SposobOtwarcia::Odczyt);
+    case TMFile::Tryb::Zapis:
+      return OtworzPlik(plik, sciezka, SposobOtwarcia::Zapis);
+    case TMFile::Tryb::NaNowo:
+      return OtworzNaNowo(plik, sciezka);
+    case TMFile::Tryb::Modyfikacja:
+    case TMFile::Tryb::Dopisywanie:
+      break;
+  }
+  return OtworzPlik(plik, sciezka, SposobOtwarcia::Modyfikacja);
+}
+
 }  // namespace
 
 TMFile::~TMFile() {
@@ -61,22 +78,8 @@ bool TMFile::Open(const QString& sciezka, Tryb tryb) {
   m_bladZapisu = m_zero = false;
   m_od = m_do = 0;
   m_poczatekBufora = 0;
-  m_plik.setFileName(sciezka);
-  QIODevice::OpenMode jak = QIODevice::Unbuffered;
-  switch (tryb) {
-    case Tryb::Odczyt:
-      jak |= QIODevice::ReadOnly;
-      break;
-    case Tryb::Zapis:
-      jak |= QIODevice::WriteOnly | QIODevice::Truncate;
-      break;
-    case Tryb::Modyfikacja:
-    case Tryb::Dopisywanie:
-      jak |= QIODevice::ReadWrite;
-      break;
-  }
-  if (!m_plik.open(jak)) {
-    m_opisBledu = m_plik.errorString();
+  if (const auto powod = Otworz(m_plik, sciezka, tryb)) {
+    m_opisBledu = *powod;
     return false;
   }
   m_bufor.clear();
@@ -240,8 +243,8 @@ QString OpisTresci(RodzajTresci rodzaj, const QString& sciezka) {
 }
 
 std::optional<QString> RozpoznajPlik(const QString& sciezka) {
-  QFile plik(sciezka);
-  if (!plik.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return std::nullopt;
+  QFile plik;
+  if (OtworzPlik(plik, sciezka, SposobOtwarcia::Odczyt)) return std::nullopt;
   const QByteArray poczatek = plik.read(64 * 1024);
   const RodzajTresci rodzaj =
       RozpoznajTresc(std::string_view(poczatek.constData(), static_cast<size_t>(poczatek.size())));

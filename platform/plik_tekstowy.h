@@ -13,8 +13,9 @@
 class TMFile {
  public:
   enum class Tryb {
-    Odczyt,
+    Odczyt,       // of a regular file
     Zapis,        // created if need be, emptied
+    NaNowo,       // a new file: a link in its place is replaced, not followed
     Modyfikacja,  // created if need be, kept; the position is the beginning
     Dopisywanie   // created if need be, kept; the position is the end
   };

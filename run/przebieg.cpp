@@ -5,6 +5,7 @@
 #include "model/kontekst.h"
 #include "platform/baza/sesja.h"
 #include "run/operator.h"
+#include "run/pliki_zastrzezone.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -69,11 +70,16 @@ WynikPrzebiegu Przebieg::Wykonaj() {
 }
 
 std::optional<Komunikat> Przebieg::Otworz() {
+  const bool zapis = m_opis.plikPominietych.empty();  // whoever skips no records writes the file
+  if (auto odmowa = OdmowaPlikuPrzebiegu(m_parametry, zapis ? KierunekPliku::Zapis : KierunekPliku::Odczyt))
+    return odmowa;
   if (auto odmowa = OtworzPlik()) return odmowa;
-  if (m_opis.plikPominietych.empty()) return std::nullopt;
+  if (zapis) return std::nullopt;
   const QString& wybrany = m_parametry.katalogPominietych;
-  return m_raport.Otworz(wybrany.isEmpty() ? RaportProblemow::KatalogProgramu() : wybrany,
-                         Tekst(m_opis.plikPominietych), RaportProblemow::KatalogZapasowy());
+  const QString katalog = wybrany.isEmpty() ? RaportProblemow::KatalogProgramu() : wybrany;
+  const QString nazwa = Tekst(m_opis.plikPominietych);
+  if (auto odmowa = OdmowaPlikuPominietych(m_parametry, katalog + u'/' + nazwa)) return odmowa;
+  return m_raport.Otworz(katalog, nazwa, RaportProblemow::KatalogZapasowy());
 }
 
 KoniecPrzebiegu Przebieg::Prowadz() {

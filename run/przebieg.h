@@ -72,7 +72,8 @@ class Przebieg {
   WynikPrzebiegu Wykonaj();
 
  protected:
-  // Opens the file before anything else; a message means that the run does not begin.
+  // Opens the file, which is known to be none that a run must leave alone; a message means that the run does
+  // not begin.
   virtual std::optional<Komunikat> OtworzPlik() = 0;
   // The phases between the connection and the body; how the run ends when the body is not to begin.
   virtual std::optional<KoniecPrzebiegu> Przygotuj() = 0;

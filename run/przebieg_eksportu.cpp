@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <limits>
 
-#include <QDir>
-#include <QFileInfo>
 #include <QScopeGuard>
 
 #include "exchange/czytnik.h"
@@ -23,41 +21,14 @@ QString Tekst(std::u16string_view tekst) {
   return QStringView(tekst).toString();
 }
 
-// Where a path leads, whether or not there is a file yet.
-QString Cel(const QString& sciezka) {
-  const QFileInfo plik(sciezka);
-  if (plik.exists()) return plik.canonicalFilePath();
-  const QString folder = plik.absoluteDir().canonicalPath();
-  return folder.isEmpty() ? plik.absoluteFilePath() : QDir(folder).filePath(plik.fileName());
-}
-
-bool TenSamPlik(const QString& a, const QString& b) {
-  return !a.isEmpty() && !b.isEmpty() && Cel(a) == Cel(b);
-}
-
-std::optional<Komunikat> Odmowa(const QString& plik, const QString& czym) {
-  return Komunikat{u"UWAGA"_s,
-                   u"Plik "_s + plik + u" jest plikiem "_s + czym + u"\nPodaj inną nazwę pliku eksportu"_s};
-}
-
 }  // namespace
 
 void PrzebiegEksportu::Wykaz::Dodaj(const QString& rekord) {
   if (++ile <= kNazwWKomunikacie) pierwsze << rekord;
 }
 
-// Opening empties the file, so what must not be lost is looked for first.
 std::optional<Komunikat> PrzebiegEksportu::OtworzPlik() {
-  const QString& plik = Parametry().plik;
-  const QString& wybrany = Parametry().katalogPominietych;
-  for (const QString& katalog :
-       {wybrany.isEmpty() ? RaportProblemow::KatalogProgramu() : wybrany, RaportProblemow::KatalogZapasowy()})
-    for (const std::u16string_view nazwa : kPlikiPominietych)
-      if (TenSamPlik(plik, QDir(katalog).filePath(Tekst(nazwa))))
-        return Odmowa(plik, u"pominiętych rekordów"_s);
-  for (const QString& plikBazy : Parametry().sesja.baza.Parametry().Pliki())
-    if (TenSamPlik(plik, plikBazy)) return Odmowa(plik, u"bazy danych"_s);
-  if (!m_zapis.Otworz(plik)) return KomunikatBladOtwarcia(plik);
+  if (!m_zapis.Otworz(Parametry().plik)) return KomunikatBladOtwarcia(Parametry().plik);
   return std::nullopt;
 }
 

@@ -36,13 +36,13 @@ QString RaportProblemow::KatalogZapasowy() {
 std::optional<Komunikat> RaportProblemow::Otworz(const QString& katalog, const QString& nazwaPliku,
                                                  const QString& zapasowy) {
   m_sciezka = ZSeparatorem(katalog) + nazwaPliku;
-  if (m_plik.Open(m_sciezka, TMFile::Tryb::Zapis)) return std::nullopt;
+  if (m_plik.Open(m_sciezka, TMFile::Tryb::NaNowo)) return std::nullopt;
   m_postep.Pokaz(u"UWAGA"_s, u"Nie udało się utworzyć pliku "_s + nazwaPliku + u" na "_s +
                                  ZSeparatorem(katalog) + u"\nPlik zostanie utworzony na "_s +
                                  ZSeparatorem(zapasowy));
   QDir().mkpath(zapasowy);
   m_sciezka = ZSeparatorem(zapasowy) + nazwaPliku;
-  if (m_plik.Open(m_sciezka, TMFile::Tryb::Zapis)) return std::nullopt;
+  if (m_plik.Open(m_sciezka, TMFile::Tryb::NaNowo)) return std::nullopt;
   return KomunikatBladOtwarcia(std::exchange(m_sciezka, {}));
 }
 

@@ -26,7 +26,7 @@ class RaportProblemow {
   RaportProblemow(IPostep& postep, Liczniki& liczniki) : m_postep(postep), m_liczniki(liczniki) {}
 
   // Creates the file (empty) in `katalog`, with a warning in `zapasowy` when that fails. A refusal when both
-  // fail.
+  // fail. A link of that name is replaced, not followed: what it leads to may be the input or the database.
   std::optional<Komunikat> Otworz(const QString& katalog, const QString& nazwaPliku, const QString& zapasowy);
   // The folder a file goes to when none was chosen: that of the program itself.
   static QString KatalogProgramu();

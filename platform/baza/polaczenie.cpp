@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 
 #include "platform/baza/napis_odbc.h"
+#include "platform/nazwa_pliku.h"
 
 namespace {
 
@@ -26,7 +27,8 @@ bool Haslo(const AtrybutOdbc& atrybut) {
 
 QStringList ParametryPolaczenia::Pliki() const {
   if (rodzaj != Rodzaj::Sqlite) return {};
-  return {cel, cel + QLatin1String("-wal"), cel + QLatin1String("-shm"), cel + QLatin1String("-journal")};
+  const QString plik = SciezkaBezDowiazan(cel);
+  return {plik, plik + QLatin1String("-wal"), plik + QLatin1String("-shm"), plik + QLatin1String("-journal")};
 }
 
 QString ParametryPolaczenia::Opis() const {

@@ -22,7 +22,7 @@ struct ParametryPolaczenia {
   const Dialekt* jezyk = nullptr;
 
   // The files that make up an embedded database, whether or not they exist at the moment: the database and
-  // what SQLite keeps beside it.
+  // what SQLite keeps beside it, which is where a link leads.
   QStringList Pliki() const;
   // For people: without a password.
   QString Opis() const;

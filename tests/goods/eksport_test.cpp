@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include "goods/eksport_towarow.h"
 #include "tests/goods/import_testowy.h"
 #include "tests/wspolne/plik_eksportu.h"
@@ -208,7 +210,16 @@ TEST_F(EksportTest, OdmawiaPlikuKtoregoNieWolnoNadpisac) {
   ASSERT_TRUE(pominiete.open(QIODevice::WriteOnly) && pominiete.write("x") == 1);
   pominiete.close();
   QFile::link(pominiete.fileName(), folder.filePath(u"dowiązanie"_s));
+  const auto polacz = [](const QString& co, const QString& gdzie) {
+    EXPECT_EQ(link(co.toStdString().c_str(), gdzie.toStdString().c_str()), NaSerwerze() ? -1 : 0);
+    return gdzie;
+  };
+  const QString twarde = folder.filePath(u"twarde"_s);
+  EXPECT_EQ(link(pominiete.fileName().toStdString().c_str(), twarde.toStdString().c_str()), 0);
   const std::pair<QString, QString> przypadki[] = {
+      {twarde, u"jest plikiem pominiętych rekordów"_s},
+      {polacz(b.Sciezka(), b.Sciezka() + u"-kopia"_s), u"jest plikiem bazy danych"_s},
+      {polacz(b.Sciezka() + u"-wal"_s, b.Sciezka() + u"-zapis"_s), u"jest plikiem bazy danych"_s},
       {pominiete.fileName(), u"jest plikiem pominiętych rekordów"_s},
       {folder.filePath(u"../x/../POMINIETE.TXT"_s), u"Błąd otwarcia pliku"_s},
       {folder.filePath(u"dowiązanie"_s), u"jest plikiem pominiętych rekordów"_s},

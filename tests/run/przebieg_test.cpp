@@ -1,3 +1,8 @@
+#include <fstream>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "exchange/czytnik.h"
 #include "model/kontekst.h"
 #include "model/parametry_systemu.h"
@@ -104,9 +109,30 @@ TEST_F(PrzebiegTest, CalyPlik) {
 }
 
 TEST_F(PrzebiegTest, OdmowaPrzedPrzebiegiem) {
-  EXPECT_EQ(Wykonaj(u"/nie/ma"_s).koniec, KoniecPrzebiegu::Odmowa);
-  EXPECT_EQ(postep.linie, QStringList{u"UWAGA: Plik /nie/ma nie istnieje"_s});
-  postep.linie.clear();
+  const auto w = [this](const QString& nazwa) { return folder.filePath(nazwa).toStdString(); };
+  std::ofstream(w(u"POMINIECI.TXT"_s)) << "1;a\n";
+  const std::string baza1 = baza.Sciezka().toStdString();
+  EXPECT_EQ(link(w(u"POMINIECI.TXT"_s).c_str(), w(u"twarde"_s).c_str()), 0);
+  EXPECT_EQ(link(baza1.c_str(), w(u"baza"_s).c_str()), 0);
+  EXPECT_EQ(symlink((baza1 + "-wal").c_str(), w(u"dziennik"_s).c_str()), 0);
+  EXPECT_EQ(mkfifo(w(u"potok"_s).c_str(), 0600), 0);
+  const std::pair<QString, QString> przypadki[] = {
+      {u"/nie/ma"_s, u"UWAGA: Plik /nie/ma nie istnieje"_s},
+      {folder.path(), u"UWAGA: %1 jest folderem, a nie plikiem\n"_s.arg(folder.path())},
+      {folder.filePath(u"potok"_s), u" jest potokiem, a nie plikiem\n"_s},
+      {u"/dev/zero"_s, u"UWAGA: /dev/zero jest urządzeniem, a nie plikiem\n"_s},
+      {folder.filePath(u"twarde"_s), u"/twarde jest plikiem pominiętych rekordów\n"_s},
+      {folder.filePath(u"baza"_s), u"/baza jest plikiem bazy danych\n"_s},
+      {folder.filePath(u"dziennik"_s), u"/dziennik jest plikiem bazy danych\n"_s}};
+  for (const TypPliku typ : {TypPliku::Rozdzielany, TypPliku::DBase})
+    for (const auto& [plik, tekst] : przypadki) {
+      struktura.CBTypPliku = typ;
+      postep.linie.clear();
+      EXPECT_EQ(Wykonaj(plik).koniec, KoniecPrzebiegu::Odmowa);
+      EXPECT_TRUE(postep.linie.join(u'|').contains(tekst)) << postep.linie.join(u'|').toStdString();
+    }
+  EXPECT_EQ(Zawartosc(folder.filePath(u"twarde"_s)), "1;a\n");
+  struktura.CBTypPliku = TypPliku::Rozdzielany;
   EXPECT_EQ(Uruchom(QByteArray("1;a\n2;b\n").append('\0')).koniec, KoniecPrzebiegu::Odmowa);
   EXPECT_EQ(Zapisanych(), 0);
 }
@@ -131,6 +157,22 @@ TEST_F(PrzebiegTest, PlikPominietych) {
   Uruchom("1;z\xB3y\n");
   Uruchom("1;a\n");
   EXPECT_EQ(Pominiete(), "");
+  // A link is replaced; the database itself is not, even if it bears that name.
+  const QString sciezka = folder.filePath(u"POMINIETE.TXT"_s);
+  EXPECT_TRUE(QFile::remove(sciezka));
+  EXPECT_EQ(link(baza.Sciezka().toStdString().c_str(), sciezka.toStdString().c_str()), 0);
+  EXPECT_EQ(Uruchom("1;z\xB3y\n2;b\n").koniec, KoniecPrzebiegu::Zakonczono);
+  EXPECT_EQ(Pominiete(), "1 | z\xB3y | \xAFle\r\n1 | z\xB3y | Bardzo \x9Fle\r\n1 | z\xB3y | Najgorzej\r\n");
+  EXPECT_EQ(Zapisanych(), 2);
+  TVLTBazaDanych inna;
+  inna.UstawPolaczenie(*ParametryPolaczenia::ZTekstu(sciezka));
+  KontekstSesji naNiej{inna, parametry};
+  PrzebiegProbny przebieg(
+      {naNiej, struktura, folder.filePath(u"plik.txt"_s), postep, oper, stop, '.', folder.path()},
+      poRekordzie);
+  EXPECT_EQ(przebieg.Wykonaj().koniec, KoniecPrzebiegu::Odmowa);
+  EXPECT_TRUE(postep.linie.last().contains(u"/POMINIETE.TXT jest plikiem bazy danych"_s));
+  EXPECT_NE(Pominiete(), "");
 }
 
 TEST_F(PrzebiegTest, Przerwanie) {

@@ -1,0 +1,59 @@
+#include "platform/nazwa_pliku.h"
+
+#include <cstdlib>
+#include <memory>
+
+#include <QStringDecoder>
+
+namespace {
+
+constexpr ushort kPierwszyZastepczy = 0xDC00;  // and the byte; never below 0xDC80
+
+// The length of the longest beginning that is valid UTF-8.
+qsizetype DlugoscPoprawnego(QByteArrayView bajty) {
+  for (qsizetype ile = bajty.size(); ile > 0; --ile) {
+    QStringDecoder dekoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString proba = dekoder(bajty.first(ile));
+    if (!dekoder.hasError() && proba.toUtf8() == bajty.first(ile)) return ile;
+  }
+  return 0;
+}
+
+bool Zastepczy(QStringView nazwa, qsizetype i) {
+  const ushort znak = nazwa[i].unicode();
+  return znak >= kPierwszyZastepczy + 0x80 && znak <= kPierwszyZastepczy + 0xFF &&
+         (i == 0 || !nazwa[i - 1].isHighSurrogate());
+}
+
+}  // namespace
+
+QString NazwaZBajtow(const QByteArray& bajty) {
+  QString nazwa;
+  for (QByteArrayView reszta(bajty); !reszta.isEmpty();) {
+    const qsizetype ile = DlugoscPoprawnego(reszta);
+    nazwa += QString::fromUtf8(reszta.first(ile));
+    reszta = reszta.sliced(ile);
+    if (reszta.isEmpty()) break;
+    nazwa += QChar(static_cast<ushort>(kPierwszyZastepczy + static_cast<uchar>(reszta.front())));
+    reszta = reszta.sliced(1);
+  }
+  return nazwa;
+}
+
+QByteArray BajtyNazwy(const QString& nazwa) {
+  QByteArray bajty;
+  qsizetype od = 0;
+  for (qsizetype i = 0; i < nazwa.size(); ++i) {
+    if (!Zastepczy(nazwa, i)) continue;
+    bajty += QStringView(nazwa).mid(od, i - od).toUtf8();
+    bajty += static_cast<char>(nazwa[i].unicode() - kPierwszyZastepczy);
+    od = i + 1;
+  }
+  return bajty + QStringView(nazwa).mid(od).toUtf8();
+}
+
+QString SciezkaBezDowiazan(const QString& sciezka) {
+  const std::unique_ptr<char, decltype(&std::free)> cel(realpath(BajtyNazwy(sciezka).constData(), nullptr),
+                                                        &std::free);
+  return cel ? NazwaZBajtow(cel.get()) : sciezka;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// File names. The system's are bytes, the program's are texts: a name that is not valid UTF-8 would be lost
+// on the way from one to the other. A byte that cannot be decoded becomes a low surrogate of its own (U+DC80
+// to U+DCFF), which no valid text holds, and goes back to the byte. Qt's own functions do not know such
+// names: files are opened and looked at through BajtyNazwy.
+QString NazwaZBajtow(const QByteArray& bajty);
+QByteArray BajtyNazwy(const QString& nazwa);
+
+// The path behind all links; the path itself when it leads to nothing.
+QString SciezkaBezDowiazan(const QString& sciezka);

@@ -1,0 +1,71 @@
+#include "platform/otwarcie_pliku.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/nazwa_pliku.h"
+
+namespace {
+
+// Gives the descriptor to the object, which closes it.
+std::optional<QString> Przejmij(QFile& plik, const QString& sciezka, int deskryptor,
+                                QIODevice::OpenMode tryb) {
+  plik.setFileName(sciezka);
+  if (plik.open(deskryptor, tryb | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) return std::nullopt;
+  close(deskryptor);
+  return plik.errorString();
+}
+
+std::optional<QString> Odmow(int deskryptor, int blad) {
+  if (deskryptor >= 0) close(deskryptor);
+  return qt_error_string(blad);
+}
+
+}  // namespace
+
+std::optional<QString> OtworzPlik(QFile& plik, const QString& sciezka, SposobOtwarcia sposob) {
+  plik.close();
+  const QByteArray nazwa = BajtyNazwy(sciezka);
+  int flagi = O_CLOEXEC | O_NOCTTY;
+  QIODevice::OpenMode tryb = QIODevice::ReadOnly;
+  switch (sposob) {
+    case SposobOtwarcia::Odczyt:
+      flagi |= O_RDONLY | O_NONBLOCK;
+      break;
+    case SposobOtwarcia::Zapis:
+      flagi |= O_WRONLY | O_CREAT | O_TRUNC;
+      tryb = QIODevice::WriteOnly;
+      break;
+    case SposobOtwarcia::Modyfikacja:
+      flagi |= O_RDWR | O_CREAT;
+      tryb = QIODevice::ReadWrite;
+      break;
+  }
+  const int deskryptor = open(nazwa.constData(), flagi, 0666);
+  if (deskryptor < 0) return Odmow(deskryptor, errno);
+  struct stat opis;
+  if (fstat(deskryptor, &opis) != 0) return Odmow(deskryptor, errno);
+  if (S_ISDIR(opis.st_mode)) return Odmow(deskryptor, EISDIR);
+  if (sposob == SposobOtwarcia::Odczyt && !S_ISREG(opis.st_mode)) return Odmow(deskryptor, ESPIPE);
+  return Przejmij(plik, sciezka, deskryptor, tryb);
+}
+
+std::optional<QString> OtworzNaNowo(QFile& plik, const QString& sciezka) {
+  plik.close();
+  const QByteArray nazwa = BajtyNazwy(sciezka);
+  struct stat opis;
+  if (lstat(nazwa.constData(), &opis) == 0 &&
+      (S_ISLNK(opis.st_mode) || (S_ISREG(opis.st_mode) && opis.st_nlink > 1)) &&
+      unlink(nazwa.constData()) != 0)
+    return Odmow(-1, errno);
+  const int deskryptor =
+      open(nazwa.constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, 0666);
+  if (deskryptor < 0 || fstat(deskryptor, &opis) != 0) return Odmow(deskryptor, errno);
+  // Emptied only when it is known to be nobody else's.
+  if (!S_ISREG(opis.st_mode) || opis.st_nlink != 1) return Odmow(deskryptor, EEXIST);
+  if (ftruncate(deskryptor, 0) != 0) return Odmow(deskryptor, errno);
+  return Przejmij(plik, sciezka, deskryptor, QIODevice::WriteOnly);
+}

@@ -1,0 +1,95 @@
+#include "platform/tozsamosc_pliku.h"
+
+#include <array>
+#include <climits>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/nazwa_pliku.h"
+
+namespace {
+
+constexpr int kNajwiecejDowiazan = 40;  // as the system counts them
+
+struct Rozlozona {
+  QString folder, nazwa;
+};
+
+Rozlozona Rozloz(const QString& sciezka) {
+  const qsizetype ukosnik = sciezka.lastIndexOf(u'/');
+  if (ukosnik < 0) return {QStringLiteral("."), sciezka};
+  return {sciezka.left(ukosnik + 1), sciezka.mid(ukosnik + 1)};
+}
+
+// Where a link leads; empty when the path is none.
+QString CelDowiazania(const QString& sciezka) {
+  std::array<char, PATH_MAX> cel;
+  const ssize_t ile = readlink(BajtyNazwy(sciezka).constData(), cel.data(), cel.size());
+  if (ile <= 0) return {};
+  const QString tekst = NazwaZBajtow(QByteArray(cel.data(), ile));
+  return tekst.startsWith(u'/') ? tekst : Rozloz(sciezka).folder + u'/' + tekst;
+}
+
+}  // namespace
+
+RodzajPliku RodzajPlikuSciezki(const QString& sciezka) {
+  struct stat opis;
+  if (stat(BajtyNazwy(sciezka).constData(), &opis) != 0) return RodzajPliku::Brak;
+  switch (opis.st_mode & S_IFMT) {
+    case S_IFREG:
+      return RodzajPliku::Zwykly;
+    case S_IFDIR:
+      return RodzajPliku::Folder;
+    case S_IFIFO:
+      return RodzajPliku::Potok;
+    case S_IFCHR:
+    case S_IFBLK:
+      return RodzajPliku::Urzadzenie;
+    default:
+      return RodzajPliku::Inny;
+  }
+}
+
+QString CzymJest(RodzajPliku rodzaj) {
+  switch (rodzaj) {
+    case RodzajPliku::Folder:
+      return QStringLiteral("folderem");
+    case RodzajPliku::Potok:
+      return QStringLiteral("potokiem");
+    case RodzajPliku::Urzadzenie:
+      return QStringLiteral("urządzeniem");
+    case RodzajPliku::Inny:
+      return QStringLiteral("obiektem systemu");
+    case RodzajPliku::Brak:
+    case RodzajPliku::Zwykly:
+      break;
+  }
+  return {};
+}
+
+std::optional<TozsamoscPliku> TozsamoscPliku::Sciezki(const QString& sciezka) {
+  QString dokad = sciezka;
+  for (int i = 0; i < kNajwiecejDowiazan; ++i) {
+    struct stat opis;
+    if (stat(BajtyNazwy(dokad).constData(), &opis) == 0) return TozsamoscPliku(opis.st_dev, opis.st_ino);
+    const QString dalej = CelDowiazania(dokad);
+    if (dalej.isEmpty()) return Miejsca(dokad);
+    dokad = dalej;  // a link to a file that is not there yet
+  }
+  return std::nullopt;
+}
+
+std::optional<TozsamoscPliku> TozsamoscPliku::Miejsca(const QString& sciezka) {
+  const Rozlozona czesci = Rozloz(sciezka);
+  struct stat folder;
+  if (czesci.nazwa.isEmpty() || stat(BajtyNazwy(czesci.folder).constData(), &folder) != 0)
+    return std::nullopt;
+  return TozsamoscPliku(folder.st_dev, folder.st_ino, czesci.nazwa);
+}
+
+std::optional<TozsamoscPliku> TozsamoscPliku::Otwartego(int deskryptor) {
+  struct stat opis;
+  if (fstat(deskryptor, &opis) != 0) return std::nullopt;
+  return TozsamoscPliku(opis.st_dev, opis.st_ino);
+}
