@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/nazwa_pliku.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -83,6 +85,12 @@ const Opcja& ZnajdzOpcje(const QString& nazwa) {
 
 std::span<const Opcja> TabelaOpcji() {
   return kOpcje;
+}
+
+QStringList SlowaWierszaPolecen(int argc, const char* const* argv) {
+  QStringList slowa;
+  for (int i = 1; i < argc; ++i) slowa << NazwaZBajtow(argv[i]);
+  return slowa;
 }
 
 WynikRozbioru RozbierzArgumenty(const QStringList& slowa) {

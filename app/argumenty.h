@@ -54,7 +54,10 @@ struct Opcja {
 
 std::span<const Opcja> TabelaOpcji();
 
-// Takes the words of the command line, without the program's name, apart: "--option value" or
+// The words of the command line without the program's name. Names of files keep the bytes that are no UTF-8.
+QStringList SlowaWierszaPolecen(int argc, const char* const* argv);
+
+// Takes the words of the command line apart: "--option value" or
 // "--option=value", in any order with the command and its file; "--" ends the options. Throws BladUzycia.
 struct WynikRozbioru {
   Argumenty argumenty;

@@ -1,7 +1,5 @@
 #include "app/operacje.h"
 
-#include <QFileInfo>
-
 #include "app/argumenty.h"
 #include "app/postep_terminala.h"
 #include "app/przerwanie.h"
@@ -10,6 +8,7 @@
 #include "model/bufor_towarow.h"
 #include "model/kontekst.h"
 #include "platform/liczby.h"
+#include "platform/tozsamosc_pliku.h"
 #include "run/operator.h"
 #include "run/przebieg.h"
 #include "ustawienia/kontrola_struktury.h"
@@ -116,7 +115,7 @@ QString Podsumowanie(const Operacja& operacja, const OpisKonca& koniec, const Wy
                .arg(ile(Licznik::Poprawione))
                .arg(ile(Licznik::Pominiete))
                .arg(ile(Licznik::BezZmian));
-  if (QFileInfo(wynik.plikPominietych).size() > 0)
+  if (RozmiarPliku(wynik.plikPominietych) > 0)
     tekst += u"Pominięte rekordy: %1\n"_s.arg(wynik.plikPominietych);
   return tekst;
 }

@@ -111,7 +111,7 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName(u"zorvik"_s);
   QCoreApplication::setApplicationVersion(QStringLiteral(ZORVIK_WERSJA));
   try {
-    return static_cast<int>(Uruchom(QCoreApplication::arguments().mid(1)));
+    return static_cast<int>(Uruchom(SlowaWierszaPolecen(argc, argv)));
   } catch (const BladUzycia& blad) {
     terminal::WypiszBlad(blad.tekst + u"\nPomoc: zorvik --help\n"_s);
     return static_cast<int>(StatusWyjscia::BledneUzycie);

@@ -7,6 +7,7 @@
 
 #include <langinfo.h>
 
+#include "app/argumenty.h"
 #include "app/polecenia.h"
 #include "app/przerwanie.h"
 #include "app/terminal.h"
@@ -28,7 +29,7 @@ int main(int argc, char** argv) {
   const QCoreApplication program(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("zorvik"));
   przerwanie::Przechwyc();
-  const StatusWyjscia status = WykonajWierszPolecen(QCoreApplication::arguments().mid(1));
+  const StatusWyjscia status = WykonajWierszPolecen(SlowaWierszaPolecen(argc, argv));
   if (std::ferror(stdout) == 0) return static_cast<int>(status);
   terminal::WypiszBlad(QStringLiteral("Błąd zapisu na standardowe wyjście\n"));
   return static_cast<int>(StatusWyjscia::Blad);

@@ -47,12 +47,14 @@ class Czytnik {
 
   // Opens the file and looks whether its content can be what the structure says.
   virtual std::optional<Komunikat> Otworz(const QString& sciezka) = 0;
-  // Refuses a dBase file that lacks a column of the field list; other layouts name no columns.
+  // Refuses a dBase file that lacks a column of the field list or holds in it what is no text; other layouts
+  // name no columns.
   virtual std::optional<Komunikat> SprawdzPola() const { return std::nullopt; }
 
   // Gets the position (in units of Rozmiar) now and then; returns false to stop.
   using Postep = std::function<bool(qint64 pozycja)>;
-  // Looks through the whole file, counts what Nastepny will return as records, and rewinds. Lines that are
+  // Looks through the whole file, decides whether it can be written in an 8-bit page, counts what Nastepny will
+  // return as records, and rewinds. Lines that are
   // not records (comments, empty lines, the skipped first line) are not counted; deleted dBase records are.
   virtual WynikLiczenia Policz(const Postep& postep) = 0;
 

@@ -25,8 +25,13 @@ class CzytnikDBase final : public Czytnik {
   struct Kolumna {
     int pole;  // -1 for an unreadable number
     QString nazwa;
-    int indeks = -1;  // in the opened file
+    int indeks = -1;      // in the opened file
+    std::string bezCr{};  // holds the value when it had to be changed
   };
+  // Whether the column feeds a field; others are passed over.
+  bool Czytana(const Kolumna& kolumna) const;
+  void Przewin();
+
   const StrukturaPliku m_struktura;
   PlikDBase m_plik;
   RegulyPol m_reguly;

@@ -17,8 +17,8 @@ std::optional<Komunikat> CzytnikTekstowy::Otworz(const QString& sciezka) {
   m_blad.reset();
   if (auto odmowa = OdmowaPlikuImportu(sciezka)) return odmowa;
   if (!m_plik.Open(sciezka, TMFile::Tryb::Odczyt)) return KomunikatBladOtwarcia(sciezka);
-  if (const std::optional<QString> odmowa = RozpoznajPlik(sciezka))
-    return Komunikat{QStringLiteral("BŁĄD"), *odmowa};
+  if (const RodzajTresci rodzaj = RozpoznajPlik(sciezka); rodzaj != RodzajTresci::Tekst)
+    return Komunikat{QStringLiteral("BŁĄD"), OpisTresci(rodzaj, sciezka)};
   Przewin();
   return std::nullopt;
 }
@@ -35,6 +35,7 @@ WynikLiczenia CzytnikTekstowy::Policz(const Postep& postep) {
   WynikLiczenia wynik;
   m_ocenaStrony = {};
   Przewin();
+  m_utf8.emplace();
   std::string_view linia;
   qint64 linii = 0;
   for (;;) {
@@ -49,6 +50,9 @@ WynikLiczenia CzytnikTekstowy::Policz(const Postep& postep) {
       break;
     }
   }
+  if (!m_blad && !wynik.przerwano && m_utf8->JestUtf8())
+    Zglos(OpisTresci(RodzajTresci::Utf8, m_plik.FileName()));
+  m_utf8.reset();
   wynik.odmowa = m_blad;
   Przewin();
   return wynik;
@@ -66,6 +70,8 @@ WynikCzytania CzytnikTekstowy::WczytajFizyczna(std::string_view& linia) {
   if (m_plik.NapotkanoZero()) return Zglos(OpisTresci(RodzajTresci::BajtyZerowe, m_plik.FileName()));
   switch (wynik) {
     case TMFile::WynikLinii::Linia:
+      if (m_utf8) m_utf8->Dodaj(linia);
+      linia = BezSamotnychCr(linia, m_bezCr);
       return WynikCzytania::Rekord;
     case TMFile::WynikLinii::Koniec:
       return WynikCzytania::Koniec;

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "exchange/czytnik.h"
+#include "exchange/rozpoznanie_tresci.h"
 #include "platform/plik_tekstowy.h"
 
 // What the three text layouts share: the file, the skipped first line, comments, counting, and refusing what
@@ -39,6 +42,8 @@ class CzytnikTekstowy : public Czytnik {
   WynikCzytania Zglos(const QString& tekst);
 
   TMFile m_plik;
+  std::optional<LicznikUtf8> m_utf8;  // while the file is looked through
+  std::string m_bezCr;
   bool m_pomijaPierwsza;
   bool m_przedPierwsza = true;
   qint64 m_numerLinii = 0;

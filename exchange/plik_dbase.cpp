@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 #include "platform/otwarcie_pliku.h"
 #include "platform/tozsamosc_pliku.h"
@@ -14,6 +15,7 @@ constexpr size_t kDlugoscNazwy = 11;
 constexpr size_t kBajtTypu = 11;
 constexpr size_t kBajtDlugosci = 16;
 constexpr char kKoniecOpisow = '\x0D';
+constexpr char kKoniecPliku = '\x1A';
 constexpr qint64 kBlok = 256 * 1024;
 
 qint64 Slowo16(const char* bajty) {
@@ -35,7 +37,7 @@ bool PlikDBase::Open(const QString& sciezka, bool tylkoOdczyt) {
   Close();
   m_blad.reset();
   if (RodzajPlikuSciezki(sciezka) == RodzajPliku::Brak) return false;
-  m_plik.setFileName(sciezka);
+  m_sciezka = sciezka;
   if (const auto powod =
           OtworzPlik(m_plik, sciezka, tylkoOdczyt ? SposobOtwarcia::Odczyt : SposobOtwarcia::Modyfikacja))
     return Odmowa(*powod);
@@ -52,8 +54,8 @@ void PlikDBase::Close() {
 }
 
 bool PlikDBase::Odmowa(const QString& powod) {
-  m_blad = Komunikat{QStringLiteral("BŁĄD"), QStringLiteral("Nie można czytać pliku dBase ") +
-                                                 m_plik.fileName() + QStringLiteral("\n") + powod};
+  m_blad = Komunikat{QStringLiteral("BŁĄD"), QStringLiteral("Nie można czytać pliku dBase ") + m_sciezka +
+                                                 QStringLiteral("\n") + powod};
   return false;
 }
 
@@ -77,14 +79,15 @@ bool PlikDBase::WczytajNaglowek() {
   if (m_dlugoscNaglowka > m_plik.size())
     return Odmowa(QStringLiteral("Nagłówek (%1 bajtów) jest dłuższy niż plik").arg(m_dlugoscNaglowka));
   if (!WczytajPola(ilePol)) return false;
+  if (!UzgodnijDlugosci()) return false;
   // A file that ends with its header lacks even the byte that ends a file.
   m_rekordow = std::max<qint64>(0, (m_plik.size() - 1 - m_dlugoscNaglowka) / m_dlugoscRekordu);
+  while (m_rekordow > 0 && RekordJestKoncemPliku(m_rekordow - 1)) --m_rekordow;
   return true;
 }
 
 bool PlikDBase::WczytajPola(qint64 ile) {
   std::array<char, kDlugoscOpisu> opis;
-  size_t od = 1;  // after the deletion byte
   for (qint64 i = 0; i < ile; ++i) {
     if (m_plik.read(opis.data(), kDlugoscOpisu) != kDlugoscOpisu)
       return Odmowa(QStringLiteral("Opisy pól są niepełne"));
@@ -92,10 +95,44 @@ bool PlikDBase::WczytajPola(qint64 ile) {
     if (koniec == opis.begin() || opis[0] == kKoniecOpisow) break;
     if (i == kNajwiecejPol) return Odmowa(QStringLiteral("Plik ma więcej niż %1 pól").arg(kNajwiecejPol));
     const auto dlugosc = static_cast<unsigned char>(opis[kBajtDlugosci]);
-    m_pola.push_back({std::string(opis.begin(), koniec), opis[kBajtTypu], od, dlugosc});
-    od += dlugosc;
+    const bool znakowe = opis[kBajtTypu] == 'C';
+    m_pola.push_back({std::string(opis.begin(), koniec), opis[kBajtTypu], 0, dlugosc,
+                      znakowe ? static_cast<size_t>(Slowo16(&opis[kBajtDlugosci])) : dlugosc});
   }
   return !m_pola.empty() || Odmowa(QStringLiteral("Nagłówek nie zawiera opisów pól"));
+}
+
+// The second byte of a character field's length is the number of decimals elsewhere: it counts only when the
+// record says so.
+bool PlikDBase::UzgodnijDlugosci() {
+  const auto suma = [this](size_t Pole::*dlugosc) {
+    return std::accumulate(m_pola.begin(), m_pola.end(), size_t{1},
+                           [dlugosc](size_t ile, const Pole& pole) { return ile + pole.*dlugosc; });
+  };
+  const auto rekord = static_cast<size_t>(m_dlugoscRekordu);
+  if (suma(&Pole::dlugosc) != rekord) {
+    if (suma(&Pole::dlugoscSzeroka) != rekord)
+      return Odmowa(
+          QStringLiteral("Pola zajmują razem %1 bajtów, a rekord ma ich %2, więc nie wiadomo, gdzie "
+                         "zaczynają się wartości; zapisz tabelę ponownie w formacie dBase III")
+              .arg(suma(&Pole::dlugosc))
+              .arg(rekord));
+    for (Pole& pole : m_pola) pole.dlugosc = pole.dlugoscSzeroka;
+  }
+  size_t od = 1;  // after the deletion byte
+  for (Pole& pole : m_pola) {
+    pole.od = od;
+    od += pole.dlugosc;
+  }
+  return true;
+}
+
+// Some programs fill the file up with the byte that ends it.
+bool PlikDBase::RekordJestKoncemPliku(qint64 numer) {
+  std::string bajty(static_cast<size_t>(m_dlugoscRekordu), ' ');
+  return m_plik.seek(m_dlugoscNaglowka + m_dlugoscRekordu * numer) &&
+         m_plik.read(bajty.data(), m_dlugoscRekordu) == m_dlugoscRekordu && bajty.front() == kKoniecPliku &&
+         bajty.find_first_not_of("\x1A\r\n") == std::string::npos;
 }
 
 std::string_view PlikDBase::FieldName(int indeks) const {

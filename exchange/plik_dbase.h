@@ -14,7 +14,8 @@
 // A dBase III table: random access to records, values as the bytes stored in them. Types are not interpreted
 // and nothing is written. Layout: a 32-byte header, a 32-byte descriptor per field, the records (a deletion
 // byte, then the fields without separators), one byte that ends the file. The header's record count is not
-// used, the file's size is.
+// used, the file's size is. The fields must fill the record: a table that is read askew would give wrong values
+// without a word.
 class PlikDBase {
  public:
   static constexpr int kNajwiecejPol = 100;
@@ -32,6 +33,7 @@ class PlikDBase {
   // Empty outside 0 to FieldCount() - 1.
   std::string_view FieldName(int indeks) const;
   char FieldType(int indeks) const;
+  const QString& FileName() const { return m_sciezka; }
   // Index of the first field of that name, without regard to case; -1 when there is none.
   int FieldIndex(std::string_view nazwa) const;
 
@@ -50,13 +52,17 @@ class PlikDBase {
     char typ;
     size_t od;  // from the record's first byte
     size_t dlugosc;
+    size_t dlugoscSzeroka;  // of a character field by two bytes, as some programs write it; of others the same
   };
   bool WczytajNaglowek();
   bool WczytajPola(qint64 ile);
+  bool UzgodnijDlugosci();
+  bool RekordJestKoncemPliku(qint64 numer);
   bool WczytajBlok(qint64 numer);
   bool Odmowa(const QString& powod);
 
   QFile m_plik;
+  QString m_sciezka;
   qint64 m_dlugoscNaglowka = 0;
   qint64 m_dlugoscRekordu = 0;
   qint64 m_rekordow = 0;

@@ -4,6 +4,10 @@
 #include <memory>
 
 #include <QStringDecoder>
+#include <QStringList>
+
+#include <dirent.h>
+#include <unistd.h>
 
 namespace {
 
@@ -50,6 +54,23 @@ QByteArray BajtyNazwy(const QString& nazwa) {
     od = i + 1;
   }
   return bajty + QStringView(nazwa).mid(od).toUtf8();
+}
+
+QString OdszukajNazwe(const QString& sciezka) {
+  const qsizetype nazwa = sciezka.lastIndexOf(u'/') + 1;
+  const QString folder = nazwa > 0 ? sciezka.left(nazwa) : QStringLiteral(".");
+  if (!QStringView(sciezka).mid(nazwa).contains(u'?') || access(BajtyNazwy(sciezka).constData(), F_OK) == 0)
+    return sciezka;
+  const std::unique_ptr<DIR, int (*)(DIR*)> katalog(opendir(BajtyNazwy(folder).constData()), &closedir);
+  QStringList pasujace;
+  while (const dirent* wpis = katalog ? readdir(katalog.get()) : nullptr) {
+    const QString cala = sciezka.left(nazwa) + NazwaZBajtow(wpis->d_name);
+    QString pokazana = cala;
+    for (qsizetype i = 0; i < pokazana.size(); ++i)
+      if (Zastepczy(cala, i)) pokazana[i] = u'?';
+    if (pokazana == sciezka) pasujace << cala;
+  }
+  return pasujace.size() == 1 ? pasujace.constFirst() : sciezka;
 }
 
 QString SciezkaBezDowiazan(const QString& sciezka) {

@@ -10,5 +10,9 @@
 QString NazwaZBajtow(const QByteArray& bajty);
 QByteArray BajtyNazwy(const QString& nazwa);
 
+// The name of a file that a person has typed, who cannot type such bytes: when there is no such file, the one
+// in its folder whose name has a byte of its own for every "?", if there is exactly one.
+QString OdszukajNazwe(const QString& sciezka);
+
 // The path behind all links; the path itself when it leads to nothing.
 QString SciezkaBezDowiazan(const QString& sciezka);

@@ -11,9 +11,7 @@
 namespace {
 
 // Gives the descriptor to the object, which closes it.
-std::optional<QString> Przejmij(QFile& plik, const QString& sciezka, int deskryptor,
-                                QIODevice::OpenMode tryb) {
-  plik.setFileName(sciezka);
+std::optional<QString> Przejmij(QFile& plik, int deskryptor, QIODevice::OpenMode tryb) {
   if (plik.open(deskryptor, tryb | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) return std::nullopt;
   close(deskryptor);
   return plik.errorString();
@@ -50,7 +48,7 @@ std::optional<QString> OtworzPlik(QFile& plik, const QString& sciezka, SposobOtw
   if (fstat(deskryptor, &opis) != 0) return Odmow(deskryptor, errno);
   if (S_ISDIR(opis.st_mode)) return Odmow(deskryptor, EISDIR);
   if (sposob == SposobOtwarcia::Odczyt && !S_ISREG(opis.st_mode)) return Odmow(deskryptor, ESPIPE);
-  return Przejmij(plik, sciezka, deskryptor, tryb);
+  return Przejmij(plik, deskryptor, tryb);
 }
 
 std::optional<QString> OtworzNaNowo(QFile& plik, const QString& sciezka) {
@@ -67,5 +65,5 @@ std::optional<QString> OtworzNaNowo(QFile& plik, const QString& sciezka) {
   // Emptied only when it is known to be nobody else's.
   if (!S_ISREG(opis.st_mode) || opis.st_nlink != 1) return Odmow(deskryptor, EEXIST);
   if (ftruncate(deskryptor, 0) != 0) return Odmow(deskryptor, errno);
-  return Przejmij(plik, sciezka, deskryptor, QIODevice::WriteOnly);
+  return Przejmij(plik, deskryptor, QIODevice::WriteOnly);
 }

@@ -11,7 +11,8 @@ enum class SposobOtwarcia {
   Modyfikacja  // read and written; created if need be, kept
 };
 
-// Opens a file whatever bytes its name is made of, without a buffer. The system's reason when it cannot.
+// Opens a file whatever bytes its name is made of, without a buffer. The object does not know the name, the
+// caller keeps it. The system's reason when it cannot.
 std::optional<QString> OtworzPlik(QFile& plik, const QString& sciezka, SposobOtwarcia sposob);
 
 // Makes the path an empty regular file of one name and opens it for writing: a link of either kind is

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 #include "platform/otwarcie_pliku.h"
 
@@ -9,47 +10,6 @@ namespace {
 
 constexpr size_t kPorcja = 256 * 1024;
 constexpr char kKoniecPliku = '\x1A';
-
-std::string_view BezCr(std::string_view linia) {
-  if (linia.ends_with('\r')) linia.remove_suffix(1);
-  return linia;
-}
-
-bool Sterujacy(char znak) {
-  const auto bajt = static_cast<unsigned char>(znak);
-  const bool odstep = (bajt >= '\t' && bajt <= '\r') || znak == kKoniecPliku;
-  return bajt < 0x20 && !odstep;
-}
-
-// Lower and upper Polish letters in UTF-8.
-constexpr std::string_view kPolskieUtf8 = "ĄĆĘŁŃÓŚŹŻąćęłńóśźż";
-
-// Bytes of the UTF-8 sequence that begins with this one; 0 when none does.
-std::size_t DlugoscSekwencji(unsigned char bajt) {
-  if (bajt < 0x80) return 1;
-  if (bajt >= 0xC2 && bajt <= 0xDF) return 2;
-  if (bajt >= 0xE0 && bajt <= 0xEF) return 3;
-  return bajt >= 0xF0 && bajt <= 0xF4 ? 4 : 0;
-}
-
-// UTF-8 without a mark: every byte beyond ASCII is part of a sequence and Polish letters are among them. A
-// text of an 8-bit page would have to consist of very odd pairs; read as one, every letter would reach the
-// database as two.
-bool JestUtf8(std::string_view tekst) {
-  constexpr int kWystarczy = 2;
-  int polskich = 0;
-  for (std::size_t i = 0; i < tekst.size();) {
-    const std::size_t ile = DlugoscSekwencji(static_cast<unsigned char>(tekst[i]));
-    if (ile == 0) return false;
-    const std::string_view sekwencja = tekst.substr(i, ile);
-    const bool cala = std::all_of(sekwencja.begin() + 1, sekwencja.end(),
-                                  [](char z) { return (static_cast<unsigned char>(z) & 0xC0) == 0x80; });
-    if (!cala) return false;
-    if (sekwencja.size() == 2 && kPolskieUtf8.find(sekwencja) != std::string_view::npos) ++polskich;
-    i += ile;
-  }
-  return polskich >= kWystarczy;
-}
 
 std::optional<QString> Otworz(QFile& plik, const QString& sciezka, TMFile::Tryb tryb) {
   switch (tryb) {
@@ -74,6 +34,7 @@ TMFile::~TMFile() {
 
 bool TMFile::Open(const QString& sciezka, Tryb tryb) {
   Close();
+  m_sciezka = sciezka;
   m_opisBledu.clear();
   m_bladZapisu = m_zero = false;
   m_od = m_do = 0;
@@ -83,7 +44,10 @@ bool TMFile::Open(const QString& sciezka, Tryb tryb) {
     return false;
   }
   m_bufor.clear();
-  if (tryb == Tryb::Odczyt) m_bufor.resize(kPorcja);
+  if (tryb == Tryb::Odczyt) {
+    m_bufor.resize(kPorcja);
+    return ZbadajTekst();
+  }
   if (tryb == Tryb::Dopisywanie) {
     m_poczatekBufora = m_plik.size();
     if (!m_plik.seek(m_poczatekBufora)) return Blad();
@@ -106,6 +70,47 @@ bool TMFile::Blad() {
   return false;
 }
 
+// Bytes 1A at the end, with line ends among them, are the end of a file as old systems knew it.
+qint64 TMFile::KoniecTekstu() {
+  qint64 koniec = m_plik.size();
+  for (qint64 od = koniec; od > 0;) {
+    const qint64 ile = std::min<qint64>(od, kPorcja);
+    od -= ile;
+    if (!m_plik.seek(od) || m_plik.read(m_bufor.data(), ile) != ile) break;
+    for (qint64 i = ile - 1; i >= 0; --i) {
+      const char znak = m_bufor[static_cast<size_t>(i)];
+      if (znak == kKoniecPliku) koniec = od + i;
+      if (znak != kKoniecPliku && znak != '\r' && znak != '\n') return koniec;
+    }
+  }
+  return koniec;
+}
+
+// CR alone ends the lines when there is no LF anywhere.
+char TMFile::ZnakKoncaLinii() {
+  bool cr = false;
+  for (qint64 od = 0; od < m_koniec && (cr || od <= kNajdluzszaLinia);) {
+    const qint64 ile =
+        m_plik.seek(od) ? m_plik.read(m_bufor.data(), std::min<qint64>(kPorcja, m_koniec - od)) : 0;
+    if (ile <= 0) break;
+    if (std::memchr(m_bufor.data(), '\n', static_cast<size_t>(ile)) != nullptr) return '\n';
+    cr = cr || std::memchr(m_bufor.data(), '\r', static_cast<size_t>(ile)) != nullptr;
+    od += ile;
+  }
+  return cr ? '\r' : '\n';
+}
+
+bool TMFile::ZbadajTekst() {
+  m_koniec = KoniecTekstu();
+  m_koniecLinii = ZnakKoncaLinii();
+  return m_plik.seek(0) || Blad();
+}
+
+std::string_view TMFile::BezCr(std::string_view linia) const {
+  if (m_koniecLinii == '\n' && linia.ends_with('\r')) linia.remove_suffix(1);
+  return linia;
+}
+
 TMFile::Doczytanie TMFile::Doczytaj() {
   // Keep the begun line at the front of the buffer; grow only when it fills the buffer.
   if (m_od > 0) {
@@ -115,31 +120,32 @@ TMFile::Doczytanie TMFile::Doczytaj() {
     m_od = 0;
   }
   if (m_bufor.size() - m_do < kPorcja / 2) m_bufor.resize(m_bufor.size() + kPorcja);
-  const qint64 ile = m_plik.read(m_bufor.data() + m_do, static_cast<qint64>(m_bufor.size() - m_do));
-  if (ile < 0) {
+  const qint64 zostalo = m_koniec - m_poczatekBufora - static_cast<qint64>(m_do);
+  if (zostalo == 0) return Doczytanie::Koniec;
+  const qint64 ile =
+      m_plik.read(m_bufor.data() + m_do, std::min(zostalo, static_cast<qint64>(m_bufor.size() - m_do)));
+  if (ile <= 0) {
     Blad();
+    if (ile == 0) m_opisBledu = QStringLiteral("Plik został skrócony w trakcie odczytu");
     return Doczytanie::Blad;
   }
-  if (ile == 0) return Doczytanie::Koniec;
   if (std::memchr(m_bufor.data() + m_do, 0, static_cast<size_t>(ile)) != nullptr) m_zero = true;
   m_do += static_cast<size_t>(ile);
   return Doczytanie::Jest;
 }
 
 TMFile::WynikLinii TMFile::OstatniaLinia(std::string_view& linia) {
-  linia = std::string_view(m_bufor.data() + m_od, m_do - m_od);
+  if (m_od == m_do) return WynikLinii::Koniec;
+  linia = BezCr(std::string_view(m_bufor.data() + m_od, m_do - m_od));
   m_od = m_do;
-  if (linia.ends_with(kKoniecPliku)) linia.remove_suffix(1);
-  if (linia.empty()) return WynikLinii::Koniec;
-  linia = BezCr(linia);
   return WynikLinii::Linia;
 }
 
 TMFile::WynikLinii TMFile::PominDlugaLinie() {
   for (;;) {
-    const void* lf = std::memchr(m_bufor.data() + m_od, '\n', m_do - m_od);
-    if (lf != nullptr) {
-      m_od = static_cast<size_t>(static_cast<const char*>(lf) - m_bufor.data()) + 1;
+    const void* koniec = std::memchr(m_bufor.data() + m_od, m_koniecLinii, m_do - m_od);
+    if (koniec != nullptr) {
+      m_od = static_cast<size_t>(static_cast<const char*>(koniec) - m_bufor.data()) + 1;
       return WynikLinii::ZaDluga;
     }
     m_od = m_do;
@@ -156,9 +162,10 @@ TMFile::WynikLinii TMFile::ReadLine(std::string_view& linia) {
   for (;;) {
     const char* od = m_bufor.data() + m_od;
     const size_t jest = m_do - m_od;
-    const void* lf = jest > przejrzane ? std::memchr(od + przejrzane, '\n', jest - przejrzane) : nullptr;
-    if (lf != nullptr) {
-      const auto dlugosc = static_cast<size_t>(static_cast<const char*>(lf) - od);
+    const void* koniec =
+        jest > przejrzane ? std::memchr(od + przejrzane, m_koniecLinii, jest - przejrzane) : nullptr;
+    if (koniec != nullptr) {
+      const auto dlugosc = static_cast<size_t>(static_cast<const char*>(koniec) - od);
       m_od += dlugosc + 1;
       if (dlugosc > kNajdluzszaLinia) return WynikLinii::ZaDluga;
       linia = BezCr(std::string_view(od, dlugosc));
@@ -210,44 +217,5 @@ qint64 TMFile::Position() const {
 }
 
 qint64 TMFile::Size() const {
-  return m_plik.size();
-}
-
-RodzajTresci RozpoznajTresc(std::string_view poczatek) {
-  if (poczatek.starts_with("\xEF\xBB\xBF")) return RodzajTresci::Utf8;
-  if (poczatek.starts_with("\xFF\xFE") || poczatek.starts_with("\xFE\xFF")) return RodzajTresci::Utf16;
-  if (poczatek.find('\0') != std::string_view::npos) return RodzajTresci::BajtyZerowe;
-  if (JestUtf8(poczatek)) return RodzajTresci::Utf8;
-  // A stray control character is a blemish; a share of them is another kind of file.
-  const auto sterujacych = static_cast<size_t>(std::count_if(poczatek.begin(), poczatek.end(), Sterujacy));
-  return sterujacych * 20 > poczatek.size() ? RodzajTresci::Binarny : RodzajTresci::Tekst;
-}
-
-QString OpisTresci(RodzajTresci rodzaj, const QString& sciezka) {
-  const QString zapisz =
-      QStringLiteral("\nZapisz go jako zwykły tekst w kodowaniu Windows-1250 i spróbuj ponownie");
-  const QString plik = QStringLiteral("Plik ") + sciezka;
-  switch (rodzaj) {
-    case RodzajTresci::Tekst:
-      break;
-    case RodzajTresci::Utf8:
-      return plik + QStringLiteral(" jest zapisany w kodowaniu UTF-8") + zapisz;
-    case RodzajTresci::Utf16:
-      return plik + QStringLiteral(" jest zapisany w kodowaniu UTF-16") + zapisz;
-    case RodzajTresci::BajtyZerowe:
-      return plik + QStringLiteral(" zawiera bajty zerowe, więc nie jest plikiem tekstowym") + zapisz;
-    case RodzajTresci::Binarny:
-      return plik + QStringLiteral(" nie jest plikiem tekstowym") + zapisz;
-  }
-  return {};
-}
-
-std::optional<QString> RozpoznajPlik(const QString& sciezka) {
-  QFile plik;
-  if (OtworzPlik(plik, sciezka, SposobOtwarcia::Odczyt)) return std::nullopt;
-  const QByteArray poczatek = plik.read(64 * 1024);
-  const RodzajTresci rodzaj =
-      RozpoznajTresc(std::string_view(poczatek.constData(), static_cast<size_t>(poczatek.size())));
-  if (rodzaj == RodzajTresci::Tekst) return std::nullopt;
-  return OpisTresci(rodzaj, sciezka);
+  return m_plik.isWritable() ? m_plik.size() : m_koniec;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -37,8 +36,9 @@ class TMFile {
   bool Close();
   bool IsOpen() const { return m_plik.isOpen(); }
 
-  // The next line without its end (LF or CR LF); a 1A that ends the file is no part of it. Valid until the
-  // next call.
+  // The next line without its end: LF or CR LF, in a file without any LF also CR. Bytes 1A that end the file,
+  // with line ends among them, are no part of it; nor is what is written behind the end that Open found. A
+  // file that ends before it is an error. Valid until the next call.
   WynikLinii ReadLine(std::string_view& linia);
   // Whether a zero byte has been met in what was read so far; a text file has none.
   bool NapotkanoZero() const { return m_zero; }
@@ -52,36 +52,32 @@ class TMFile {
 
   bool Rewind();
   qint64 Position() const;
+  // Of a file that is read: up to its end by the bytes 1A.
   qint64 Size() const;
-  QString FileName() const { return m_plik.fileName(); }
+  const QString& FileName() const { return m_sciezka; }
   // The system's words on the last failure.
   const QString& OpisBledu() const { return m_opisBledu; }
 
  private:
   enum class Doczytanie { Jest, Koniec, Blad };
+  bool ZbadajTekst();
+  qint64 KoniecTekstu();
+  char ZnakKoncaLinii();
+  std::string_view BezCr(std::string_view linia) const;
   Doczytanie Doczytaj();
   WynikLinii OstatniaLinia(std::string_view& linia);
   WynikLinii PominDlugaLinie();
   bool Blad();
 
   QFile m_plik;
+  QString m_sciezka;
   std::string m_bufor;          // reading: bytes ahead; writing: bytes not yet written
   size_t m_od = 0;              // first byte of the buffer not yet handed out
   size_t m_do = 0;              // end of the read bytes in the buffer
   qint64 m_poczatekBufora = 0;  // position in the file of the buffer's first byte
+  qint64 m_koniec = 0;          // reading: where the text ends
+  char m_koniecLinii = '\n';
   bool m_zero = false;
   bool m_bladZapisu = false;
   QString m_opisBledu;
 };
-
-// What the beginning of a file says about its text. Utf8: with a mark, or without one when Polish letters
-// show it.
-enum class RodzajTresci { Tekst, Utf8, Utf16, BajtyZerowe, Binarny };
-
-RodzajTresci RozpoznajTresc(std::string_view poczatek);
-
-// Looks at the first 64 KiB of a file: the refusal to show when it cannot be a text in an 8-bit page, nothing
-// when it can. A file that cannot be read is left to the one who opens it.
-std::optional<QString> RozpoznajPlik(const QString& sciezka);
-
-QString OpisTresci(RodzajTresci rodzaj, const QString& sciezka);

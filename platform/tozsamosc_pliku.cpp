@@ -51,6 +51,11 @@ RodzajPliku RodzajPlikuSciezki(const QString& sciezka) {
   }
 }
 
+qint64 RozmiarPliku(const QString& sciezka) {
+  struct stat opis;
+  return stat(BajtyNazwy(sciezka).constData(), &opis) == 0 ? opis.st_size : 0;
+}
+
 QString CzymJest(RodzajPliku rodzaj) {
   switch (rodzaj) {
     case RodzajPliku::Folder:

@@ -11,6 +11,9 @@ RodzajPliku RodzajPlikuSciezki(const QString& sciezka);
 // "folderem", "potokiem"…; empty for a regular file and for none.
 QString CzymJest(RodzajPliku rodzaj);
 
+// 0 where there is no file.
+qint64 RozmiarPliku(const QString& sciezka);
+
 // Which file it is, whatever it is called: device and inode. Two paths to one file are equal through links of
 // both kinds; a path remembered and asked again tells that the file was deleted or another put in its place.
 // Where there is no file yet, it is the place that one would take: the folder and the name in it.

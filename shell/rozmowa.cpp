@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QPushButton>
 
+#include "platform/nazwa_pliku.h"
 #include "platform/wyjatek.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -23,9 +24,10 @@ constexpr NazwaPrzycisku kNazwy[] = {{QMessageBox::Ok, u"&OK"},          {QMessa
 
 constexpr Rozmowa::Przycisk kUcieczki[] = {QMessageBox::Cancel, QMessageBox::No, QMessageBox::Abort};
 
+// The dialog does not list names that are no UTF-8, but takes them typed with "?".
 std::optional<QString> Wybrany(QFileDialog& okno) {
   if (okno.exec() != QDialog::Accepted || okno.selectedFiles().isEmpty()) return std::nullopt;
-  return okno.selectedFiles().constFirst();
+  return OdszukajNazwe(okno.selectedFiles().constFirst());
 }
 
 void Przygotuj(QFileDialog& okno, const Rozmowa::WyborPliku& wybor) {

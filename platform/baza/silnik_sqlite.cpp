@@ -10,6 +10,8 @@
 #include "platform/baza/polaczenie.h"
 #include "platform/baza/polecenie_sqlite.h"
 #include "platform/baza/silnik.h"
+#include "platform/nazwa_pliku.h"
+#include "platform/tozsamosc_pliku.h"
 
 using namespace sqlite_api;  // where SOCI puts SQLite's own header
 
@@ -73,7 +75,7 @@ class SilnikSqlite final : public Silnik {
         m_nazwa(QFileInfo(parametry.cel).completeBaseName()),
         m_numer(NastepnyNumer()) {
     try {
-      m_sesja.open(soci::sqlite3, "db=\"" + parametry.cel.toStdString() +
+      m_sesja.open(soci::sqlite3, "db=\"" + BajtyNazwy(parametry.cel).toStdString() +
                                       "\" timeout=" + std::to_string(parametry.limitBlokadySekund));
     } catch (const soci::soci_error& blad) {
       Rzuc(blad, {});
@@ -162,7 +164,7 @@ std::unique_ptr<Silnik> PolaczSqlite(const ParametryPolaczenia& parametry, const
   if (plik.isEmpty()) odmow(QStringLiteral("Nie wskazano bazy danych"));
   if (plik.contains(QLatin1Char('"')))
     odmow(QStringLiteral("Ścieżka bazy danych nie może zawierać cudzysłowu: ") + plik);
-  if (!parametry.tworz && !QFileInfo(plik).isFile())
+  if (!parametry.tworz && RodzajPlikuSciezki(plik) != RodzajPliku::Zwykly)
     odmow(QStringLiteral("Nie ma pliku bazy danych ") + plik);
   auto silnik = std::make_unique<SilnikSqlite>(parametry, podsluch);
   silnik->Skonfiguruj(parametry);

@@ -14,6 +14,7 @@
 #include "exchange/czytnik.h"
 #include "model/kontekst.h"
 #include "platform/liczby.h"
+#include "platform/nazwa_pliku.h"
 #include "platform/wyjatek.h"
 #include "shell/dialogi/dialogi.h"
 #include "shell/kontrolki/pasek_przyciskow.h"
@@ -45,7 +46,9 @@ QLatin1String Nazwa(std::string_view nazwa) {
 // The one local file that is dragged; empty when it is anything else.
 QString PrzeciaganyPlik(const QMimeData& dane) {
   const QList<QUrl> adresy = dane.urls();
-  return adresy.size() == 1 ? adresy.constFirst().toLocalFile() : QString();
+  if (adresy.size() != 1 || !adresy.constFirst().isLocalFile()) return {};
+  return NazwaZBajtow(
+      QByteArray::fromPercentEncoding(adresy.constFirst().path(QUrl::FullyEncoded).toLatin1()));
 }
 
 // What the run would say of the file first of all.

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QRegularExpression>
 
+#include "platform/otwarcie_pliku.h"
 #include "platform/windows1250.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -66,8 +67,8 @@ class Grupowanie {
 }  // namespace
 
 std::optional<ListaPominietych> WczytajPominiete(const QString& plik) {
-  QFile wejscie(plik);
-  if (!wejscie.open(QIODevice::ReadOnly)) return std::nullopt;
+  QFile wejscie;
+  if (OtworzPlik(wejscie, plik, SposobOtwarcia::Odczyt)) return std::nullopt;
   const QByteArray tresc = wejscie.readAll();
   ListaPominietych lista;
   Grupowanie grupowanie(lista);

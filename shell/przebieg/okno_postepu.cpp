@@ -1,11 +1,11 @@
 #include "shell/przebieg/okno_postepu.h"
 
-#include <QFileInfo>
 #include <QShowEvent>
 #include <QTimer>
 
 #include <ui_okno_postepu.h>
 
+#include "platform/tozsamosc_pliku.h"
 #include "robotnik/stan_przebiegu.h"
 #include "shell/przebieg/okno_pominietych.h"
 #include "shell/przebieg/okno_uwag.h"
@@ -58,7 +58,7 @@ void Tfrm_progress::PokazWynik(const WynikPrzebiegu& wynik) {
   m_uwagi = wynik.uwagi;
   m_ui->uwagi->setText(u"&Uwagi (%1)..."_s.arg(m_uwagi.size()));
   m_ui->uwagi->setVisible(!m_uwagi.empty());
-  m_ui->pominiete->setVisible(QFileInfo(m_plikPominietych).size() > 0);
+  m_ui->pominiete->setVisible(RozmiarPliku(m_plikPominietych) > 0);
 }
 
 // A window that is only minimised goes on.

@@ -1,3 +1,7 @@
+#include <fstream>
+
+#include "platform/nazwa_pliku.h"
+#include "platform/tozsamosc_pliku.h"
 #include "platform/windows1250.h"
 #include "tests/end_to_end/pliki_towarow.h"
 
@@ -83,6 +87,27 @@ TEST(ImportCaly, CzteryUkladyDajaTeSamaBaze) {
   }
 }
 
+// The shell makes the name: Qt could not hand it to a program.
+TEST(ImportCaly, NazwaPlikuKtoraNieJestUtf8) {
+  const Stanowisko s;
+  const QString nazwa = u"cennik \xDCB3\xDCB9.txt"_s;
+  std::ofstream((s.Sciezka(QString()).toStdString() + BajtyNazwy(nazwa).toStdString())) << DuzyPlik(3);
+  const auto uruchom = [&](const QString& polecenie) {
+    QProcess powloka;
+    powloka.setWorkingDirectory(s.Sciezka(QString()));
+    powloka.start(u"/bin/sh"_s, {u"-c"_s, u"exec " ZORVIK_CLI " "_s + polecenie + u" --baza "_s +
+                                              Stanowisko::Baza() + u" --pominiete ."_s});
+    return Stanowisko::Zakoncz(powloka);
+  };
+  EXPECT_EQ(uruchom(u"import-towarow \"$(printf 'cennik \\263\\271.txt')\""_s).status, 0);
+  EXPECT_EQ(s.Towarow(), 3);
+  const Wynik brak = uruchom(u"import-towarow \"$(printf 'brak \\263')\""_s);
+  EXPECT_EQ(brak.status, 3);
+  EXPECT_TRUE(brak.bledy.contains(u" nie istnieje"_s)) << brak.bledy.toStdString();
+  EXPECT_EQ(uruchom(u"eksport-towarow \"$(printf 'nowy \\263')\""_s).status, 0);
+  EXPECT_GT(RozmiarPliku(s.Sciezka(QString()) + u"nowy \xDCB3"_s), 0);
+}
+
 TEST(ImportCaly, ZlyPlikJestOdrzuconyZPowodem) {
   const std::string dobry = DuzyPlik(3);
   const std::string dbase = PlikTowarow(kTowary, TypPliku::DBase, StronaKodowa::Windows);
@@ -111,6 +136,11 @@ TEST(ImportCaly, ZlyPlikJestOdrzuconyZPowodem) {
       {"nagłówek za plikiem", TypPliku::DBase, zmieniony(8, "\xFF\xFF"), u"Nagłówek"_s},
       {"ponad 100 pól", TypPliku::DBase, wielePol + dbase, u"więcej niż 100 pól"_s},
       {"sam początek", TypPliku::DBase, dbase.substr(0, 20), u"krótszy niż nagłówek"_s},
+      {"tekst zamiast dBase", TypPliku::DBase, dobry, u"wygląda na plik w formacie programu Zorvik"_s},
+      {"dBase zamiast tekstu", TypPliku::Rozdzielany, dbase, u"wygląda na plik formatu DBase III"_s},
+      {"pola nie zgadzają się z rekordem", TypPliku::DBase, zmieniony(32 + 16, "\x01"),
+       u"Pola zajmują razem"_s},
+      {"typ M", TypPliku::DBase, zmieniony(32 + 11, "M"), u" ma typ M (notatka)"_s},
       {"brak pola", TypPliku::DBase, zmieniony(32, "INNE"), u"W importowanym pliku brak pola: pole0"_s},
   };
   const Stanowisko s;

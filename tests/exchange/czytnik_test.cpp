@@ -44,6 +44,12 @@ TEST(CzytnikRozdzielany, LinieIPola) {
                {u"0=1|1=2?2/3"_s, u"0=1|1=2?2/3"_s, u"0=1|1=2"_s}},
               {"quoted text is split", {u"00"_s, u"01"_s, u"02"_s}, "\"a;b\";\"c\"", {u"0=a|1=b\"|2=c"_s}},
               {"qualifier alone", {u"00"_s, u"01"_s, u"02"_s}, "\";\"\";\"\"\"", {u"2=\""_s}},
+              {"lone CR", {u"00"_s, u"01"_s}, "1;a\rb\r;\r\n\r2;c\n", {u"0=1|1=a b"_s, u"0=2|1=c"_s}},
+              {"CR alone ends lines",
+               {u"00"_s, u"01"_s},
+               "1;a\r#\r\r2;c\r\x1A\r",
+               {u"0=1|1=a"_s, u"-"_s, u"-"_s, u"0=2|1=c"_s}},
+              {"1A at the end", {u"00"_s}, "1\r\n\x1A\r\n\x1A", {u"0=1"_s}},
               {"tab in a value", {u"00"_s, u"01"_s}, "1;a\tb", {u"0=1|1=a b"_s}},
               {"last one wins", {u"06"_s, u"06"_s}, "a;b", {u"6=b"_s}},
           });
@@ -191,6 +197,10 @@ TEST(CzytnikSzerokosci, Kolumny) {
       {
           {"widths", {u"003"_s, u"325"_s, u"0110"_s}, "123--x--Chleb  ;", {u"0=123|1=Chleb  ;"_s}},
           {"short line", {u"003"_s, u"013"_s, u"063"_s}, "123\n1234", {u"0=123?1/3"_s, u"0=123|1=4?2/3"_s}},
+          {"lone CR keeps its place, 1A is nothing",
+           {u"003"_s, u"013"_s},
+           "12\r4\r6\n\x1A",
+           {u"0=12|1=4 6"_s}},
           {"no width", {u"00x"_s, u"01-2"_s, u"0699999"_s}, "abc", {u"6=abc"_s}},
       });
 }
@@ -203,6 +213,8 @@ TEST(CzytnikWlasny, KazdaLiniaPrawieJestRekordem) {
                  {"header only", {}, "Kod", {}},
                  {"nothing at all", {}, "", {}},
                  {"comments, no qualifier", {}, "Kod\n#x\n\"5\"" + tab30 + "\n", {u"-"_s, u"0=\"5\""_s}},
+                 {"1A CR LF, lone CR", {}, "Kod\n5\ta\rb" + tab30 + "\n\x1A\r\n", {u"0=5|1=a b"_s}},
+                 {"CR alone ends lines", {}, "Kod\r5\r\r\r", {u"0=5?1/31"_s}},
                  {"empty lines", {}, "Kod\n\n\n//\n\n\n\n", {u"?1/31"_s, u"?1/31"_s, u"-"_s}},
                  {"last piece stands in Windows-1250", {}, "Kod\n\x88\t\x88", {u"0=ł|1=\u0088?2/31"_s}},
              });

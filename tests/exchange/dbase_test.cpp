@@ -42,12 +42,18 @@ TEST(PlikDBase, LiczbaRekordowZRozmiaru) {
       {{.pola = kPola, .rekordy = {" 0001aaaaaa", " 0002bbbbbb"}, .koniec = ""}, 1},
       {{.pola = kPola, .rekordy = {" 0001aaaaaa", " 0002bb"}}, 1},
       {{.pola = kPola, .rekordy = {}}, 0},
-      {{.pola = kPola, .rekordy = {}, .dlugoscRekordu = 1, .koniec = ""}, 0},
-      {{.pola = kPola, .rekordy = {std::string(5000, ' ')}, .dlugoscRekordu = 5000}, 1},
-      {{.pola = std::vector(100, std::pair<std::string, int>("A", 255)),
-        .rekordy = {std::string(50, ' ')},
-        .dlugoscRekordu = 50},
+      {{.pola = kPola, .rekordy = {}, .koniec = ""}, 0},
+      {{.pola = {{"A", 4999}}, .rekordy = {std::string(5000, ' ')}}, 1},
+      {{.pola = std::vector(100, std::pair<std::string, int>("A", 49)), .rekordy = {std::string(4901, ' ')}},
        1},
+      // A file filled up with its last byte; a record that only begins with one.
+      {{.pola = kPola, .rekordy = {" 0001aaaaaa", " 0002bbbbbb"}, .koniec = std::string(40, '\x1A') + "\r\n"},
+       2},
+      {{.pola = kPola,
+        .rekordy = {" 0001aaaaaa",
+                    "\x1A"
+                    "0002bbbbbb"}},
+       2},
   };
   for (const auto& p : przypadki) {
     PlikDBase plik;
@@ -70,6 +76,10 @@ TEST(PlikDBase, NaglowekNieBudziZaufania) {
        u"nie zawiera opisów"_s},
       {Tabela{.pola = std::vector(101, std::pair<std::string, int>("A", 1))}.Bajty(),
        u"więcej niż 100 pól"_s},
+      {Tabela{.pola = kPola, .dlugoscRekordu = 12}.Bajty(),
+       u"Pola zajmują razem 11 bajtów, a rekord ma ich 12"_s},
+      {Tabela{.pola = {{"A", 300}}, .typy = "N"}.Bajty(),
+       u"Pola zajmują razem 45 bajtów, a rekord ma ich 301"_s},
       {"abc", u"krótszy niż nagłówek"_s},
   };
   for (const auto& p : przypadki) {
@@ -77,6 +87,7 @@ TEST(PlikDBase, NaglowekNieBudziZaufania) {
     EXPECT_FALSE(plik.Open(PlikProbny(p.bajty).Sciezka()));
     ASSERT_TRUE(plik.Blad()) << p.powod.toStdString();
     EXPECT_TRUE(plik.Blad()->tekst.contains(p.powod)) << plik.Blad()->tekst.toStdString();
+    EXPECT_EQ(plik.Blad()->tekst.contains(u"/plik\n"_s), plik.Blad()->naglowek == u"BŁĄD"_s);
     EXPECT_EQ(plik.RecordCount(), 0);
     EXPECT_FALSE(plik.ReadRecord(0));
   }
@@ -85,13 +96,37 @@ TEST(PlikDBase, NaglowekNieBudziZaufania) {
   EXPECT_FALSE(plik.Blad());
 }
 
-TEST(PlikDBase, PolePozaRekordemJestPuste) {
+// Two bytes of length when the record needs them; otherwise the second one says nothing.
+TEST(PlikDBase, SzerokiePolaZnakowe) {
+  const std::string opis(300, 'o');
   PlikDBase plik;
   ASSERT_TRUE(plik.Open(
-      PlikProbny(Tabela{.pola = kPola, .rekordy = {" 5901Chle"}, .dlugoscRekordu = 9}.Bajty()).Sciezka()));
+      PlikProbny(Tabela{.pola = {{"OPIS", 300}, {"CENA", 4}}, .rekordy = {" " + opis + "7.50"}, .typy = "CN"}
+                     .Bajty())
+          .Sciezka()));
   ASSERT_TRUE(plik.ReadRecord(0));
-  EXPECT_EQ(plik.FieldValue("KOD"), "5901");
-  EXPECT_EQ(plik.FieldValue("NAZWA"), "");
+  EXPECT_EQ(plik.FieldValue("OPIS"), opis);
+  EXPECT_EQ(plik.FieldValue("CENA"), "7.50");
+  std::string bajty = Tabela{.pola = kPola, .rekordy = {" 5901Chleb "}}.Bajty();
+  bajty[32 + 17] = '\x01';
+  ASSERT_TRUE(plik.Open(PlikProbny(bajty).Sciezka()));
+  ASSERT_TRUE(plik.ReadRecord(0));
+  EXPECT_EQ(plik.FieldValue("NAZWA"), "Chleb ");
+}
+
+TEST(CzytnikDBase, TypyKtorychNieMaCzymCzytac) {
+  for (const char typ : std::string("CNFDLMIYBT@O+")) {
+    const std::string bajty =
+        Tabela{.pola = kPola, .rekordy = {" 1   12    "}, .typy = std::string("C") + typ}.Bajty();
+    const StrukturaPliku s = Struktura(RodzajRekordu::Towary, TypPliku::DBase, {u"00KOD"_s, u"06NAZWA"_s});
+    const bool czytelny = std::string("CNFDL").find(typ) != std::string::npos;
+    const QString odczyt = OdczytTresci(s, bajty).join(u' ');
+    EXPECT_TRUE(odczyt.startsWith(czytelny ? u"0=1|6=12"_s
+                                           : u"Kolumna NAZWA ma typ %1 ("_s.arg(QChar::fromLatin1(typ))))
+        << odczyt.toStdString();
+    const StrukturaPliku bez = Struktura(RodzajRekordu::Towary, TypPliku::DBase, {u"00KOD"_s, u"32NAZWA"_s});
+    EXPECT_EQ(OdczytTresci(bez, bajty), QStringList{u"0=1"_s});
+  }
 }
 
 // Records come in blocks of 256 KiB. A table cut off meanwhile is told of and never read as zeros.
@@ -121,6 +156,8 @@ TEST(CzytnikDBase, KolumnyPolImaja) {
   s.CBPolskieZnaki = StronaKodowa::LatinII;
   s.CBNieAnalizujPierwszejLinii = true;
   EXPECT_EQ(OdczytTresci(s, bajty), (QStringList{u"0=5901|1=łuk"_s, u"-"_s, u"0=5903|1=Ser"_s}));
+  EXPECT_EQ(OdczytTresci(s, Tabela{.pola = kPola, .rekordy = {" 5901a\rb\r\nc"}}.Bajty()),
+            QStringList{u"0=5901|1=a b\r\nc"_s});
   s.pola.emplace_back(u"32CENA"_s);
   EXPECT_EQ(OdczytTresci(s, bajty), QStringList{u"W importowanym pliku brak pola: CENA"_s});
 }

@@ -11,6 +11,7 @@ struct Tabela {
   int dlugoscNaglowka = -1;
   int dlugoscRekordu = -1;
   std::string koniec = "\x1A";
+  std::string typy{};  // of the fields from the first on; C for the rest
 
   static std::string Slowo(size_t wartosc) {
     return {static_cast<char>(wartosc & 0xFF), static_cast<char>(wartosc >> 8 & 0xFF)};
@@ -21,8 +22,9 @@ struct Tabela {
     for (const auto& [nazwa, dlugosc] : pola) {
       std::string opis = nazwa;
       opis.resize(32, '\0');
-      opis[11] = 'C';
-      opis[16] = static_cast<char>(dlugosc);
+      const size_t numer = opisy.size() / 32;
+      opis[11] = numer < typy.size() ? typy[numer] : 'C';
+      opis.replace(16, 2, Slowo(static_cast<size_t>(dlugosc)));
       opisy += opis;
       rekord += static_cast<size_t>(dlugosc);
     }

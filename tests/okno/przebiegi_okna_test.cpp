@@ -89,8 +89,9 @@ TEST_F(PrzebiegiOkna, OdmowyPrzedImportemWKolejnosci) {
   Importuj(Sciezka(u"brak.txt"_s));
   EXPECT_EQ(Komunikaty(), QStringList{u"UWAGA: Plik "_s + Sciezka(u"brak.txt"_s) + u" nie istnieje"_s});
   Importuj(folder.path());
-  EXPECT_EQ(Komunikaty(), QStringList{u"UWAGA: Błąd otwarcia pliku "_s + folder.path() +
-                                      u"\nByć może plik jest używany przez inną aplikację"_s});
+  EXPECT_EQ(Komunikaty(),
+            QStringList{u"UWAGA: "_s + folder.path() +
+                        u" jest folderem, a nie plikiem\nZapisz dane w zwykłym pliku i wskaż ten plik"_s});
   rozmowa.pliki.push_back(std::nullopt);
   Polecenie(u"ImportTowMenu"_s);
   EXPECT_TRUE(Komunikaty().isEmpty());
@@ -240,7 +241,11 @@ TEST_F(PrzebiegiOkna, DziesiecPrzebiegowPodRzad) {
 TEST_F(PrzebiegiOkna, PlikUpuszczonyNaStroneImportu) {
   UstawStrukture();
   QMimeData dane;
-  dane.setUrls({QUrl::fromLocalFile(Zapisz(u"upuszczony.txt"_s, Wiersze(3)))});
+  // A name that is no UTF-8 comes as the bytes of an address.
+  const QByteArray plik = QFile::encodeName(Zapisz(u"upuszczony.txt"_s, Wiersze(3)));
+  const QByteArray zmieniony = QByteArray(plik).replace("upuszczony", "upuszczon\xB3");
+  ASSERT_EQ(rename(plik.constData(), zmieniony.constData()), 0);
+  dane.setUrls({QUrl::fromEncoded("file://" + zmieniony.toPercentEncoding("/"))});
   const auto upusc = [&] {
     QDragEnterEvent wejscie({}, Qt::CopyAction, &dane, Qt::LeftButton, Qt::NoModifier);
     wejscie.ignore();

@@ -46,6 +46,17 @@ TEST(NazwaPliku, KazdeBajtyWracaja) {
   }
 }
 
+TEST_F(Pliki, WpisanaNazwaOdnajdujePlik) {
+  Zapisz(u"cennik \xDCB3\xDCB9.txt"_s);
+  Zapisz(u"dwa\xDCB3"_s);
+  Zapisz(u"dwa\xDCB9"_s);
+  Zapisz(u"jest?"_s);
+  Zapisz(u"jest\xDCB9"_s);
+  EXPECT_EQ(OdszukajNazwe(W(u"cennik ??.txt"_s)), W(u"cennik \xDCB3\xDCB9.txt"_s));
+  for (const QString& sama : {u"cennik ?.txt"_s, u"dwa?"_s, u"jest?"_s, u"brak/a?"_s})
+    EXPECT_EQ(OdszukajNazwe(W(sama)), W(sama));
+}
+
 TEST_F(Pliki, TozsamoscPrzezDowiazaniaObuRodzajow) {
   Zapisz(u"a"_s);
   Zapisz(u"b"_s);

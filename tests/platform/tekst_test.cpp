@@ -87,8 +87,18 @@ TEST_F(PlikTekstowy, KonceLinii) {
     std::string tresc;
     std::vector<std::string> linie;
   } przypadki[] = {
-      {"", {}},         {"a\r\nb\n\nc", {"a", "b", "", "c"}}, {"a\r\n\x1A", {"a"}},
-      {"a\x1A", {"a"}}, {"a\x1A\r\nb\r\n", {"a\x1A", "b"}},   {"a\rb\r\r\n", {"a\rb\r"}},
+      {"", {}},
+      {"a\r\nb\n\nc", {"a", "b", "", "c"}},
+      {"a\r\n\x1A", {"a"}},
+      {"a\x1A", {"a"}},
+      {"\x1A", {}},
+      {"a\n\x1A\r\n", {"a"}},
+      {"a\x1A\x1A\n\x1A", {"a"}},
+      {"a\n\n" + std::string(300'000, '\x1A'), {"a", ""}},
+      {"a\rb\r\rc", {"a", "b", "", "c"}},
+      {"a\r" + std::string(400'000, 'b') + "\r\x1A", {"a", std::string(400'000, 'b')}},
+      {"a\x1A\r\nb\r\n", {"a\x1A", "b"}},
+      {"a\rb\r\r\n", {"a\rb\r"}},
   };
   for (const auto& p : przypadki) {
     Zapisz(p.tresc);
@@ -148,28 +158,25 @@ TEST_F(PlikTekstowy, PelnyDyskJestZglaszany) {
 }
 #endif
 
-TEST_F(PlikTekstowy, RozpoznanieTresci) {
-  using R = RodzajTresci;
-  const struct {
-    std::string poczatek;
-    R rodzaj;
-  } przypadki[] = {
-      {"Kod kreskowy\tNazwa\r\nza\xBF\xF3\xB3\xE6\x1A", R::Tekst},
-      {"", R::Tekst},
-      {"\xEF\xBB\xBFKod", R::Utf8},
-      {"1;Żurek – 5 €;śliwka \xC5", R::Utf8},  // the last letter cut in the middle
-      {"1;\xC5\xBBurek;\x9Cliwka;\xC4\x85", R::Tekst},
-      {std::string("\xFF\xFEK\0o\0", 6), R::Utf16},
-      {std::string("\xFE\xFF\0K", 4), R::Utf16},
-      {std::string("K\0o\0d\0", 6), R::BajtyZerowe},
-      {"\x89PNG\r\n\x1A\n\x01\x02\x03\x04", R::Binarny},
-  };
-  for (const auto& p : przypadki) {
-    EXPECT_EQ(RozpoznajTresc(p.poczatek), p.rodzaj) << p.poczatek;
-    Zapisz(p.poczatek);
-    const std::optional<QString> odmowa = RozpoznajPlik(Sciezka());
-    EXPECT_EQ(odmowa.has_value(), p.rodzaj != R::Tekst);
-    EXPECT_EQ(odmowa.value_or(QString()).contains(u"Windows-1250"), p.rodzaj != R::Tekst);
+// What was there when the file was opened is read, neither less nor more.
+TEST_F(PlikTekstowy, ZmianaDlugosciWTrakcie) {
+  const std::string linia(999, 'x');
+  std::string tresc;
+  for (int i = 0; i < 1000; ++i) tresc += linia + '\n';
+  for (const qint64 dlugosc : {500'500, 1'000'000, 1'000'002}) {
+    Zapisz(tresc);
+    TMFile plik;
+    ASSERT_TRUE(plik.Open(Sciezka(), TMFile::Tryb::Odczyt));
+    ASSERT_TRUE(QFile::resize(Sciezka(), dlugosc));
+    int calych = 0;
+    std::string_view wczytana;
+    TMFile::WynikLinii wynik = TMFile::WynikLinii::Linia;
+    while ((wynik = plik.ReadLine(wczytana)) == TMFile::WynikLinii::Linia)
+      calych += wczytana == linia ? 1 : 1000;
+    EXPECT_EQ(wynik, dlugosc < 1'000'000 ? TMFile::WynikLinii::Blad : TMFile::WynikLinii::Koniec);
+    EXPECT_EQ(calych, dlugosc < 1'000'000 ? 500 : 1000);
+    EXPECT_EQ(plik.OpisBledu(),
+              dlugosc < 1'000'000 ? u"Plik został skrócony w trakcie odczytu"_s : QString());
   }
 }
 

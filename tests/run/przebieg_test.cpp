@@ -175,6 +175,15 @@ TEST_F(PrzebiegTest, PlikPominietych) {
   EXPECT_NE(Pominiete(), "");
 }
 
+TEST_F(PrzebiegTest, SkroconyPlikKonczyPrzebiegBledem) {
+  poRekordzie = [this] { QFile::resize(folder.filePath(u"plik.txt"_s), 300'000); };
+  EXPECT_EQ(Uruchom(Rekordy(40'000)).koniec, KoniecPrzebiegu::Blad);
+  EXPECT_TRUE(postep.linie.join(u'|').contains(
+      u"/plik.txt\nPlik został skrócony w trakcie odczytu\nZapisano w bazie"_s))
+      << postep.linie.join(u'|').toStdString();
+  EXPECT_EQ(Zapisanych(), 25'925);
+}
+
 TEST_F(PrzebiegTest, Przerwanie) {
   poRekordzie = [this] { stop = Zapisanych() == 2; };
   EXPECT_EQ(Uruchom("1;a\n2;b\n3;c\n").koniec, KoniecPrzebiegu::Przerwano);
