@@ -1,3 +1,4 @@
+#include "goods/kontrola_kodu.h"
 #include "goods/nazwy_jednostek.h"
 #include "goods/numeracja_nazw.h"
 #include "goods/rozpoznawanie_slownikow.h"
@@ -199,9 +200,39 @@ TEST_F(SlownikiTest, ParametryKategorii) {
 }
 
 TEST(NazwyJednostek, Normalizacja) {
-  QStringList nazwy{u"SZT."_s, u"Sztuka"_s, u"Komplety"_s, u"MB"_s, u"op"_s, u"Litr"_s, u""_s};
-  for (QString& nazwa : nazwy) NormalizujJednostke(nazwa);
-  EXPECT_EQ(nazwy.join(u' '), u"szt Sztuka kpl. m.b. opak l "_s);
+  const std::pair<QString, QString> jednostki[] = {{u"KG|kg."_s, u"kg"_s},
+                                                   {u"szt|SZT."_s, u"szt"_s},
+                                                   {u"m|m.|metr|Metry"_s, u"m"_s},
+                                                   {u"m.b.|m.b|MB|mb."_s, u"m.b."_s},
+                                                   {u"l|l.|Litr|litry"_s, u"l"_s},
+                                                   {u"kompl|kompl.|komp|komp.|komplet|Komplety"_s, u"kpl."_s},
+                                                   {u"opak|opak.|op|op.|opakowanie|opakowania"_s, u"opak"_s},
+                                                   {u"Sztuka"_s, u"Sztuka"_s},
+                                                   {u""_s, u""_s}};
+  for (const auto& [pisownie, jednostka] : jednostki)
+    for (QString nazwa : pisownie.split(u'|')) {
+      NormalizujJednostke(nazwa);
+      EXPECT_EQ(nazwa, jednostka);
+    }
+}
+
+// The first code that is not short, and a code of the shop in each of its two lengths.
+TEST(KontrolaKodu, Granice) {
+  const OpcjeImportuTowarow opcje;
+  const RegulyKodow reguly = RegulyKodowImportu(opcje, {});
+  const std::tuple<QString, RodzajKodu, bool, QString> kody[] = {
+      {u"9999"_s, RodzajKodu::Inny, false, u"Kod krótki"_s},
+      {u"10000"_s, RodzajKodu::Inny, false, {}},
+      {u"20010010"_s, RodzajKodu::Ean8, true, u"Kod własny"_s},
+      {u"2000000000015"_s, RodzajKodu::Ean13, true, u"Kod własny"_s},
+      {u"2000000000015"_s, RodzajKodu::Ean13, false, {}}};
+  for (const auto& [kod, rodzaj, znaleziony, odmowa] : kody) {
+    KodRekordu rekord;
+    rekord.kod = kod;
+    rekord.rodzaj = rodzaj;
+    rekord.znaleziony = znaleziony;
+    EXPECT_EQ(SprawdzKodRekordu(rekord, opcje, reguly).value_or(QString()), odmowa) << kod.toStdString();
+  }
 }
 
 TEST(NumeracjaNazw, IdzieDalejOdNajwyzszej) {

@@ -26,6 +26,7 @@ TEST_F(SterownikTest, FazyICalePodsumowanie) {
                   u"Ilość dodanych jednostek1"_s, u"Ilość dodanych stawek1"_s, u"Ilość dodanych kategorii0"_s,
                   u"Ilość dodanych parametrów0"_s, u"Ilość dodanych formatów kodów ważonych0"_s));
   EXPECT_EQ(b.Kolumna("select Nazwa from Magazyn"), u"Magazyn nr 1"_s);
+  EXPECT_EQ(b.Kolumna("select Nazwa || Precyzja from JM"), u"szt.0"_s);
   // The buffer is kept; a header alone is no record.
   struktura.CBNieAnalizujPierwszejLinii = true;
   Importuj("590003;Bułka;Pieczywo\n");
@@ -241,6 +242,85 @@ TEST_F(SterownikTest, PamiecZgadzaSieZBaza) {
   b.baza.UstawPodsluch({});
   EXPECT_EQ(rozpoczec, 2);
   EXPECT_EQ(ile("Towar"), oczekiwane.front());
+}
+
+// Own codes, automatic names and short names of a batch that is undone and comes again are given anew, none
+// is left out; those of the batch before (committed by the question) stay given.
+TEST_F(SterownikTest, PowtorzonaPaczkaNadajeToSamo) {
+  opcje.towarBezKodu = TowarBezKodu::RBDodajKodWlasny;
+  opcje.towarBezNazwy = TowarBezNazwy::RBDodajTowarZNazwaAuto;
+  opcje.towarZTaSamaNazwa = TowarZTaSamaNazwa::RBDodajTowarZTaSamaNazwa;
+  opcje.EdKodyKrotkie = u"0"_s;
+  parametry.Ustaw(IdParametru::WykorzystanieZwolnionychKodow, u"0"_s);
+  oper = &osoba;
+  osoba.liczbaPol = OdpowiedzLiczbaPol::Pomin;
+  int zatwierdzen = 0;
+  b.baza.UstawPodsluch([&](std::string_view sql) {
+    if (sql == "commit" && ++zatwierdzen % 2 == 0 && zatwierdzen < 5)
+      throw EBladBazy(RodzajBleduBazy::Kolizja, u"Błąd"_s, {});
+  });
+  EXPECT_EQ(Importuj(";Mleko\n;;\n5\n;Mleko\n;;\n").koniec, KoniecPrzebiegu::Zakonczono);
+  b.baza.UstawPodsluch({});
+  EXPECT_EQ(zatwierdzen, 6);  // of the warehouse, twice at the question, once more there and twice at the end
+  EXPECT_EQ(b.Kolumna("select Kod || ' ' || Nazwa || '=' || Skrot from Towar order by TowId"),
+            u"1001 Mleko=Mleko,1002 Towar bez nazwy 0001=Tow bez naz 000,1003 Mleko=Mleko 1,"
+            "1004 Towar bez nazwy 0002=Tow bez naz 000 1"_s);
+}
+
+// Records of one good in one block: each sees what the one before has done to the status and the stock.
+TEST_F(SterownikTest, StatusIStanTegoSamegoTowaruKilkaRazy) {
+  UstawPola({0, 1, 31});
+  opcje.cb_PrzywrocUsuniety = true;
+  Importuj("590001;Chleb;1\n590002;Ser;1\n");
+  const WynikPrzebiegu wynik =
+      Importuj("590001;Chleb;0\n590001;Chleb;1\n590002;Ser;1\n590002;Ser;0\n590002;Ser;0\n");
+  EXPECT_EQ(wynik.liczniki[Licznik::Poprawione], 3);
+  EXPECT_EQ(wynik.liczniki[Licznik::BezZmian], 2);
+  EXPECT_EQ(b.Kolumna("select Aktywny from Towar order by TowId", TypPola::Calkowite), u"1,0"_s);
+  UstawPola({0, 28});
+  opcje.CBImportStanow = 1;
+  Importuj("590001;4\n");
+  EXPECT_EQ(Importuj("590001;5\n590001;4\n").liczniki[Licznik::Poprawione], 2);
+  EXPECT_EQ(b.Kolumna("select StanMag from Istw order by TowId", TypPola::Dziesietne), u"4,0"_s);
+}
+
+// One kind of dictionary to complete is enough for a stored good that is not to be updated.
+TEST_F(SterownikTest, SameStawkiDoUzupelnienia) {
+  Importuj("590001;Chleb\n");
+  opcje.cb_akttow = opcje.cb_noweasortymenty = opcje.cb_nowejednostki = false;
+  for (const bool stawki : {true, false}) {
+    opcje.cb_nowestawki = stawki;
+    Importuj("590001;Chleb\n");
+    EXPECT_EQ(Pominiete().value(0).section(u" | "_s, 2),
+              stawki ? u"Towar identyczny z towarem w bazie"_s : u"Towar o tym kodzie już jest w bazie"_s);
+  }
+}
+
+// What another program writes while a person thinks is seen by the records behind the question.
+TEST_F(SterownikTest, CudzeZmianyPrzyPytaniu) {
+  UstawPola({0, 1, 24, 17, 28});
+  opcje.CBImportStanow = 1;
+  const char* const towary = "590001;Chleb;Pieczywo;5;4\n590002;Ser;Nabiał;6;7\n";
+  Importuj(towary);
+  oper = &osoba;
+  osoba.liczbaPol = OdpowiedzLiczbaPol::Pomin;
+  osoba.przyPytaniu = [&] {
+    TVLTBazaDanych inna;
+    b.Polacz(inna);
+    inna.ExecSQL("update Towar set CenaEw = 9 where Kod = '590001'");
+    inna.ExecSQL("update Istw set StanMag = 1 where StanMag = 7");
+    inna.ExecSQL("insert into Asort (Nazwa) values ('Cudzy')");
+    inna.ExecSQL(
+        "insert into Towar (Nazwa, Skrot, Kod, AsId, JMId, Stawka) values ('Obcy', 'o', '590003', 1, 1, "
+        "2300)");
+  };
+  const WynikPrzebiegu wynik =
+      Importuj("5\n" + QString::fromUtf8(towary) + u"590003;Obcy;Cudzy;8;0\n590004;Nowy;Cudzy;8;0\n"_s);
+  EXPECT_EQ(Pominiete().size(), 1) << Pominiete().join(u'#').toStdString();
+  EXPECT_EQ(wynik.liczniki[Licznik::Poprawione], 3);
+  EXPECT_EQ(wynik.liczniki[Licznik::Asortymenty], 0);
+  EXPECT_EQ(b.Kolumna("select CenaEw from Towar order by TowId", TypPola::Dziesietne), u"5,6,8,8"_s);
+  EXPECT_EQ(b.Kolumna("select StanMag from Istw order by TowId", TypPola::Dziesietne), u"4,7,0,0"_s);
 }
 
 }  // namespace

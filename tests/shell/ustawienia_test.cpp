@@ -146,12 +146,6 @@ TEST(TabelaUstawien, NieregularneKlucze) {
   };
   ustaw("ParTowarBezNazwy", "2");
   EXPECT_EQ(u.importTow.towarBezNazwy, TowarBezNazwy::RBDodajTowarZNazwaAuto);
-  ustaw("ParrabatHurtowy", "0");
-  EXPECT_FALSE(u.strukturaTow.CzyOferowane(PoleTowaru::HurtRabat));
-  ustaw("ParStatusTowaru", "0");
-  EXPECT_EQ(u.strukturaTow.oferowane[30], 0);
-  ustaw("ParAktywny", "0");
-  EXPECT_EQ(u.strukturaKontr.oferowane[35], 0);
   ustaw("ParSeparatorTow", "spac");
   EXPECT_EQ(u.strukturaTow.separator, QStringLiteral(" "));
   ustaw("ParSeparatorTow", "tab");
@@ -161,6 +155,36 @@ TEST(TabelaUstawien, NieregularneKlucze) {
   ustaw("ParIloscOpisowVAT", "1");
   ustaw("ParOpisVAT0", " 8A");
   EXPECT_EQ(Teksty(u)[QStringLiteral("ParOpisVAT0")], QStringLiteral("8 A"));
+}
+
+// The manual's tables of fields: a number, a name, the key that lets the field change a stored record.
+TEST(TabelaUstawien, PolaJakWInstrukcji) {
+  QFile plik(QStringLiteral(ZORVIK_ZRODLA "/docs/pliki.md"));
+  ASSERT_TRUE(plik.open(QIODevice::ReadOnly));
+  const auto bezDopisku = [](const QString& nazwa) { return nazwa.section(QStringLiteral(" ("), 0, 0); };
+  auto rodzaj = RodzajRekordu::Towary;
+  int nazw = 0, kluczy = 0;
+  for (const QString& linia :
+       QString::fromUtf8(plik.readAll()).section(QStringLiteral("## Pola towaru"), 1).split(u'\n')) {
+    if (linia.startsWith(QStringLiteral("## Pola kontrahenta"))) rodzaj = RodzajRekordu::Kontrahenci;
+    const QStringList komorki = linia.split(QStringLiteral(" | "));
+    bool liczba = false;
+    const int pole = komorki[0].mid(2).toInt(&liczba);
+    if (!liczba || komorki.size() < 4) continue;
+    EXPECT_EQ(bezDopisku(QStringView(KatalogPol(rodzaj)[static_cast<size_t>(pole)].nazwa).toString()),
+              bezDopisku(komorki[1]));
+    ++nazw;
+    const QString klucz = komorki.last().section(u'`', 1, 1);
+    // Some keys stand in a sentence; the stock has an option of its own.
+    if (klucz.isEmpty() || komorki.last().count(u'`') > 2 || klucz == QStringLiteral("ParImportStanow"))
+      continue;
+    Ustawienia u = Domyslne();
+    EXPECT_EQ(UstawKlucz(u, klucz, QStringLiteral("0")), WynikUstawienia::Ustawiono) << klucz.toStdString();
+    EXPECT_FALSE((rodzaj == RodzajRekordu::Towary ? u.strukturaTow : u.strukturaKontr).CzyOferowane(pole))
+        << klucz.toStdString();
+    ++kluczy;
+  }
+  EXPECT_EQ(std::pair(nazw, kluczy), std::pair(64, 61));
 }
 
 TEST(TabelaUstawien, NieprzyjmowaneKluczeIWartosci) {
