@@ -77,8 +77,21 @@ int TDmVLTWpisSlownika::InsertRecord() {
 }
 
 void TDmVLTWpisSlownika::UpdateRecord(int id) {
-  SprawdzNazwe(id);
+  // A server keeps every version of a row that one transaction writes and looks through them all: an entry
+  // that grows by thousands of details is not written with each.
+  const bool wiersz = Query.GetUpdatesPending();
+  if (wiersz) SprawdzNazwe(id);
   Sprawdz();
+  if (wiersz) PoprawWiersz(id);
+  ZapiszSzczegoly(id);
+  const QString stara = Query.Field(kKolumnaNazwa).OldValue().AsString();
+  Context.baza.RejestrujZmiane(m_opis.tabelaDziennika,
+                               QStringLiteral("Zmiana pozycji: ") + stara +
+                                   (stara == Nazwa() ? QString() : QStringLiteral(" na ") + Nazwa()),
+                               id, -1);
+}
+
+void TDmVLTWpisSlownika::PoprawWiersz(int id) {
   auto parametry = Wartosci();
   parametry.push_back({"Id", id});
   const long long zapisane = Context.baza.ExecSQL(
@@ -87,12 +100,6 @@ void TDmVLTWpisSlownika::UpdateRecord(int id) {
           IdFieldName() + " = :Id",
       parametry);
   if (zapisane == 0) throw EVLTWDError(2001);
-  ZapiszSzczegoly(id);
-  const QString stara = Query.Field(kKolumnaNazwa).OldValue().AsString();
-  Context.baza.RejestrujZmiane(m_opis.tabelaDziennika,
-                               QStringLiteral("Zmiana pozycji: ") + stara +
-                                   (stara == Nazwa() ? QString() : QStringLiteral(" na ") + Nazwa()),
-                               id, -1);
 }
 
 std::vector<Parametr> TDmVLTWpisSlownika::Wartosci() const {

@@ -38,6 +38,7 @@ class TDmVLTWpisSlownika : public TDmVLTElement {
 
  private:
   void SprawdzNazwe(int wlasneId) const;
+  void PoprawWiersz(int id);
   std::vector<Parametr> Wartosci() const;
 
   const OpisSlownika& m_opis;

@@ -830,6 +830,9 @@ select MagId, Nazwa
   from Magazyn
   order by Nazwa, MagId;
 
+select Stawka
+  from Vat;
+
 select AsId, Nazwa
   from Asort
   order by AsId;
@@ -857,9 +860,6 @@ select ParId, Wartosc
 select KWId, Nazwa, Prefix, CzescStala, WartoscWKodzie, DodKontrola
   from KodWazony
   order by KWId;
-
-select Stawka
-  from Vat;
 
 select TowId, StanMag
   from ISTW
@@ -1005,10 +1005,6 @@ select ParId, Kolejnosc
   from KatParam
   where KatId = :KatId
   order by Kolejnosc, ParId;
-
-update Kategoria
-  set Nazwa = :Nazwa
-  where KatId = :Id;
 
 insert into KatParam (KatId, ParId, Kolejnosc)
   values (:KatId, :ParId, :Kolejnosc);
