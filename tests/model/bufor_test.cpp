@@ -42,6 +42,17 @@ TEST_F(Bufor, NadazaZaZapisami) {
   SprawdzZgodnosc();
   EXPECT_FALSE(bufor.MozeBySkrot(u"m1"_s));
   EXPECT_TRUE(bufor.MozeByKod(u"4"_s) && bufor.MozeByNazwa(u"Ser"_s));
+
+  // Two changes of one good in a batch that the database has undone.
+  bufor.Zatwierdz();
+  const auto jest = mleko->Teksty();
+  auto raz = jest, dwa = jest;
+  raz.kod = u"3"_s;
+  dwa.kod = u"5"_s;
+  bufor.Zmien(1, jest, raz);
+  bufor.Zmien(1, raz, dwa);
+  bufor.Cofnij();
+  SprawdzZgodnosc();
 }
 
 TEST_F(Bufor, CudzyZapisOdbieraPewnosc) {

@@ -83,6 +83,8 @@ TEST_F(WlasneKody, BezZwolnionychIdzieZaNajwyzszym) {
   EXPECT_EQ(Nadaj(ean), u"20099985"_s);
   EXPECT_EQ(Nadaj(ean), u"20099992"_s);
   EXPECT_FALSE(ean.Zaproponuj()) << "four digits are used up";
+  DodajTowar(u"20199999"_s);
+  EXPECT_FALSE(Kody({Forma::Ean8, false, 201, 1'001}).Zaproponuj()) << "the highest number is taken";
 }
 
 TEST_F(WlasneKody, KolejnyNumerMusiBycZwyklymKodem) {

@@ -99,8 +99,13 @@ TEST(RegulyKodow, RodzajeIPostacieKodowWazonych) {
   EXPECT_EQ(reguly.KodKrotki(kod), u"00123"_s);
   reguly.kodyKrotkie = RegulyKodow::KodyKrotkie::ObcinajZera;
   EXPECT_EQ(reguly.KodKrotki(kod), u"123"_s);
-  reguly.maxKodKrotki = 122;
-  EXPECT_EQ(reguly.KodKrotki(kod), QString());
+  const std::tuple<int, int, QString> granice[] = {
+      {1, 122, {}}, {1, 123, u"123"_s}, {123, 999, u"123"_s}, {124, 999, {}}};
+  for (const auto& [najnizszy, najwyzszy, krotki] : granice) {
+    reguly.minKodKrotki = najnizszy;
+    reguly.maxKodKrotki = najwyzszy;
+    EXPECT_EQ(reguly.KodKrotki(kod), krotki) << najnizszy << '-' << najwyzszy;
+  }
 }
 
 TEST(KodyWazone, MaskaDajeFormat) {

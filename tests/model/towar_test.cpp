@@ -247,6 +247,8 @@ TEST_F(Towary, ZmianyKodowDodatkowych) {
   EXPECT_EQ(Wiersze("KodDod"), u"1|1|s1|1|0|0|1 1|2|s4|4|0|0|1 1|3|s3|3|0|9|1 1|4|s5|5|0|0|1");
   EXPECT_TRUE(towar->MaKod(u"5"_s) && towar->MaKod(u"900"_s) && !towar->MaKod(u"2"_s));
   EXPECT_EQ(Wczytany(id)->Kody().Wszystkie(), towar->Kody().Wszystkie());
+  towar->Kody().Usun(2);
+  EXPECT_EQ(towar->Kody().Dodaj({}), 5) << "a number that is free in the middle is not taken again";
 }
 
 TEST_F(Towary, ZmianyTrafiajaDoDziennikaKasISklepow) {
