@@ -1,4 +1,4 @@
-#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 
 #include <QTemporaryDir>
@@ -17,6 +17,9 @@ namespace {
 
 class Pliki : public testing::Test {
  protected:
+  // Qt would leave names behind that are no UTF-8.
+  ~Pliki() override { std::filesystem::remove_all(m_folder.path().toStdString()); }
+
   QString W(const QString& nazwa) const { return m_folder.filePath(nazwa); }
   std::string Bajty(const QString& nazwa) const { return BajtyNazwy(W(nazwa)).toStdString(); }
   void Zapisz(const QString& nazwa, const char* tresc = "x") const { std::ofstream(Bajty(nazwa)) << tresc; }
