@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/argumenty.h"
+#include "app/kopia_bazy.h"
 #include "app/nowa_baza.h"
 #include "app/operacje.h"
 #include "app/sprawdz_baze.h"
@@ -26,6 +27,11 @@ std::vector<PolecenieProgramu> UtworzPolecenia() {
        u"gdy\n"
        u"niczego nie brakuje, inaczej 3.",
        GrupaOpcji::Ogolne | GrupaOpcji::Baza, WykonajSprawdzBaze},
+      {u"kopia-bazy", ArgumentPliku::Wymagany, u"kopiuje bazę danych do nowego pliku",
+       u"Kopia pokazuje bazę z jednej chwili; inne programy mogą w tym czasie na niej pracować. "
+       u"Istniejącego\n"
+       u"pliku nie nadpisuje, niedokończonej kopii nie zostawia. Bazę na serwerze kopiuje program serwera.",
+       GrupaOpcji::Ogolne | GrupaOpcji::Baza, WykonajKopiaBazy},
       {u"ustawienia", ArgumentPliku::Brak, u"wypisuje obowiązujące ustawienia w postaci pliku konfiguracji",
        u"Kolejność: wartości domyślne, plik ZorvikDef.cfg z bieżącego katalogu, ustawienia zapisane\n"
        u"w bazie, --konfiguracja, --ustaw, a na końcu zależności między opcjami.",

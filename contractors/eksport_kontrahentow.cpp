@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr OpisPrzebiegu kOpis{{}, u"zamykanie pliku eksportu", u"Eksport zakończono", {}, kPlikNiepelny};
+constexpr OpisPrzebiegu kOpis{{}, u"zamykanie pliku eksportu", u"Eksport zakończono", {}};
 constexpr OpisEksportu kOpisEksportu{{}, u"eksport bazy kontrahentów", "Kontrahent", "KontrId"};
 
 // The conditions of an export. The boxes for a tax number that is not known and for what is no protected

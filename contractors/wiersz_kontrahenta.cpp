@@ -33,8 +33,8 @@ void Liczba(const WierszKontrahenta& w) {
 void Nazwa(const WierszKontrahenta& w) {
   const QString nazwa = w.kontrahent[P::Nazwa].AsString();
   w.pola.Tekst(nazwa);
-  if (nazwa.trimmed().isEmpty()) w.pola.UstawPowod(u"brak nazwy");
-  if (ZaczynaKomentarz(nazwa)) w.pola.UstawPowod(u"nazwa czytana jako komentarz");
+  if (nazwa.trimmed().isEmpty()) w.pola.DodajPowod(u"brak nazwy");
+  if (ZaczynaKomentarz(nazwa)) w.pola.DodajPowod(u"nazwa czytana jako komentarz");
 }
 
 // The one text that an import takes without the blanks around it.

@@ -18,19 +18,23 @@ void WierszEksportu::Tekst(const QString& tekst) {
   m_zapis.Pole(tekst);
   if (tekst.isEmpty()) return;
   for (const QChar znak : tekst) {
-    if (znak == u'\t') m_powod = u"tabulator";
-    if (znak == u'\n' || znak == u'\r') m_powod = u"koniec wiersza";
+    if (znak == u'\t') DodajPowod(u"tabulator");
+    if (znak == u'\n' || znak == u'\r') DodajPowod(u"koniec wiersza");
   }
 }
 
 void WierszEksportu::Nazwa(const QString& nazwa) {
   Tekst(nazwa);
-  if (OdstepNaBrzegu(nazwa)) m_powod = u"odstęp na brzegu";
+  if (OdstepNaBrzegu(nazwa)) DodajPowod(u"odstęp na brzegu");
 }
 
 void WierszEksportu::Blok(const QString& blok, std::u16string_view powod) {
   Tekst(blok);
-  if (!powod.empty()) m_powod = powod;
+  if (!powod.empty()) DodajPowod(powod);
+}
+
+void WierszEksportu::DodajPowod(std::u16string_view powod) {
+  if (std::find(m_powody.begin(), m_powody.end(), powod) == m_powody.end()) m_powody.push_back(powod);
 }
 
 void WierszEksportu::Liczba(double liczba) {

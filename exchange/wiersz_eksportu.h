@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include <QString>
 #include <QStringView>
@@ -25,14 +26,14 @@ class WierszEksportu {
   // Plain ASCII that comes back as it is.
   void Ascii(std::string_view tekst);
 
-  void UstawPowod(std::u16string_view powod) { m_powod = powod; }
-  // Empty when the record will come back.
-  std::u16string_view Powod() const { return m_powod; }
+  void DodajPowod(std::u16string_view powod);
+  // Each once, in the order of the columns; empty when the record will come back.
+  const std::vector<std::u16string_view>& Powody() const { return m_powody; }
 
  private:
   ZapisRekordow& m_zapis;
   char m_separator;
-  std::u16string_view m_powod;
+  std::vector<std::u16string_view> m_powody;
 };
 
 // A column of an export file; `Wiersz` is what the columns of one record kind are written from.

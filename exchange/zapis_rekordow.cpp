@@ -24,7 +24,17 @@ bool ZapisRekordow::Otworz(const QString& sciezka) {
   m_linia.clear();
   m_pierwsze = true;
   m_brakujacych = m_brakujacychTeraz = 0;
-  return m_plik.Open(sciezka, TMFile::Tryb::Zapis);
+  m_blad.clear();
+  if (const auto powod = m_obok.Zacznij(sciezka)) {
+    m_blad = *powod;
+    return false;
+  }
+  if (!m_plik.Open(m_obok.Sciezka(), TMFile::Tryb::Zapis)) {
+    m_obok.Porzuc();
+    return false;
+  }
+  m_dawnyPozostal = m_obok.Obok();
+  return true;
 }
 
 void ZapisRekordow::NastepnePole() {
@@ -46,6 +56,7 @@ void ZapisRekordow::PoleAscii(std::string_view tekst) {
 
 bool ZapisRekordow::ZapiszRekord() {
   const bool zapisano = m_plik.WriteLine(m_linia);
+  m_dawnyPozostal = false;
   m_linia.clear();
   m_pierwsze = true;
   m_brakujacych = std::exchange(m_brakujacychTeraz, 0);
@@ -53,5 +64,10 @@ bool ZapisRekordow::ZapiszRekord() {
 }
 
 bool ZapisRekordow::Zamknij() {
-  return m_plik.Close();
+  const bool zapisano = m_plik.Close();
+  if (m_dawnyPozostal)
+    m_obok.Porzuc();
+  else if (m_obok.Zaczety())
+    m_blad = m_obok.Podmien().value_or(QString());
+  return zapisano && m_blad.isEmpty();
 }

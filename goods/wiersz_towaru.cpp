@@ -68,8 +68,8 @@ constexpr auto kSprzedaz = &Opcje::cb_poziomCenSprzedazyEksp;
 void Kod(const WierszTowaru& w) {
   const QString kod = w.opcje.cb_eksportBezKodow ? QString() : Pole(w, P::Kod).AsString();
   w.pola.Nazwa(kod);
-  if (ZaczynaKomentarz(kod)) w.pola.UstawPowod(u"kod czytany jako komentarz");
-  if (kod.isEmpty() && !w.opcje.cb_eksportBezKodow) w.pola.UstawPowod(u"brak kodu");
+  if (ZaczynaKomentarz(kod)) w.pola.DodajPowod(u"kod czytany jako komentarz");
+  if (kod.isEmpty() && !w.opcje.cb_eksportBezKodow) w.pola.DodajPowod(u"brak kodu");
 }
 
 void Typ(const WierszTowaru& w) {
@@ -118,7 +118,7 @@ constexpr std::u16string_view kCudzyNip = u"NIP nie wskaże tego kontrahenta";
 void NipProducenta(const WierszTowaru& w) {
   const NipKontrahenta& producent = w.slowniki.Nip(Pole(w, P::Producent).AsInteger());
   w.pola.Nazwa(producent.nip);
-  if (!producent.wskazuje) w.pola.UstawPowod(kCudzyNip);
+  if (!producent.wskazuje) w.pola.DodajPowod(kCudzyNip);
 }
 
 void NipyDostawcow(const WierszTowaru& w) {

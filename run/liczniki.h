@@ -35,6 +35,8 @@ class Liczniki {
   void Zwieksz(Licznik licznik, long long o = 1) { m_otwarte[Indeks(licznik)] += o; }
   void Zatwierdz();
   void Porzuc() { m_otwarte = {}; }
+  // What was committed is gone as well.
+  void Wyzeruj() { m_otwarte = m_zatwierdzone = {}; }
 
   // Committed only.
   long long operator[](Licznik licznik) const { return m_zatwierdzone[Indeks(licznik)]; }

@@ -15,6 +15,11 @@ QString Tekst(std::u16string_view tekst) {
   return QString::fromUtf16(tekst.data(), static_cast<qsizetype>(tekst.size()));
 }
 
+// Faults that say of what was committed before that it may be lost.
+bool Niepewne(std::optional<RodzajBleduBazy> rodzaj) {
+  return rodzaj == RodzajBleduBazy::Nietrwaly || rodzaj == RodzajBleduBazy::Zniknela;
+}
+
 }  // namespace
 
 class Przebieg::PostepZapamietujacy final : public IPostep {
@@ -58,6 +63,8 @@ WynikPrzebiegu Przebieg::Wykonaj() {
       Pokaz(*odmowa);
     else
       koniec = Prowadz();
+  } catch (const EBladBazy& blad) {
+    koniec = PoWyjatku(blad.Naglowek(), blad.Tresc(), blad.Rodzaj());
   } catch (const EMException& blad) {
     koniec = PoWyjatku(blad.Naglowek(), blad.Tresc());
   } catch (const std::exception& blad) {
@@ -93,11 +100,24 @@ KoniecPrzebiegu Przebieg::Prowadz() {
   return koniec;
 }
 
-KoniecPrzebiegu Przebieg::PoWyjatku(const QString& naglowek, const QString& tekst) {
+KoniecPrzebiegu Przebieg::PoWyjatku(const QString& naglowek, const QString& tekst,
+                                    std::optional<RodzajBleduBazy> rodzaj) {
   m_paczka.UratujCoSieDa();
+  m_niepewne = Niepewne(rodzaj) ? rodzaj : SprobujUtrwalic();
+  if (m_niepewne == RodzajBleduBazy::Zniknela) m_liczniki.Wyzeruj();
   PoBledzie();
   OglosBlad(naglowek, tekst);
   return KoniecPrzebiegu::Blad;
+}
+
+// After another fault: what the run has left is told only as far as it is there, and the disk has it.
+std::optional<RodzajBleduBazy> Przebieg::SprobujUtrwalic() {
+  try {
+    m_parametry.sesja.baza.Utrwal();
+  } catch (const EBladBazy& blad) {
+    if (Niepewne(blad.Rodzaj())) return blad.Rodzaj();
+  }
+  return std::nullopt;
 }
 
 KoniecPrzebiegu Przebieg::PrzerwanoPrzezOperatora() {
@@ -107,14 +127,20 @@ KoniecPrzebiegu Przebieg::PrzerwanoPrzezOperatora() {
 }
 
 void Przebieg::OglosBlad(const QString& naglowek, const QString& tekst) {
-  if (!m_opis.poBledzie.empty()) {
-    m_postep.Pokaz(naglowek, tekst + u'\n' + Tekst(m_opis.poBledzie));
-    return;
-  }
+  m_postep.Pokaz(naglowek, tekst + u'\n' + CoZostalo());
+}
+
+QString Przebieg::CoZostalo() const {
+  if (m_niepewne == RodzajBleduBazy::Zniknela)
+    return u"Niczego z tego przebiegu nie można uznać za zapisane. Przywróć plik bazy i powtórz import."_s;
   const long long rekordow = m_liczniki[Licznik::Rekordy];
-  m_postep.Pokaz(naglowek, tekst + (rekordow == 0 ? u"\nNie zapisano w bazie wyniku żadnego rekordu."_s
-                                                  : u"\nZapisano w bazie wynik pracy do rekordu "_s +
-                                                        QString::number(rekordow) + u" włącznie."_s));
+  if (rekordow == 0) return u"Nie zapisano w bazie wyniku żadnego rekordu."_s;
+  const QString zapisano =
+      u"Zapisano w bazie wynik pracy do rekordu "_s + QString::number(rekordow) + u" włącznie."_s;
+  return m_niepewne ? zapisano +
+                          u"\nNie ma jednak pewności, że przetrwa to wyłączenie komputera. Sprawdź dysk "
+                          u"i powtórz import."_s
+                    : zapisano;
 }
 
 void Przebieg::Zakoncz(KoniecPrzebiegu koniec) {

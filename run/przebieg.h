@@ -10,6 +10,7 @@
 #include <QString>
 
 #include "exchange/komunikat.h"
+#include "platform/baza/blad_bazy.h"
 #include "run/liczniki.h"
 #include "run/paczka_zapisow.h"
 #include "run/postep.h"
@@ -54,8 +55,6 @@ struct OpisPrzebiegu {
   std::u16string_view zamykaniePliku;   // phase line
   std::u16string_view zakonczono;       // text of the last message box
   std::span<const PozycjaPodsumowania> podsumowanie;
-  // What a fault leaves behind, said below the fault; empty: the records whose result the database holds.
-  std::u16string_view poBledzie = {};
 };
 
 enum class PoRekordzie { Dalej, Stop };
@@ -84,6 +83,8 @@ class Przebieg {
   virtual void PrzedPodsumowaniem() {}
   // An exception ended the run: what outlives it may be ahead of the database.
   virtual void PoBledzie() {}
+  // Said below a fault: what of the run is saved, here the records whose result the database holds.
+  virtual QString CoZostalo() const;
 
   bool Stop() const { return m_parametry.stop.load(std::memory_order_relaxed); }
   void Pokaz(const Komunikat& komunikat) { m_postep.Pokaz(komunikat.naglowek, komunikat.tekst); }
@@ -105,12 +106,15 @@ class Przebieg {
 
   std::optional<Komunikat> Otworz();
   KoniecPrzebiegu Prowadz();
-  KoniecPrzebiegu PoWyjatku(const QString& naglowek, const QString& tekst);
+  KoniecPrzebiegu PoWyjatku(const QString& naglowek, const QString& tekst,
+                            std::optional<RodzajBleduBazy> rodzaj = {});
+  std::optional<RodzajBleduBazy> SprobujUtrwalic();
   void Zakoncz(KoniecPrzebiegu koniec);
 
   const ParametryPrzebiegu m_parametry;
   const OpisPrzebiegu& m_opis;
   std::vector<Komunikat> m_komunikaty;
+  std::optional<RodzajBleduBazy> m_niepewne;  // why what was committed may be lost
   std::unique_ptr<PostepZapamietujacy> m_zapamietujacy;
   IPostep& m_postep;
 

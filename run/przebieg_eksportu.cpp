@@ -29,6 +29,10 @@ void PrzebiegEksportu::Wykaz::Dodaj(const QString& rekord) {
 
 std::optional<Komunikat> PrzebiegEksportu::OtworzPlik() {
   if (!m_zapis.Otworz(Parametry().plik)) return KomunikatBladOtwarcia(Parametry().plik);
+  if (const QString& dlaczego = m_zapis.DlaczegoWMiejscu(); !dlaczego.isEmpty())
+    Pokaz({u"UWAGA"_s, u"Plik "_s + Parametry().plik + u' ' + dlaczego +
+                           u"\nEksport pisze więc wprost do niego: gdyby program zabito, w pliku zostałaby "
+                           u"połowa eksportu"_s});
   return std::nullopt;
 }
 
@@ -104,8 +108,11 @@ bool PrzebiegEksportu::ZapiszRekord() {
   Rekord(wiersz);
   if (!m_zapis.ZapiszRekord()) return false;
   if (m_zapis.BrakujacychZnakow() > 0) m_brakujaceZnaki.Dodaj(NazwaRekordu());
-  if (const auto powod = wiersz.Powod(); !powod.empty())
-    m_niezwrotne.Dodaj(NazwaRekordu() + u" ("_s + Tekst(powod) + u')');
+  if (!wiersz.Powody().empty()) {
+    QStringList powody;
+    for (const std::u16string_view powod : wiersz.Powody()) powody << Tekst(powod);
+    m_niezwrotne.Dodaj(NazwaRekordu() + u" ("_s + powody.join(u", "_s) + u')');
+  }
   return true;
 }
 
@@ -117,6 +124,14 @@ KoniecPrzebiegu PrzebiegEksportu::BladZapisu() {
 
 Komunikat PrzebiegEksportu::KomunikatBleduZapisu() const {
   return {u"Wystąpił błąd"_s, u"Błąd zapisu do pliku "_s + Parametry().plik + u'\n' + m_zapis.OpisBledu()};
+}
+
+QString PrzebiegEksportu::CoZostalo() const {
+  const QString niepelny = u"Plik eksportu jest niepełny."_s;
+  return m_zapis.DawnyPozostal()
+             ? niepelny +
+                   u" Nie zapisano żadnego wiersza: plik sprzed eksportu, jeśli był, pozostał bez zmian."_s
+             : niepelny;
 }
 
 void PrzebiegEksportu::PoBledzie() {

@@ -17,9 +17,6 @@ struct OpisEksportu {
   const char* klucz;                  // in which column
 };
 
-// The fault's companion in every export: nothing in the database has changed, but the file is not whole.
-inline constexpr std::u16string_view kPlikNiepelny = u"Plik eksportu jest niepełny.";
-
 // A run that writes records of the database to a file, one line each, in the order of their identifiers. The
 // identifiers are read first, then everything else as of one moment, page by page. A record that was gone at
 // that moment ends the run. Whatever the file does not take ends the run as a fault. Counted are the lines of
@@ -56,6 +53,8 @@ class PrzebiegEksportu : public Przebieg {
   void ZamknijPlik() override { m_zapis.Zamknij(); }
   void PrzedPodsumowaniem() override;
   void PoBledzie() override;
+  // Nothing in the database has changed, but the file is not whole.
+  QString CoZostalo() const override;
 
  private:
   // Records to be told of: how many, and the first of them.

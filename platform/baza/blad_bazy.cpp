@@ -7,12 +7,14 @@ struct Tytul {
   RodzajBleduBazy rodzaj;
   const char16_t* tytul;
 };
-constexpr std::array<Tytul, 13> kTytuly{{
+constexpr std::array<Tytul, 15> kTytuly{{
     {RodzajBleduBazy::Polaczenie, u"Brak połączenia z bazą"},
     {RodzajBleduBazy::Logowanie, u"Serwer bazy danych odrzucił użytkownika lub hasło"},
     {RodzajBleduBazy::Sterownik, u"Brak sterownika ODBC lub źródła danych"},
     {RodzajBleduBazy::PelnyDysk, u"Brak miejsca na dysku bazy danych"},
     {RodzajBleduBazy::TylkoOdczyt, u"Baza danych jest tylko do odczytu"},
+    {RodzajBleduBazy::Zniknela, u"Plik bazy danych zniknął, został podmieniony albo skrócony"},
+    {RodzajBleduBazy::Nietrwaly, u"Dysk nie potwierdził zapisu bazy danych"},
     {RodzajBleduBazy::Wejscie, u"Błąd odczytu lub zapisu pliku bazy danych"},
     {RodzajBleduBazy::Blokada, u"Baza danych jest zablokowana przez inny program"},
     {RodzajBleduBazy::Czas, u"Przekroczono czas oczekiwania na bazę danych"},

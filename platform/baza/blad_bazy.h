@@ -11,6 +11,8 @@ enum class RodzajBleduBazy {
   Sterownik,     // the ODBC driver or data source is missing
   PelnyDysk,     // no room for the data
   TylkoOdczyt,   // the database may not be written
+  Zniknela,      // its file was deleted, replaced or cut: nothing that was written may be there
+  Nietrwaly,     // what was committed may not outlive a power cut: the disk did not confirm it
   Wejscie,       // reading or writing the medium failed, the file is damaged or is no database
   Blokada,       // somebody else held a lock for longer than the time-out
   Czas,          // a statement took longer than the server allows, or was cancelled there

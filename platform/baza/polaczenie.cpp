@@ -27,8 +27,13 @@ bool Haslo(const AtrybutOdbc& atrybut) {
 
 QStringList ParametryPolaczenia::Pliki() const {
   if (rodzaj != Rodzaj::Sqlite) return {};
+  return PlikiOtwarte() << SciezkaBezDowiazan(cel) + QLatin1String("-journal");
+}
+
+QStringList ParametryPolaczenia::PlikiOtwarte() const {
+  if (rodzaj != Rodzaj::Sqlite) return {};
   const QString plik = SciezkaBezDowiazan(cel);
-  return {plik, plik + QLatin1String("-wal"), plik + QLatin1String("-shm"), plik + QLatin1String("-journal")};
+  return {cel, plik + QLatin1String("-wal"), plik + QLatin1String("-shm")};
 }
 
 QString ParametryPolaczenia::Opis() const {

@@ -24,6 +24,8 @@ struct ParametryPolaczenia {
   // The files that make up an embedded database, whether or not they exist at the moment: the database and
   // what SQLite keeps beside it, which is where a link leads.
   QStringList Pliki() const;
+  // Those of them that a connection keeps open; a rollback journal comes and goes.
+  QStringList PlikiOtwarte() const;
   // For people: without a password.
   QString Opis() const;
   // True when the text itself holds a password, which everybody could read in the list of processes.

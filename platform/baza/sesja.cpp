@@ -328,6 +328,10 @@ void TVLTBazaDanych::Utrwal() {
   m->Polaczony().Utrwal();
 }
 
+bool TVLTBazaDanych::KopiujDo(const QString& plik, const PostepKopii& postep) {
+  return m->Polaczony().KopiujDo(plik, postep);
+}
+
 void TVLTBazaDanych::RejestrujZmiane(int tabela, const QString& opis, int id1, int id2) {
   Wstaw(
       "insert into DziennikZmian (Czas, Tabela, Opis, Id1, Id2)"

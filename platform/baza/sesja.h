@@ -58,7 +58,7 @@ class TVLTBazaDanych {
   const ParametryPolaczenia& Parametry() const;
   void Polacz();
   void Odlacz();
-  // False also when the server has ended the connection.
+  // False also when the server has ended the connection or the file of the database is gone.
   bool Polaczona() const;
   // The database's name as shown in the window's caption; empty while not connected.
   QString Nazwa() const;
@@ -121,9 +121,15 @@ class TVLTBazaDanych {
   long long ZnacznikObcychZmian();
   // Number of transactions committed by this session; a counter for the benchmark and the tests.
   long long LiczbaZatwierdzen() const;
-  // Makes what was committed durable (moves SQLite's write-ahead log into the database file). Quietly does
-  // nothing when another connection stands in the way.
+  // Makes what was committed durable; waits for no other connection. EBladBazy: of kind Nietrwaly when the
+  // disk did not confirm it, of kind Zniknela when the database is no longer the one that was opened. A write
+  // transaction meets both when it begins, the second also when it is committed.
   void Utrwal();
+  // Copies an embedded database, as it is at this moment, into an existing empty file, while others may go on
+  // working. `postep` is told of pages copied and of all; false from it stops the copying, which then returns
+  // false. Neither waits for the disk nor removes a half copy.
+  using PostepKopii = std::function<bool(long long zrobionych, long long wszystkich)>;
+  bool KopiujDo(const QString& plik, const PostepKopii& postep);
 
   // One line of the change log DziennikZmian: table code, text, up to two identifiers (-1: none).
   void RejestrujZmiane(int tabela, const QString& opis, int id1, int id2);

@@ -84,6 +84,10 @@ void Silnik::ZakonczOdczyt() {
   if (WTransakcji()) Wycofaj();
 }
 
+bool Silnik::KopiujDo(const QString& /*plik*/, const PostepKopii& /*postep*/) {
+  throw EBladBazy(RodzajBleduBazy::Inny, QStringLiteral("Bazę na serwerze kopiuje program serwera"), {});
+}
+
 void Silnik::UstawPunkt(int poziom) {
   Steruj(Jezyk().UstawPunkt(poziom));
 }

@@ -21,6 +21,9 @@ class Dialekt;
 class Polecenie;
 struct ParametryPolaczenia;
 
+// Pages copied, and those of the whole; false stops the copying.
+using PostepKopii = std::function<bool(long long zrobionych, long long wszystkich)>;
+
 // One open connection to a database of one kind, with its prepared statements: what the session does
 // differently for an embedded file and for a server. Internal to the session.
 class Silnik {
@@ -52,7 +55,7 @@ class Silnik {
   virtual void RozpocznijOdczyt() = 0;
   virtual void ZakonczOdczyt();
   virtual bool WTransakcji() const = 0;
-  // The server is gone: only a new connection helps.
+  // The server or the database file is gone: only a new connection helps.
   virtual bool Zerwany() const { return false; }
   void UstawPunkt(int poziom);
   void ZwolnijPunkt(int poziom);
@@ -60,6 +63,8 @@ class Silnik {
 
   virtual long long ZnacznikObcychZmian() = 0;
   virtual void Utrwal() {}
+  // See TVLTBazaDanych.
+  virtual bool KopiujDo(const QString& plik, const PostepKopii& postep);
 
   // Throws what a failure below means.
   [[noreturn]] void Rzuc(const soci::soci_error& blad, std::string_view sql);

@@ -64,6 +64,7 @@ void ZapiszDoBazy(TVLTBazaDanych& baza, const Ustawienia& ustawienia) {
   TMConfig config;
   ZapiszUstawienia(ustawienia, config);
   baza.ZapiszKonfiguracje(NazwaKonfiguracji(), config);
+  baza.Utrwal();
 }
 
 WynikImportu ImportujZPliku(const QString& sciezka, Ustawienia& ustawienia) {

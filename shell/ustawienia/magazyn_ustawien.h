@@ -28,6 +28,7 @@ Komunikaty WczytajDomyslnyPlik(const QString& katalogStartowy, Ustawienia& ustaw
 
 // The state as it is, overlaid with what the database holds. EBladBazy as the session raises it.
 Komunikaty WczytajZBazy(TVLTBazaDanych& baza, Ustawienia& ustawienia);
+// Returns when the disk has them.
 void ZapiszDoBazy(TVLTBazaDanych& baza, const Ustawienia& ustawienia);
 
 struct WynikImportu {
