@@ -165,6 +165,9 @@ TEST_F(EksportTest, MowiOTymCoNieWroci) {
       {"update Towar set Opis1 = 'a\tb' where TowId = 3", u"tabulator"_s},
       {"update Towar set Indeks2 = '\r\n' where TowId = 3", u"koniec wiersza"_s},
       {"update Towar set Skrot = ' a' where TowId = 3", u"odstęp na brzegu"_s},
+      // Every reason, in the order of the columns, each once.
+      {"update Towar set Opis1 = 'a\tb', Opis2 = 'c\t', Skrot = ' a' where TowId = 3",
+       u"odstęp na brzegu, tabulator"_s},
       {"update Towar set Kod = '#1' where TowId = 3", u"kod czytany jako komentarz"_s},
       {"update Towar set Kod = '//1' where TowId = 3", u"kod czytany jako komentarz"_s},
       {"insert into KodDod (TowId, Kolejnosc, Kod) values (3, 1, '1|2')", u"znaki bloku w nazwie"_s},

@@ -1,3 +1,5 @@
+#include <cstdio>
+#include <functional>
 #include <stdexcept>
 
 #include <QFileInfo>
@@ -227,6 +229,81 @@ TEST_F(Baza, PolaczenieMaUstawieniaTrwalosciIBlokad) {
   EXPECT_GT(QFileInfo(dziennik).size(), 0);
   b.baza.Utrwal();
   EXPECT_EQ(QFileInfo(dziennik).size(), 0);
+}
+
+// Neither a file that is gone nor one that stands in its place takes what the session believes to save.
+TEST_F(Baza, ZniknieciePlikuJestZauwazane) {
+  if (NaSerwerze()) GTEST_SKIP() << "files of an embedded database";
+  using Zniszczenie = std::function<void(const QString&)>;
+  const Zniszczenie zniszczenia[] = {
+      [](const QString& plik) { QFile::remove(plik); },
+      [](const QString& plik) { QFile::remove(plik + QStringLiteral("-wal")); },
+      [](const QString& plik) {
+        QFile::copy(plik, plik + QStringLiteral("2"));
+        EXPECT_EQ(std::rename((plik + QStringLiteral("2")).toUtf8(), plik.toUtf8()), 0);
+      },
+      [](const QString& plik) { QFile::resize(plik, 5000); },
+      [](const QString& plik) { QFile::resize(plik, 0); }};
+  using Krok = std::function<void(TVLTBazaDanych&)>;
+  const Krok kroki[] = {[](auto& baza) { baza.StartTransakcji(); },
+                        [](auto& baza) { baza.KoniecTransakcji(); }, [](auto& baza) { baza.Utrwal(); }};
+  for (const Zniszczenie& zniszczenie : zniszczenia)
+    for (std::size_t ktory = 0; ktory < std::size(kroki); ++ktory) {
+      BazaTestowa nasza;
+      nasza.baza.ExecSQL("create table T (Nazwa text)");
+      for (int i = 0; i < 20; ++i)
+        nasza.baza.ExecSQL("insert into T (Nazwa) values (:N)", {{"N", QString(2000, u'x')}});
+      nasza.baza.Utrwal();
+      for (std::size_t i = 0; i < ktory; ++i) kroki[i](nasza.baza);
+      zniszczenie(nasza.Sciezka());
+      try {
+        kroki[ktory](nasza.baza);
+        ADD_FAILURE() << "not noticed: " << (&zniszczenie - zniszczenia) << ' ' << ktory;
+      } catch (const EBladBazy& blad) {
+        EXPECT_EQ(blad.Rodzaj(), RodzajBleduBazy::Zniknela);
+      }
+      EXPECT_FALSE(nasza.baza.Polaczona());  // the next run connects anew
+    }
+  // A vacuum makes the file shorter too, and nothing is lost.
+  for (int i = 0; i < 50; ++i) Dodaj(QString(2000, u'x') + QString::number(i));
+  b.baza.Utrwal();
+  const qint64 przed = QFile(b.Sciezka()).size();
+  TVLTBazaDanych inna;
+  b.Polacz(inna);
+  inna.ExecSQL("delete from T");
+  inna.ExecSQL("vacuum");
+  inna.Utrwal();
+  EXPECT_LT(QFile(b.Sciezka()).size(), przed);
+  EXPECT_NO_THROW(b.baza.StartTransakcji());
+}
+
+// A reader who stays keeps the log from being moved; the disk confirms it all the same, and nobody waits.
+TEST_F(Baza, UtrwalNieCzekaNaCzytajacych) {
+  TVLTBazaDanych inna;
+  b.Polacz(inna, false, 15);
+  const OdczytJednejChwili chwila(inna);
+  inna.Otworz("select count(*) from T", {TypPola::Calkowite}).Nastepny();
+  JednostkaZapisu zapis(b.baza);
+  Dodaj(QStringLiteral("a"));
+  zapis.Zatwierdz();
+  EXPECT_NO_THROW(b.baza.Utrwal());
+  EXPECT_EQ(Ile(), 1);
+}
+
+TEST_F(Baza, KopiaDajeSieZatrzymac) {
+  if (NaSerwerze()) GTEST_SKIP() << "files of an embedded database";
+  QFile kopia(b.Sciezka() + QStringLiteral(".kopia"));
+  ASSERT_TRUE(kopia.open(QIODevice::WriteOnly));
+  for (int i = 0; i < 100; ++i) Dodaj(QString(60'000, u'x') + QString::number(i));
+  long long razem = 0;
+  EXPECT_FALSE(b.baza.KopiujDo(kopia.fileName(), [&](long long zrobionych, long long wszystkich) {
+    razem = wszystkich;
+    EXPECT_GT(zrobionych, 0);
+    return zrobionych > wszystkich;
+  }));
+  EXPECT_GT(razem, 1000);
+  ASSERT_TRUE(kopia.resize(0));
+  EXPECT_TRUE(b.baza.KopiujDo(kopia.fileName(), [](long long, long long) { return true; }));
 }
 
 TEST_F(Baza, KonfiguracjaJestZastepowanaWCalosci) {

@@ -275,6 +275,10 @@ TEST_F(Zrodla, PozniejszeZrodloMaPierwszenstwo) {
   Ustawienia zBazy = Domyslne();
   EXPECT_TRUE(magazyn_ustawien::WczytajZBazy(test.baza, zBazy).empty());
   EXPECT_EQ(Teksty(zBazy), Teksty(u));
+  if (NaSerwerze()) return;
+  // Nothing is told as saved in a file that is gone.
+  ASSERT_TRUE(QFile::remove(test.Sciezka()));
+  EXPECT_THROW(magazyn_ustawien::ZapiszDoBazy(test.baza, u), EBladBazy);
 }
 
 TEST_F(Zrodla, PlikiNieDoOdczytaniaNiczegoNieZmieniaja) {
