@@ -30,9 +30,7 @@ void PrzebiegEksportu::Wykaz::Dodaj(const QString& rekord) {
 std::optional<Komunikat> PrzebiegEksportu::OtworzPlik() {
   if (!m_zapis.Otworz(Parametry().plik)) return KomunikatBladOtwarcia(Parametry().plik);
   if (const QString& dlaczego = m_zapis.DlaczegoWMiejscu(); !dlaczego.isEmpty())
-    Pokaz({u"UWAGA"_s, u"Plik "_s + Parametry().plik + u' ' + dlaczego +
-                           u"\nEksport pisze więc wprost do niego: gdyby program zabito, w pliku zostałaby "
-                           u"połowa eksportu"_s});
+    m_uwagi.ZglosOCalosci({RodzajUwagi::ZapisWMiejscu, Parametry().plik, dlaczego});
   return std::nullopt;
 }
 

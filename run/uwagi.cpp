@@ -43,6 +43,8 @@ constexpr OpisUwagi kOpisy[] = {
      u"Kolumna %1 jest datą (rok, miesiąc, dzień bez kropek), której pole „%2” nie odczyta"},
     {RodzajUwagi::Data, u"data",
      u"Pole „Termin ważności karty” nie zawiera daty w postaci dzień.miesiąc.rok; datę pominięto"},
+    {RodzajUwagi::ZapisWMiejscu, u"zapis-w-miejscu",
+     u"Plik %1 %2, więc eksport pisał wprost do niego: zabity w połowie zostawiłby niepełny plik"},
 };
 
 constexpr bool WKolejnosci() {

@@ -23,6 +23,7 @@ enum class RodzajUwagi {
   DbaseLogiczna,
   DbaseData,
   Data,
+  ZapisWMiejscu,
   Ilosc
 };
 
