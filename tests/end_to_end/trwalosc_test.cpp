@@ -121,7 +121,7 @@ TEST_F(Trwalosc, FolderKtoryNiePrzyjmujePlikow) {
   const Wynik wMiejscu = s.Uruchom(Slowa(u"zamknięty/plik.txt"_s), BezWladzyNadPlikami);
   EXPECT_EQ(wMiejscu.status, 0) << wMiejscu.bledy.toStdString();
   EXPECT_TRUE(s.Odczytaj(u"zamknięty/plik.txt"_s).startsWith("Kod towaru\t"));
-  EXPECT_EQ(wMiejscu.Json()[u"uwagi"_s][0][u"rodzaj"_s].toString(), u"zapis-w-miejscu"_s);
+  EXPECT_EQ(wMiejscu.Json()[u"uwagi"_s].toArray().at(0)[u"rodzaj"_s].toString(), u"zapis-w-miejscu"_s);
   EXPECT_TRUE(wMiejscu.bledy.contains(u"który nie przyjmuje nowych plików"_s))
       << wMiejscu.bledy.toStdString();
 
