@@ -7,6 +7,7 @@
 #include "app/argumenty.h"
 #include "app/srodowisko.h"
 #include "app/terminal.h"
+#include "database/kontrola_bazy.h"
 #include "database/schemat.h"
 #include "model/parametry_systemu.h"
 #include "platform/baza/sesja.h"
@@ -52,6 +53,9 @@ WynikNowejBazy UtworzNowaBaze(ParametryPolaczenia parametry, bool demo) {
     baza.Polacz();
     if (!BazaPusta(baza))
       return {StatusWyjscia::Odmowa, {u"UWAGA"_s, u"Baza danych %1 nie jest pusta"_s.arg(baza.Nazwa())}};
+    if (const auto powod = BladKodowania(baza))
+      return {StatusWyjscia::Odmowa,
+              {u"UWAGA"_s, *powod + u"\nBazę zakłada się poleceniem createdb -E UTF8 -T template0 NAZWA"_s}};
     Zapelnij(baza, demo);
     baza.Odlacz();
   } catch (const EMException& blad) {

@@ -50,13 +50,18 @@ int Szerokosc() {
 QString JednaLinia(const Komunikat& komunikat) {
   QString linia = komunikat.naglowek + u": "_s;
   QString tekst = komunikat.tekst;
+  QString szczegoly;
   bool pierwszy = true;
   for (const QString& czesc : tekst.replace(u'\r', u'\n').split(u'\n', Qt::SkipEmptyParts)) {
+    if (czesc.startsWith(kSzczegoly)) {
+      szczegoly += u'\n' + czesc.trimmed();
+      continue;
+    }
     if (!pierwszy) linia += u".:!?,;"_s.contains(linia.back()) ? u" "_s : u". "_s;
     linia += czesc.trimmed();
     pierwszy = false;
   }
-  return linia;
+  return linia + szczegoly;
 }
 
 }  // namespace terminal

@@ -23,7 +23,7 @@ bool BledyNaTerminalu();
 int Szerokosc();
 
 // "TITLE: text" in one line; a line break becomes a blank, behind a full stop unless the text has its own
-// mark.
+// mark. What begins with kSzczegoly stands below, on lines of its own.
 QString JednaLinia(const Komunikat& komunikat);
 
 }  // namespace terminal

@@ -1,6 +1,7 @@
 #include "database/kontrola_bazy.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 #include <vector>
 
@@ -95,16 +96,69 @@ void SprawdzKolejnosc(const std::string& tabela, const std::vector<Kolumna>& kol
   if (ktora != kolumny.size()) braki << u"Tabela %1 ma kolumny, których program nie zna"_s.arg(Napis(tabela));
 }
 
+QStringList Pary(TVLTBazaDanych& baza, const std::string& select) {
+  QStringList pary;
+  for (auto odczyt = baza.Otworz(select, {TypPola::Tekst, TypPola::Tekst}); odczyt.Nastepny();)
+    pary << (odczyt[0].AsString() + u'.' + odczyt[1].AsString()).toLower();
+  return pary;
+}
+
 void SprawdzIndeksy(TVLTBazaDanych& baza, const Tabele& tabele, QStringList& braki) {
-  QStringList indeksy;
-  for (auto odczyt = baza.Otworz(baza.Jezyk().IndeksyBazy(), {TypPola::Tekst, TypPola::Tekst});
-       odczyt.Nastepny();)
-    indeksy << (odczyt[0].AsString() + u'.' + odczyt[1].AsString()).toLower();
+  const QStringList indeksy = Pary(baza, baza.Jezyk().IndeksyBazy());
   for (const auto& [tabela, kolumna] : IndeksySchematu()) {
     const QString nazwa = Napis(tabela) + u'.' + Napis(kolumna);
     if (tabele.count(Napis(tabela).toLower()) > 0 && !indeksy.contains(nazwa.toLower()))
       braki << u"Brak indeksu zaczynającego się od kolumny %1: praca będzie bardzo wolna"_s.arg(nazwa);
   }
+}
+
+void SprawdzWyzwalacze(TVLTBazaDanych& baza, const Tabele& tabele, QStringList& braki) {
+  const QStringList wyzwalacze = Pary(baza, baza.Jezyk().WyzwalaczeBazy());
+  for (const auto& [tabela, nazwa] : WyzwalaczeSchematu())
+    if (tabele.count(Napis(tabela).toLower()) > 0 &&
+        !wyzwalacze.contains((Napis(tabela) + u'.' + Napis(nazwa)).toLower()))
+      braki
+          << u"Brak działającego wyzwalacza %1 w tabeli %2: nowe towary i magazyny nie dostaną wierszy stanów"_s
+                 .arg(Napis(nazwa), Napis(tabela));
+}
+
+void SprawdzAutoKlucz(TVLTBazaDanych& baza, const KolumnaSchematu& klucz, QStringList& braki) {
+  const std::string pytanie = baza.Jezyk().StanAutoKlucza(klucz.tabela, klucz.nazwa);
+  if (pytanie.empty()) return;
+  const QString nazwa = Napis(klucz.tabela) + u'.' + Napis(klucz.nazwa);
+  const auto stan = [&] {
+    try {
+      JednostkaZapisu jednostka(baza);
+      auto odczyt = baza.Otworz(pytanie, {TypPola::Calkowite});
+      return odczyt.Nastepny() ? static_cast<StanAutoKlucza>(odczyt[0].AsInteger()) : StanAutoKlucza::Brak;
+    } catch (const EBladBazy&) {
+      return StanAutoKlucza::Dobry;  // rights to the table itself are told of anyway
+    }
+  }();
+  if (stan == StanAutoKlucza::Brak)
+    braki << u"Kolumna %1 nie ma sekwencji, z której program bierze numery nowych wierszy"_s.arg(nazwa);
+  else if (stan == StanAutoKlucza::BezPrawa)
+    braki << u"Brak prawa używania sekwencji kolumny %1: nie da się dopisać wiersza"_s.arg(nazwa);
+  else if (stan == StanAutoKlucza::WTyleZaTabela)
+    braki << u"Sekwencja kolumny %1 jest w tyle za numerami w tabeli: nowe wiersze dostałyby zajęte numery"_s
+                 .arg(nazwa);
+}
+
+// "varchar(1000)": the number; 0 for an unbounded type.
+int Szerokosc(const std::string& typ) {
+  const auto nawias = typ.find('(');
+  return nawias == std::string::npos ? 0 : std::atoi(typ.c_str() + nawias + 1);
+}
+
+void SprawdzSzerokosc(TVLTBazaDanych& baza, const KolumnaSchematu& wzor, const std::vector<Kolumna>& kolumny,
+                      QStringList& braki) {
+  const auto kolumna = ZnajdzKolumne(kolumny, wzor.nazwa);
+  if (kolumna == kolumny.end() || kolumna->dlugosc <= 0) return;
+  if (const int szerokosc = Szerokosc(TypKolumny(wzor, baza.Jezyk())); kolumna->dlugosc < szerokosc)
+    braki << u"Kolumna %1.%2 mieści %3 znaków, a powinna %4: dłuższy tekst zostanie odrzucony"_s
+                 .arg(Napis(wzor.tabela), Napis(wzor.nazwa))
+                 .arg(kolumna->dlugosc)
+                 .arg(szerokosc);
 }
 
 // Statements that touch no row are allowed or refused like any other.
@@ -116,7 +170,7 @@ void SprawdzPrawa(TVLTBazaDanych& baza, const PrawaTabeli& prawa, QStringList& b
       praca();
     } catch (const EBladBazy& blad) {
       braki << u"Brak prawa %1 w tabeli %2: %3"_s.arg(QString::fromUtf16(czego), Napis(tabela),
-                                                      blad.MacDescription().section(u'\r', 0, 0));
+                                                      blad.MacMessage());
     }
   };
   sprobuj(u"odczytu", [&] {
@@ -140,16 +194,20 @@ void SprawdzPrawa(TVLTBazaDanych& baza, const PrawaTabeli& prawa, QStringList& b
 
 }  // namespace
 
+std::optional<QString> BladKodowania(TVLTBazaDanych& baza) {
+  const std::string pytanie = baza.Jezyk().KodowanieBazy();
+  if (pytanie.empty()) return std::nullopt;
+  auto odczyt = baza.Otworz(pytanie, {TypPola::Tekst});
+  const QString kodowanie = odczyt.Nastepny() ? odczyt[0].AsString() : QString();
+  if (kodowanie.compare(u"UTF8"_s, Qt::CaseInsensitive) == 0) return std::nullopt;
+  return u"Baza danych koduje teksty jako %1, a nie UTF8: innych znaków nie da się w niej zapisać"_s.arg(
+      kodowanie);
+}
+
 QStringList SprawdzBaze(TVLTBazaDanych& baza) {
   QStringList braki;
   const bool serwer = baza.Parametry().rodzaj == ParametryPolaczenia::Rodzaj::Odbc;
-  if (const std::string pytanie = baza.Jezyk().KodowanieBazy(); !pytanie.empty()) {
-    auto odczyt = baza.Otworz(pytanie, {TypPola::Tekst});
-    const QString kodowanie = odczyt.Nastepny() ? odczyt[0].AsString() : QString();
-    if (kodowanie.compare(u"UTF8"_s, Qt::CaseInsensitive) != 0)
-      braki << u"Baza danych koduje teksty jako %1, a nie UTF8: innych znaków nie da się w niej zapisać"_s
-                   .arg(kodowanie);
-  }
+  if (const auto blad = BladKodowania(baza)) braki << *blad;
   const Tabele tabele = WczytajTabele(baza);
   for (const PrawaTabeli& prawa : PrawaTabel()) {
     const auto tabela = tabele.find(Napis(prawa.tabela).toLower());
@@ -160,10 +218,16 @@ QStringList SprawdzBaze(TVLTBazaDanych& baza) {
     const qsizetype dotad = braki.size();
     for (const KolumnaSchematu& wzor : KolumnySchematu())
       if (wzor.tabela == prawa.tabela) SprawdzKolumne(wzor, tabela->second, serwer, braki);
+    for (const KolumnaSchematu& wzor : KolumnySchematu())
+      if (wzor.tabela == prawa.tabela) {
+        SprawdzSzerokosc(baza, wzor, tabela->second, braki);
+        if (wzor.znacznik == "{klucz}" && prawa.dopisuje) SprawdzAutoKlucz(baza, wzor, braki);
+      }
     if (prawa.czytanaWcalosci && braki.size() == dotad) SprawdzKolejnosc(prawa.tabela, tabela->second, braki);
     if (ZnajdzKolumne(tabela->second, prawa.kolumna) != tabela->second.end())
       SprawdzPrawa(baza, prawa, braki);
   }
   SprawdzIndeksy(baza, tabele, braki);
+  SprawdzWyzwalacze(baza, tabele, braki);
   return braki;
 }

@@ -378,6 +378,16 @@ std::vector<KolumnaSchematu> KolumnySchematu() {
   return kolumny;
 }
 
+std::string TypKolumny(const KolumnaSchematu& kolumna, const Dialekt& dialekt) {
+  return Rozwin(kolumna.znacznik, dialekt);
+}
+
+std::vector<std::pair<std::string, std::string>> WyzwalaczeSchematu() {
+  std::vector<std::pair<std::string, std::string>> wyzwalacze;
+  for (const Wyzwalacz& w : kWyzwalacze) wyzwalacze.emplace_back(w.tabela, w.nazwa);
+  return wyzwalacze;
+}
+
 std::vector<std::pair<std::string, std::string>> IndeksySchematu() {
   constexpr std::string_view kIndeks = "create index ";
   std::vector<std::pair<std::string, std::string>> indeksy;

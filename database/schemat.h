@@ -7,6 +7,7 @@
 
 #include <QString>
 
+class Dialekt;
 class TVLTBazaDanych;
 
 // One stored configuration parameter that a new database starts with.
@@ -35,6 +36,10 @@ struct KolumnaSchematu {
   std::string znacznik;
 };
 std::vector<KolumnaSchematu> KolumnySchematu();
+// The column's type in the words of the server.
+std::string TypKolumny(const KolumnaSchematu& kolumna, const Dialekt& dialekt);
+// Table and name of the triggers that the tables need.
+std::vector<std::pair<std::string, std::string>> WyzwalaczeSchematu();
 // Table and first column of the indexes that the runs need.
 std::vector<std::pair<std::string, std::string>> IndeksySchematu();
 

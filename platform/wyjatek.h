@@ -6,6 +6,11 @@
 #include <string>
 
 #include <QString>
+#include <QStringView>
+
+// Begins the line of a text that is meant for whoever looks after the machine: the words of a driver or of a
+// library, in its language.
+inline constexpr QStringView kSzczegoly = u"Szczegóły: ";
 
 // How a message box shows an error.
 enum class KlasaBledu { Blad = 0, Ostrzezenie = 1, Informacja = 2 };

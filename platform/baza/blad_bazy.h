@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include <QString>
 
 #include "platform/wyjatek.h"
@@ -23,11 +25,23 @@ enum class RodzajBleduBazy {
   Inny
 };
 
-// An error of the database below us. Its texts name the cause and the statement's operation, never a bound
-// value.
+// What a failure means: by the five characters of the standard (SQLSTATE) that servers give, and into which
+// the embedded database's codes are put. One table for all databases.
+struct PrzyczynaBledu {
+  RodzajBleduBazy rodzaj = RodzajBleduBazy::Inny;
+  QString powod = {};      // for a person, beyond the words for the kind; may be empty
+  QString szczegoly = {};  // the driver's own words
+};
+PrzyczynaBledu PrzyczynaStanu(std::string_view stan);
+// The state for a code of SQLite, extended or not.
+std::string_view StanSqlite(int kod);
+
+// An error of the database below us. Its texts name the cause in a person's words; what the driver says and
+// the statement's operation stand behind them, on a line of their own (kSzczegoly). Never a bound value.
 class EBladBazy final : public EVLTExceptionBase {
  public:
-  EBladBazy(RodzajBleduBazy rodzaj, QString tresc, const QString& operacja);
+  // `tresc`: for a person; `szczegoly`: for whoever looks after the database.
+  EBladBazy(RodzajBleduBazy rodzaj, QString tresc, const QString& szczegoly);
 
   RodzajBleduBazy Rodzaj() const { return m_rodzaj; }
   // True for faults that every further record would meet as well: they end a run.

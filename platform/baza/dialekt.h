@@ -10,6 +10,14 @@
 
 #include "platform/baza/blad_bazy.h"
 
+// A sequence of automatic keys, as Dialekt::StanAutoKlucza answers.
+enum class StanAutoKlucza {
+  Dobry,
+  Brak,          // the column has none
+  BezPrawa,      // this user may not take keys from it
+  WTyleZaTabela  // it would hand out keys that are taken
+};
+
 // What differs between the families of database servers. Statement texts stand elsewhere, once, in the common
 // form; a dialect changes only what it must.
 class Dialekt {
@@ -90,6 +98,12 @@ class Dialekt {
   virtual std::string KolumnyBazy() const = 0;
   // Indexes: table, first column.
   virtual std::string IndeksyBazy() const = 0;
+  // Triggers that are switched on: table, name.
+  virtual std::string WyzwalaczeBazy() const = 0;
+  // Where automatic keys come from a sequence: what is wrong with it (StanAutoKlucza). Empty elsewhere.
+  virtual std::string StanAutoKlucza(const std::string& /*tabela*/, const std::string& /*klucz*/) const {
+    return {};
+  }
   // The encoding of texts; empty where they are always Unicode.
   virtual std::string KodowanieBazy() const { return {}; }
 

@@ -98,6 +98,18 @@ class Postgresql final : public Dialekt {
            " from pg_index I, pg_class C, pg_attribute A where I.indrelid = C.oid and A.attrelid = C.oid"
            " and A.attnum = I.indkey[0] and C.relnamespace = to_regnamespace(current_schema())";
   }
+  std::string WyzwalaczeBazy() const override {
+    return "select cast(C.relname as varchar(128)), cast(T.tgname as varchar(128)) from pg_trigger T, "
+           "pg_class C"
+           " where C.oid = T.tgrelid and not T.tgisinternal and T.tgenabled in ('O', 'A')"
+           " and C.relnamespace = to_regnamespace(current_schema())";
+  }
+  std::string StanAutoKlucza(const std::string& tabela, const std::string& klucz) const override {
+    return "select case when S.Nazwa is null then 1 when not has_sequence_privilege(S.Nazwa, 'usage') then 2"
+           " when coalesce(pg_sequence_last_value(cast(S.Nazwa as regclass)), 0) < (select coalesce(max(" +
+           klucz + "), 0) from " + tabela + ") then 3 else 0 end from (select pg_get_serial_sequence('" +
+           tabela + "', lower('" + klucz + "')) as Nazwa offset 0) S";
+  }
   std::string KodowanieBazy() const override {
     return "select cast(pg_encoding_to_char(encoding) as varchar(50)) from pg_database"
            " where datname = current_database()";

@@ -27,6 +27,9 @@ class Sqlite final : public Dialekt {
     return "select M.name, P.name, P.type, 0 from sqlite_master M, pragma_table_info(M.name) P"
            " where M.type = 'table' order by M.name, P.cid";
   }
+  std::string WyzwalaczeBazy() const override {
+    return "select tbl_name, name from sqlite_master where type = 'trigger'";
+  }
   // The automatic key is the table itself.
   std::string IndeksyBazy() const override {
     return "select M.name, I.name from sqlite_master M, pragma_index_list(M.name) L, "

@@ -154,6 +154,11 @@ std::string Tsql::IndeksyBazy() const {
          " and T.object_id = I.object_id and T.schema_id = schema_id()";
 }
 
+std::string Tsql::WyzwalaczeBazy() const {
+  return "select T.name, W.name from sys.triggers W, sys.tables T"
+         " where W.parent_id = T.object_id and W.is_disabled = 0 and T.schema_id = schema_id()";
+}
+
 std::optional<RodzajBleduBazy> Tsql::RodzajBledu(long numer) const {
   for (const NumerBledu& b : kBledy)
     if (b.numer == numer) return b.rodzaj;

@@ -40,6 +40,7 @@ class Tsql : public Dialekt {
   std::string ListaTabel() const override;
   std::string KolumnyBazy() const override;
   std::string IndeksyBazy() const override;
+  std::string WyzwalaczeBazy() const override;
 
   std::optional<RodzajBleduBazy> RodzajBledu(long numer) const override;
   bool TekstyNarodowe() const override { return true; }

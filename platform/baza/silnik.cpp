@@ -25,8 +25,11 @@ void Silnik::Oglos(std::string_view sql) const {
 }
 
 void Silnik::Rzuc(const soci::soci_error& blad, std::string_view sql) {
-  const Rozpoznanie rozpoznanie = Rozpoznaj(blad);
-  throw EBladBazy(rozpoznanie.rodzaj, rozpoznanie.tresc, OpisOperacji(sql));
+  const PrzyczynaBledu przyczyna = Rozpoznaj(blad);
+  const QString operacja = OpisOperacji(sql);
+  throw EBladBazy(
+      przyczyna.rodzaj, przyczyna.powod,
+      przyczyna.szczegoly + (operacja.isEmpty() ? QString() : QStringLiteral(" [%1]").arg(operacja)));
 }
 
 std::shared_ptr<Polecenie> Silnik::Wolne(std::string_view sql, std::span<const TypPola> kolumny,

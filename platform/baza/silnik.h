@@ -70,12 +70,8 @@ class Silnik {
   [[noreturn]] void Rzuc(const soci::soci_error& blad, std::string_view sql);
 
  protected:
-  struct Rozpoznanie {
-    RodzajBleduBazy rodzaj;
-    QString tresc;
-  };
   // Called once for every failure, so that an engine knows what became of its transaction.
-  virtual Rozpoznanie Rozpoznaj(const soci::soci_error& blad) = 0;
+  virtual PrzyczynaBledu Rozpoznaj(const soci::soci_error& blad) = 0;
   virtual std::shared_ptr<Polecenie> Przygotuj(const std::string& sql, std::span<const TypPola> kolumny,
                                                std::span<const Parametr> parametry) = 0;
   // Runs a statement that steers the transaction or the connection; nothing for an empty text.

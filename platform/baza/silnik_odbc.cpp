@@ -17,30 +17,6 @@
 
 namespace {
 
-// What the standard's states mean; the first line whose beginning fits.
-struct StanSql {
-  std::string_view poczatek;
-  RodzajBleduBazy rodzaj;
-};
-constexpr StanSql kStany[] = {
-    {"08", RodzajBleduBazy::Polaczenie},     {"57P", RodzajBleduBazy::Polaczenie},
-    {"53300", RodzajBleduBazy::Polaczenie},  {"HYT01", RodzajBleduBazy::Polaczenie},
-    {"28", RodzajBleduBazy::Logowanie},      {"IM", RodzajBleduBazy::Sterownik},
-    {"53100", RodzajBleduBazy::PelnyDysk},   {"58030", RodzajBleduBazy::Wejscie},
-    {"XX001", RodzajBleduBazy::Wejscie},     {"XX002", RodzajBleduBazy::Wejscie},
-    {"25006", RodzajBleduBazy::TylkoOdczyt}, {"55P03", RodzajBleduBazy::Blokada},
-    {"57014", RodzajBleduBazy::Czas},        {"HYT00", RodzajBleduBazy::Czas},
-    {"40", RodzajBleduBazy::Kolizja},        {"42501", RodzajBleduBazy::Uprawnienia},
-    {"22", RodzajBleduBazy::Ograniczenie},   {"23", RodzajBleduBazy::Ograniczenie},
-    {"54", RodzajBleduBazy::Ograniczenie},
-};
-
-RodzajBleduBazy RodzajStanu(std::string_view stan) {
-  for (const StanSql& s : kStany)
-    if (stan.starts_with(s.poczatek)) return s.rodzaj;
-  return RodzajBleduBazy::Inny;
-}
-
 // The server's words without its details, which quote values, and without the driver's remark on where it
 // was.
 QString TrescBledu(const char* komunikat) {
@@ -61,9 +37,8 @@ QString NapisPolaczenia(const ParametryPolaczenia& parametry) {
   if (napis.startsWith(u'@')) {
     QFile plik(napis.mid(1));
     if (!plik.open(QIODevice::ReadOnly | QIODevice::Text))
-      throw EBladBazy(
-          RodzajBleduBazy::Polaczenie,
-          QStringLiteral("Nie można odczytać pliku %1\n%2").arg(plik.fileName(), plik.errorString()), {});
+      throw EBladBazy(RodzajBleduBazy::Polaczenie,
+                      QStringLiteral("Nie można odczytać pliku %1").arg(plik.fileName()), plik.errorString());
     napis = QString::fromUtf8(plik.readLine(4096)).trimmed();
   }
   // Of equal keys only the last: the driver would not give back the memory of the others.
@@ -78,20 +53,53 @@ QString NapisPolaczenia(const ParametryPolaczenia& parametry) {
   return ZlozNapisOdbc(atrybuty);
 }
 
+// SOCI begins a connection by a setting, which the driver refuses to one that may only read, and says nothing
+// of the reason: so the driver is asked alone.
+bool TylkoDoOdczytu(const std::string& napis) {
+  SQLHENV srodowisko = nullptr;
+  SQLHDBC polaczenie = nullptr;
+  if (!SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_ENV, nullptr, &srodowisko))) return false;
+  SQLSetEnvAttr(srodowisko, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
+  bool tylkoOdczyt = false;
+  if (SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_DBC, srodowisko, &polaczenie))) {
+    std::array<SQLCHAR, 4096> odpowiedz{};
+    auto* tekst = reinterpret_cast<SQLCHAR*>(const_cast<char*>(napis.data()));  // the C interface
+    if (SQL_SUCCEEDED(SQLDriverConnect(polaczenie, nullptr, tekst, static_cast<SQLSMALLINT>(napis.size()),
+                                       odpowiedz.data(), odpowiedz.size(), nullptr, SQL_DRIVER_NOPROMPT))) {
+      const auto atrybuty =
+          RozbierzNapisOdbc(QString::fromUtf8(reinterpret_cast<const char*>(odpowiedz.data())));
+      tylkoOdczyt = std::any_of(atrybuty.begin(), atrybuty.end(), [](const AtrybutOdbc& a) {
+        return a.klucz.compare(QLatin1String("ReadOnly"), Qt::CaseInsensitive) == 0 &&
+               a.wartosc == QLatin1String("1");
+      });
+      SQLDisconnect(polaczenie);
+    }
+    SQLFreeHandle(SQL_HANDLE_DBC, polaczenie);
+  }
+  SQLFreeHandle(SQL_HANDLE_ENV, srodowisko);
+  return tylkoOdczyt;
+}
+
 class SilnikOdbc final : public Silnik {
  public:
   SilnikOdbc(const ParametryPolaczenia& parametry, const Podsluch& podsluch) : Silnik(podsluch) {
     // The driver would take the encoding of texts from the process's locale.
     qputenv("PGCLIENTENCODING", "UTF8");
     WylaczDziennikSterownika();
+    const std::string napis = NapisPolaczenia(parametry).toStdString();
     try {
-      soci::connection_parameters polaczenie(soci::odbc, NapisPolaczenia(parametry).toStdString());
+      soci::connection_parameters polaczenie(soci::odbc, napis);
       polaczenie.set_option(soci::odbc_option_driver_complete, std::to_string(SQL_DRIVER_NOPROMPT));
       m_sesja.open(polaczenie);
       if (soci::is_odbc_error(SQLAllocHandle(SQL_HANDLE_STMT, Uchwyt(), &m_sterujace)))
         throw soci::odbc_soci_error(SQL_HANDLE_DBC, Uchwyt(), "allocating a statement");
       m_jezyk = WybierzJezyk();
     } catch (const soci::soci_error& blad) {
+      if (!m_sesja.get_backend() && TylkoDoOdczytu(napis))
+        throw EBladBazy(RodzajBleduBazy::TylkoOdczyt,
+                        QStringLiteral("Opis połączenia albo źródło danych zawiera ustawienie ReadOnly=1; "
+                                       "program go nie przyjmuje, trzeba je usunąć."),
+                        {});
       Rzuc(blad, {});
     }
   }
@@ -178,20 +186,15 @@ class SilnikOdbc final : public Silnik {
     });
   }
 
-  Rozpoznanie Rozpoznaj(const soci::soci_error& blad) override {
+  PrzyczynaBledu Rozpoznaj(const soci::soci_error& blad) override {
     if (m_stan == Stan::Otwarta) m_stan = Stan::Zepsuta;
     const auto* odbc = dynamic_cast<const soci::odbc_soci_error*>(&blad);
-    if (!odbc) return {RodzajBleduBazy::Inny, QString::fromStdString(blad.get_error_message())};
-    const auto* stan = reinterpret_cast<const char*>(odbc->odbc_error_code());
+    if (!odbc) return {.szczegoly = QString::fromStdString(blad.get_error_message())};
+    const std::string_view stan = reinterpret_cast<const char*>(odbc->odbc_error_code());
     const QString tresc = TrescBledu(reinterpret_cast<const char*>(odbc->odbc_error_message()));
-    if (!m_sesja.get_backend()) return {RodzajOdmowyPolaczenia(stan, tresc), tresc};
-    if (!Zerwane()) {
-      const auto zNumeru = m_jezyk ? m_jezyk->RodzajBledu(odbc->native_error_code()) : std::nullopt;
-      return {zNumeru.value_or(RodzajStanu(stan)), tresc};
-    }
-    m_zerwany = true;
-    m_stan = Stan::Brak;  // the server undoes what it had of it
-    return {RodzajBleduBazy::Polaczenie, tresc};
+    PrzyczynaBledu przyczyna = Przyczyna(stan, tresc, odbc->native_error_code());
+    przyczyna.szczegoly = tresc + QStringLiteral(" (%1)").arg(QLatin1String(stan));
+    return przyczyna;
   }
 
  private:
@@ -237,11 +240,23 @@ class SilnikOdbc final : public Silnik {
     }
   }
 
+  PrzyczynaBledu Przyczyna(std::string_view stan, const QString& tresc, long numer) {
+    if (!m_sesja.get_backend()) return PrzyczynaOdmowyPolaczenia(stan, tresc);
+    if (Zerwane()) {
+      m_zerwany = true;
+      m_stan = Stan::Brak;  // the server undoes what it had of it
+      return {.rodzaj = RodzajBleduBazy::Polaczenie};
+    }
+    if (const auto zNumeru = m_jezyk ? m_jezyk->RodzajBledu(numer) : std::nullopt)
+      return {.rodzaj = *zNumeru};
+    return PrzyczynaStanu(stan);
+  }
+
   // Without a connection the driver has no state of the standard's for a refused user.
-  static RodzajBleduBazy RodzajOdmowyPolaczenia(std::string_view stan, const QString& tresc) {
-    if (stan == "01000") return RodzajBleduBazy::Sterownik;  // the driver's library
+  static PrzyczynaBledu PrzyczynaOdmowyPolaczenia(std::string_view stan, const QString& tresc) {
+    if (stan == "01000") return {.rodzaj = RodzajBleduBazy::Sterownik};  // the driver's library
     const bool haslo = tresc.contains(QLatin1String("password")) || tresc.contains(QLatin1String("hasł"));
-    return haslo ? RodzajBleduBazy::Logowanie : RodzajStanu(stan);
+    return haslo ? PrzyczynaBledu{.rodzaj = RodzajBleduBazy::Logowanie} : PrzyczynaStanu(stan);
   }
 
   const Dialekt* WybierzJezyk() {

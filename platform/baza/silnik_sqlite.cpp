@@ -24,31 +24,6 @@ using namespace sqlite_api;  // where SOCI puts SQLite's own header
 
 namespace {
 
-RodzajBleduBazy RodzajSqlite(int kod) {
-  switch (kod & 0xff) {
-    case SQLITE_FULL:
-      return RodzajBleduBazy::PelnyDysk;
-    case SQLITE_READONLY:
-      return RodzajBleduBazy::TylkoOdczyt;
-    case SQLITE_IOERR:
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-      return RodzajBleduBazy::Wejscie;
-    case SQLITE_CANTOPEN:
-      return RodzajBleduBazy::Polaczenie;
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-      return RodzajBleduBazy::Blokada;
-    case SQLITE_CONSTRAINT:
-    case SQLITE_TOOBIG:
-    case SQLITE_MISMATCH:
-    case SQLITE_RANGE:
-      return RodzajBleduBazy::Ograniczenie;
-    default:
-      return RodzajBleduBazy::Inny;
-  }
-}
-
 // The server's clock of an embedded database: local time, once a second.
 void GetDate(sqlite3_context* kontekst, int, sqlite3_value**) {
   thread_local std::time_t ostatnia = 0;
@@ -185,10 +160,13 @@ class SilnikSqlite final : public Silnik {
     return std::make_shared<PolecenieSqlite>(*Uchwyt(), m_jezyk.Przeloz(sql), kolumny, parametry);
   }
 
-  Rozpoznanie Rozpoznaj(const soci::soci_error& blad) override {
+  PrzyczynaBledu Rozpoznaj(const soci::soci_error& blad) override {
     const auto* sqlite = dynamic_cast<const soci::sqlite3_soci_error*>(&blad);
     const int kod = sqlite ? sqlite->result() : Uchwyt() ? sqlite3_errcode(Uchwyt()) : SQLITE_ERROR;
-    return {RodzajSqlite(kod), QString::fromStdString(blad.get_error_message())};
+    const int dokladny = Uchwyt() ? sqlite3_extended_errcode(Uchwyt()) : kod;
+    PrzyczynaBledu przyczyna = PrzyczynaStanu(StanSqlite((dokladny & 0xff) == (kod & 0xff) ? dokladny : kod));
+    przyczyna.szczegoly = QString::fromStdString(blad.get_error_message());
+    return przyczyna;
   }
 
  private:

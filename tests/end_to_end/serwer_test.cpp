@@ -1,3 +1,6 @@
+#include <QRegularExpression>
+
+#include "platform/baza/dialekt.h"
 #include "tests/end_to_end/pliki_towarow.h"
 
 namespace {
@@ -28,7 +31,32 @@ TEST_F(Serwer, PrzyczynyOdmowyPolaczenia) {
     EXPECT_EQ(wynik.status, 3);
     EXPECT_TRUE(wynik.bledy.contains(powod)) << wynik.bledy.toStdString();
     EXPECT_FALSE((wynik.bledy + wynik.wyjscie).contains(haslo) || wynik.bledy.contains(u"tajne"_s));
+    // What the driver says, for whoever looks after the server.
+    for (const QString& linia : wynik.bledy.split(u'\n'))
+      EXPECT_TRUE(linia.startsWith(u"Szczegóły: "_s) ||
+                  !linia.contains(QRegularExpression(u"FATAL|ERROR|failed|select |Data source"_s)))
+          << linia.toStdString();
   }
+}
+
+// Refused before anything is made.
+TEST_F(Serwer, NowaBazaTylkoWUnikodzie) {
+  const Stanowisko s;
+  const QString nazwa = s.Serwer().Nazwa() + u"_latin2"_s;
+  BazaSerwera::Zlec(
+      ("create database " + nazwa + " encoding 'LATIN2' locale_provider libc locale 'C' template template0")
+          .toStdString());
+  s.Zapisz(u"latin2.odbc"_s, (BazaSerwera::Serwer() + u";Database="_s + nazwa).toStdString());
+  const Wynik wynik = s.Uruchom({u"nowa-baza"_s, u"odbc:@latin2.odbc"_s});
+  EXPECT_EQ(wynik.status, 3);
+  EXPECT_TRUE(wynik.bledy.contains(u"koduje teksty jako LATIN2, a nie UTF8"_s)) << wynik.bledy.toStdString();
+  {
+    TVLTBazaDanych baza(
+        *ParametryPolaczenia::ZTekstu(u"odbc:"_s + BazaSerwera::Serwer() + u";Database="_s + nazwa));
+    baza.Polacz();
+    EXPECT_FALSE(baza.Otworz(baza.Jezyk().ListaTabel(), {TypPola::Tekst}).Nastepny());
+  }
+  BazaSerwera::Zlec(("drop database " + nazwa).toStdString());
 }
 
 // The rights that the documentation names are enough, and without one of them the check says so.

@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -170,14 +171,20 @@ TEST_F(Baza, CzytaniaNieTrzymajaTransakcji) {
 }
 
 TEST_F(Baza, RodzajeBledow) {
+  const QRegularExpression kAngielskie(
+      QStringLiteral("error|database|locked|cannot|unable|transaction|insert|select|full|constraint"),
+      QRegularExpression::CaseInsensitiveOption);
   TVLTBazaDanych druga;
   b.Polacz(druga);
   b.baza.StartTransakcji();
-  const auto rodzaj = [](auto&& praca) {
+  const auto rodzaj = [&](auto&& praca) {
     try {
       praca();
     } catch (const EBladBazy& blad) {
       EXPECT_FALSE(blad.MacMessage().isEmpty());
+      // The words of a library only behind ours.
+      for (const QString& linia : blad.Tresc().split(u'\n'))
+        EXPECT_TRUE(linia.startsWith(kSzczegoly) || !linia.contains(kAngielskie)) << linia.toStdString();
       return blad.Rodzaj();
     }
     ADD_FAILURE() << "no error";
@@ -191,6 +198,19 @@ TEST_F(Baza, RodzajeBledow) {
               druga.ExecSQL("insert into T (Nazwa) values ('x')");
             }),
             RodzajBleduBazy::TylkoOdczyt);
+  Dodaj(QStringLiteral("dwa"));
+  for (const auto& [sql, powod] :
+       {std::pair{"insert into T (Nazwa) values ('dwa')", u"Taki wiersz już jest w bazie."},
+        {"insert into NieMa values (1)",
+         serwer ? u"W bazie brakuje tabeli" : u"Baza jest zbudowana inaczej"}}) {
+    EXPECT_NE(rodzaj([&] { b.baza.ExecSQL(sql); }), RodzajBleduBazy::Polaczenie);
+    try {
+      b.baza.ExecSQL(sql);
+    } catch (const EBladBazy& blad) {
+      EXPECT_TRUE(blad.MacDescription().startsWith(powod)) << blad.MacDescription().toStdString();
+      EXPECT_TRUE(blad.MacDescription().contains(u"\r\nSzczegóły: ")) << blad.MacDescription().toStdString();
+    }
+  }
   if (serwer) return;
   b.baza.ExecSQL("pragma max_page_count = 6");
   EXPECT_EQ(rodzaj([&] { Dodaj(QString(200'000, QLatin1Char('x'))); }), RodzajBleduBazy::PelnyDysk);

@@ -57,8 +57,8 @@ TEST(SterownikOdbc, NiePiszeDziennika) {
   for (const QString& nazwa :
        {u"psqlodbc_"_s, u"mylog_"_s, u"psqlodbc_test_platform_"_s, u"mylog_test_platform_"_s})
     EXPECT_TRUE(QFile::link(cel, u"/tmp/"_s + nazwa + koniec));
-  const auto dzienniki = [] {
-    return QDir(u"/tmp"_s).entryList({u"*%1.log"_s.arg(getpid())}, QDir::System | QDir::Files);
+  const auto dzienniki = [&] {
+    return QDir(u"/tmp"_s).entryList({u'*' + koniec}, QDir::System | QDir::Files);
   };
   const QStringList podlozone = dzienniki();
   int polaczen = 0;
@@ -230,6 +230,19 @@ TEST_F(Serwer, RodzajBleduZeStanuSql) {
     } catch (const EBladBazy& blad) {
       EXPECT_EQ(blad.Rodzaj(), rodzaj) << stan;
     }
+}
+
+TEST_F(Serwer, PolaczenieTylkoDoOdczytuMowiCzemu) {
+  ParametryPolaczenia parametry = b().baza.Parametry();
+  parametry.cel += u";ReadOnly=1"_s;
+  TVLTBazaDanych inna(parametry);
+  try {
+    inna.Polacz();
+    ADD_FAILURE() << "connected";
+  } catch (const EBladBazy& blad) {
+    EXPECT_EQ(blad.Rodzaj(), RodzajBleduBazy::TylkoOdczyt);
+    EXPECT_TRUE(blad.MacDescription().section(u'\r', 0, 0).contains(u"ReadOnly=1"_s)) << blad.what();
+  }
 }
 
 // Two importing programs take turns; who waits for longer than allowed is told.

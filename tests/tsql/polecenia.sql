@@ -727,6 +727,12 @@ select T.name, C.name
   and T.object_id = I.object_id
   and T.schema_id = schema_id();
 
+select T.name, W.name
+  from sys.triggers W, sys.tables T
+  where W.parent_id = T.object_id
+  and W.is_disabled = 0
+  and T.schema_id = schema_id();
+
 -- ==== Ustawienia ====
 
 delete from Konfiguracja

@@ -39,6 +39,7 @@ std::string NaSqlite(const std::string& tsql) {
   if (tsql == jezyk.ListaTabel()) return sqlite.ListaTabel();
   if (tsql == jezyk.KolumnyBazy()) return sqlite.KolumnyBazy();
   if (tsql == jezyk.IndeksyBazy()) return sqlite.IndeksyBazy();
+  if (tsql == jezyk.WyzwalaczeBazy()) return sqlite.WyzwalaczeBazy();
   static const std::pair<std::regex, const char*> zamiany[] = {
       {std::regex("\\bN'"), "'"},
       {std::regex(R"(substring\(%%physloc%%.*%%physloc%%, 7, 1\))"), "rowid"},
