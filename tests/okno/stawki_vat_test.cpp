@@ -83,7 +83,7 @@ TEST_F(StawkiVatTest, ZapisZmienionegoZestawuPoPotwierdzeniu) {
   const auto& pytanie = rozmowa.pytania[0];
   EXPECT_EQ(pytanie.komunikat.naglowek, u"UWAGA: zmiana stawek VAT"_s);
   EXPECT_EQ(pytanie.komunikat.tekst, u"Czy na pewno chcesz zmienić aktualny zestaw stawek VAT ?"_s);
-  EXPECT_TRUE(pytanie.przyciski & QMessageBox::Cancel);
+  EXPECT_EQ(pytanie.domyslny, QMessageBox::Cancel);
 
   TFmVLTStawkiVat bezZmian(nullptr, kontekst);
   Kliknij(bezZmian, "Zapisz");
@@ -114,7 +114,7 @@ TEST_F(StawkiVatTest, RozmiarOknaJestPamietany) {
 }
 
 TEST_F(StawkiVatTest, OpisyPelnychStawekIZwolnionej) {
-  UstawStawki({2300, 800, 550, 10000, 0, -1});
+  UstawStawki({2300, 800, 550, 10000, 9900, 0, -1});
   DialogOpisowVat dialog(nullptr, kontekst,
                          {OpisVat(u" 8stary"_s), OpisVat(u"-1"_s, u"zwolniona"_s), OpisVat(u"7"_s, u"G"_s)});
   dialog.show();
@@ -122,17 +122,17 @@ TEST_F(StawkiVatTest, OpisyPelnychStawekIZwolnionej) {
   QStringList wiersze;
   for (int w = 0; w < tabela.rowCount(); ++w)
     wiersze << tabela.verticalHeaderItem(w)->text() + u'=' + tabela.item(w, 0)->text();
-  EXPECT_EQ(wiersze, (QStringList{"23 %=", " 8 %=stary", " 0 %=", "ZW=zwolniona"}));
+  EXPECT_EQ(wiersze, (QStringList{"99 %=", "23 %=", " 8 %=stary", " 0 %=", "ZW=zwolniona"}));
   EXPECT_TRUE(Znajdz<QLabel>(dialog, "lbBezOpisu").text().endsWith(u": 100 %; 5,5 %"_s));
 
   // a cell still being edited counts, cut to what an entry holds
-  tabela.setCurrentCell(2, 0);
-  tabela.editItem(tabela.item(2, 0));
+  tabela.setCurrentCell(3, 0);
+  tabela.editItem(tabela.item(3, 0));
   auto* const edytor = tabela.viewport()->findChild<QLineEdit*>();
   ASSERT_NE(edytor, nullptr);
   edytor->insert(u"0123456789abcdefgh"_s);
   Kliknij(dialog, "Zapisz");
-  EXPECT_EQ(Opisy(dialog), "23|8 stary|0 0123456789abcde|-1zwolniona");
+  EXPECT_EQ(Opisy(dialog), "99|23|8 stary|0 0123456789abcde|-1zwolniona");
 }
 
 TEST_F(StawkiVatTest, ZmianaStawekZostawiaWpisaneOpisy) {
