@@ -41,7 +41,7 @@ OdczytTowarow::OdczytTowarow(TVLTBazaDanych& baza, int stany)
                  {TypPola::Calkowite, TypPola::Calkowite, TypPola::Dziesietne}),
       m_dostawcy(baza,
                  "select TowId, KontrId from TowDostawca where TowId between :Od and :Do"
-                 " order by TowId, Kolejnosc",
+                 " order by TowId, Kolejnosc, KontrId",
                  {TypPola::Calkowite, TypPola::Calkowite}),
       m_stany(StrumienStanow(baza, stany)),
       m_jedenMagazyn(stany > kWszystkieMagazyny) {}

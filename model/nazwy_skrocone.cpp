@@ -209,13 +209,17 @@ std::optional<TDmVLTNazwySkrocone::Uzycie> TDmVLTNazwySkrocone::ZnajdzUzycie(con
     std::string_view zWlasnym;  // leaves out the good with the given identifier
     std::string_view bez;
   };
+#define ZORVIK_ZE_SKROTEM "select TowId, Nazwa, Aktywny from Towar where Skrot = :Skrot"
+#define ZORVIK_ZE_SKROTEM_KODU                                 \
+  "select T.TowId, T.Nazwa, T.Aktywny from Towar T, KodDod KD" \
+  " where T.TowId = KD.TowId and KD.Skrot = :Skrot"
+  // Of several goods the one with the lowest identifier is named.
   constexpr Pytanie kPytania[] = {
-      {"select TowId, Nazwa, Aktywny from Towar where Skrot = :Skrot and   TowId <> :TowId",
-       "select TowId, Nazwa, Aktywny from Towar where Skrot = :Skrot"},
-      {"select T.TowId, T.Nazwa, T.Aktywny from Towar T, KodDod KD"
-       " where T.TowId = KD.TowId and KD.Skrot = :Skrot and   T.TowId <> :TowId",
-       "select T.TowId, T.Nazwa, T.Aktywny from Towar T, KodDod KD"
-       " where T.TowId = KD.TowId and KD.Skrot = :Skrot"}};
+      {ZORVIK_ZE_SKROTEM " and   TowId <> :TowId order by TowId", ZORVIK_ZE_SKROTEM " order by TowId"},
+      {ZORVIK_ZE_SKROTEM_KODU " and   T.TowId <> :TowId order by T.TowId",
+       ZORVIK_ZE_SKROTEM_KODU " order by T.TowId"}};
+#undef ZORVIK_ZE_SKROTEM
+#undef ZORVIK_ZE_SKROTEM_KODU
   if (NaPewnoWolny(skrot, wlasneId)) return std::nullopt;
   const Parametr parametry[] = {{"Skrot", skrot}, {"TowId", wlasneId}};
   const TypPola kolumny[] = {TypPola::Calkowite, TypPola::Tekst, TypPola::Calkowite};

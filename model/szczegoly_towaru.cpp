@@ -138,8 +138,8 @@ void DostawcyTowaru::Wyczysc() {
 void DostawcyTowaru::Wczytaj(TVLTBazaDanych& baza, int towId) {
   m_dostawcy.clear();
   const Parametr parametry[] = {{"TowId", towId}};
-  for (auto odczyt =
-           baza.Otworz(ZORVIK_SELECT_DOSTAWCOW "= :TowId order by D.Kolejnosc", kKolumnyDostawcow, parametry);
+  for (auto odczyt = baza.Otworz(ZORVIK_SELECT_DOSTAWCOW "= :TowId order by D.Kolejnosc, D.KontrId",
+                                 kKolumnyDostawcow, parametry);
        odczyt.Nastepny();)
     m_dostawcy.push_back(OdczytanyDostawca(odczyt));
   m_zBazy = m_dostawcy;
@@ -148,7 +148,7 @@ void DostawcyTowaru::Wczytaj(TVLTBazaDanych& baza, int towId) {
 void DostawcyTowaru::Wczytaj(TVLTBazaDanych& baza, const ListaId& towary,
                              const std::function<void(int towId, Dostawca)>& przyjmij) {
   static const std::string sql =
-      ZORVIK_SELECT_DOSTAWCOW + ListaId::Warunek() + " order by D.TowId, D.Kolejnosc";
+      ZORVIK_SELECT_DOSTAWCOW + ListaId::Warunek() + " order by D.TowId, D.Kolejnosc, D.KontrId";
   CzytajWielu(baza, sql, kKolumnyDostawcow, towary, OdczytanyDostawca, przyjmij);
 }
 

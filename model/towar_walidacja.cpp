@@ -41,11 +41,9 @@ class TDmVLTTowar::Walidacja {
     const QString cku = m_t.CKU();
     if (!m_o.unikalneCKU || cku.isEmpty()) return {};
     const Parametr parametry[] = {{"CKU", cku}, {"TowId", m_t.Id()}};
-    auto odczyt = m_t.CzyNowy()
-                      ? Otworz("select TowId, Nazwa, Aktywny from Towar where CKU = :CKU",
-                               std::span(parametry).first(1))
-                      : Otworz("select TowId, Nazwa, Aktywny from Towar where CKU = :CKU and TowId <> :TowId",
-                               parametry);
+    auto odczyt =
+        Otworz("select TowId, Nazwa, Aktywny from Towar where CKU = :CKU and TowId <> :TowId order by TowId",
+               parametry);
     if (!odczyt.Nastepny()) return {};
     const ZnalezionyTowar inny{static_cast<int>(odczyt[0].AsInteger()), odczyt[1].AsString(),
                                odczyt[2].AsInteger() != 0};
