@@ -31,7 +31,7 @@ constexpr TabelaPorownania kTabele[] = {
     {"TowWartosc", "TowId," KOLUMNY_WARTOSCI_PARAMETRU, "TowId,ParId"},
     {"TowDostawca", "TowId," KOLUMNY_DOSTAWCY, "TowId,KontrId"},
     {"Kontrahent", "KontrId," KOLUMNY_KONTRAHENTA, "KontrId"},
-    {"Osoba", "rowid,KontrId," KOLUMNY_OSOBY, "rowid"},
+    {"Osoba", "KontrId," KOLUMNY_OSOBY, "KontrId,rowid"},
     {"Sklep", "SklepId,OstImport,DataBO,KolejnyWDniuBO,OstEksport,PotwEksport,MagId," KOLUMNY_SKLEPU,
      "SklepId"},
     {"DziennikZmian", "rowid," KOLUMNY_DZIENNIKA, "rowid"},

@@ -3,6 +3,7 @@
 #include <span>
 
 #include "model/bledy.h"
+#include "model/kolejnosc_osob.h"
 #include "model/zbieracz_osob.h"
 
 namespace {
@@ -17,7 +18,9 @@ OdczytKontrahentow::OdczytKontrahentow(TVLTBazaDanych& baza)
     : m_kontrahenci(baza, "Kontrahent", kKontrahent),
       m_sklepy(baza, "Sklep", kSklep),
       m_osoby(baza,
-              "select KontrId, Nazwisko from Osoba where KontrId between :Od and :Do order by KontrId, rowid",
+              std::string("select KontrId, Nazwisko from Osoba where KontrId between :Od and :Do"
+                          " order by KontrId, ") +
+                  KolejnoscOsob(baza),
               {TypPola::Calkowite, TypPola::Tekst}) {}
 
 void OdczytKontrahentow::Strona(int od, int doId) {

@@ -5,6 +5,7 @@
 #include "exchange/pola_rekordu.h"
 #include "model/bledy.h"
 #include "model/bufor_nip.h"
+#include "model/szerokosci.h"
 #include "run/kolejka_rekordow.h"
 #include "run/liczniki.h"
 #include "run/raport_problemow.h"
@@ -29,7 +30,7 @@ void RekordKontrahenta::Przetworz(const RekordPliku& rekord) {
   try {
     if (const Odmowa odmowa = Przeprowadz(pola)) m_import.raport.Zglos(*odmowa);
   } catch (const EVLTWDError& blad) {
-    m_import.raport.Zglos(blad.MacMessage());
+    m_import.raport.Zglos(TekstDoRaportu(blad));
   }
 }
 

@@ -57,12 +57,26 @@ auto ZnajdzKolumne(const std::vector<Kolumna>& kolumny, const std::string& nazwa
                       [&](const Kolumna& k) { return k.nazwa == Napis(nazwa).toLower(); });
 }
 
-void SprawdzKolumne(const KolumnaSchematu& wzor, const std::vector<Kolumna>& kolumny, bool serwer,
-                    QStringList& braki) {
+// The one column that the program can do without; it came later than the others.
+constexpr char16_t kKolejnoscOsob[] = u"Osoba.OsId";
+
+QString SkutekBrakuKolejnosci(const Dialekt& jezyk, bool serwer) {
+  const QString skutek =
+      serwer
+          ? u"ale poprawianie danych może tę kolejność zmieniać. Dodaje ją polecenie: alter table Osoba add OsId "_s +
+                Napis(jezyk.TypAutoKlucz())
+          : u"bo kolejność wyznacza miejsce wiersza w pliku; mają ją nowo zakładane bazy"_s;
+  return u", która przechowuje kolejność osób uprawnionych do odbioru faktur. Import i eksport działają bez niej, "_s +
+         skutek;
+}
+
+void SprawdzKolumne(const KolumnaSchematu& wzor, const std::vector<Kolumna>& kolumny, const Dialekt& jezyk,
+                    bool serwer, QStringList& braki) {
   const QString nazwa = Napis(wzor.tabela) + u'.' + Napis(wzor.nazwa);
   const auto kolumna = ZnajdzKolumne(kolumny, wzor.nazwa);
   if (kolumna == kolumny.end()) {
-    braki << u"Brak kolumny %1"_s.arg(nazwa);
+    braki << u"Brak kolumny %1"_s.arg(nazwa) +
+                 (nazwa == kKolejnoscOsob ? SkutekBrakuKolejnosci(jezyk, serwer) : QString());
     return;
   }
   for (const Rodzaj& rodzaj : kRodzaje) {
@@ -107,7 +121,10 @@ void SprawdzIndeksy(TVLTBazaDanych& baza, const Tabele& tabele, QStringList& bra
   const QStringList indeksy = Pary(baza, baza.Jezyk().IndeksyBazy());
   for (const auto& [tabela, kolumna] : IndeksySchematu()) {
     const QString nazwa = Napis(tabela) + u'.' + Napis(kolumna);
-    if (tabele.count(Napis(tabela).toLower()) > 0 && !indeksy.contains(nazwa.toLower()))
+    const auto jest = tabele.find(Napis(tabela).toLower());
+    const bool jestKolumna =
+        jest != tabele.end() && ZnajdzKolumne(jest->second, kolumna) != jest->second.end();
+    if (jestKolumna && !indeksy.contains(nazwa.toLower()))
       braki << u"Brak indeksu zaczynającego się od kolumny %1: praca będzie bardzo wolna"_s.arg(nazwa);
   }
 }
@@ -217,9 +234,9 @@ QStringList SprawdzBaze(TVLTBazaDanych& baza) {
     }
     const qsizetype dotad = braki.size();
     for (const KolumnaSchematu& wzor : KolumnySchematu())
-      if (wzor.tabela == prawa.tabela) SprawdzKolumne(wzor, tabela->second, serwer, braki);
+      if (wzor.tabela == prawa.tabela) SprawdzKolumne(wzor, tabela->second, baza.Jezyk(), serwer, braki);
     for (const KolumnaSchematu& wzor : KolumnySchematu())
-      if (wzor.tabela == prawa.tabela) {
+      if (wzor.tabela == prawa.tabela && ZnajdzKolumne(tabela->second, wzor.nazwa) != tabela->second.end()) {
         SprawdzSzerokosc(baza, wzor, tabela->second, braki);
         if (wzor.znacznik == "{klucz}" && prawa.dopisuje) SprawdzAutoKlucz(baza, wzor, braki);
       }

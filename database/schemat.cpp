@@ -8,6 +8,7 @@
 
 #include "platform/baza/dialekt.h"
 #include "platform/baza/sesja.h"
+#include "platform/baza/szerokosci.h"
 #include "platform/baza/transakcja.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -121,9 +122,13 @@ constexpr std::string_view kSchemat[] = {
         PotwEksport {czas},
         MagId {calk} references Magazyn (MagId)))",
     "create index SklepNumer on Sklep (NrSklepu)",
+    // OsId keeps the persons in the order of their entry. Databases made before it do without: there the
+    // place
+    // of a row tells, which a server may change with every update.
     R"(create table Osoba (
         KontrId {calk} not null references Kontrahent (KontrId),
-        Nazwisko {tekst} not null))",
+        Nazwisko {tekst} not null,
+        OsId {klucz}))",
     "create index OsobaKontr on Osoba (KontrId)",
 
     // Goods
@@ -266,11 +271,6 @@ constexpr Wyzwalacz kWyzwalacze[] = {
     {"MagazynIstw", "Magazyn", "MagId",
      "insert into Istw (TowId, MagId) select T.TowId, N.MagId from Towar T, {nowe} N"},
 };
-
-// Servers bound their texts. The longest line of a file's field is far shorter; a line of the change log
-// holds some of them.
-constexpr int kZnakowTekstu = 1000;
-constexpr int kZnakowDlugiego = 100'000;
 
 constexpr PrawaTabeli kPrawa[] = {
     {"Asort", true, true, false, "Nazwa"},         {"JM", true, true, false, "Nazwa"},

@@ -12,6 +12,7 @@
 #include "model/kontekst.h"
 #include "model/nazwy_skrocone.h"
 #include "model/stawki_vat.h"
+#include "model/szerokosci.h"
 #include "model/szukanie_towaru.h"
 #include "model/zapas_towarow.h"
 #include "platform/baza/sesja.h"
@@ -70,7 +71,7 @@ PoRekordzie RekordTowaru::Przetworz(const RekordPliku& rekord) {
     if (blad.KonczyPrzebieg()) throw;
     Pomin(u"Nie można zapisać towaru"_s);
   } catch (const EVLTWDError& blad) {
-    Pomin(blad.MacMessage());
+    Pomin(TekstDoRaportu(blad));
   }
   return krok == Krok::Stop ? PoRekordzie::Stop : PoRekordzie::Dalej;
 }
@@ -196,12 +197,13 @@ RekordTowaru::Krok RekordTowaru::SprawdzTaSamaNazwe() {
   return DodajJakoKodDodatkowy(*towId);
 }
 
-// Only the exact text counts, so a wider search for similar names first would change nothing.
+// Only the exact text counts, so a wider search for similar names first would change nothing. Of several
+// goods the one with the lowest identifier.
 std::optional<int> RekordTowaru::TowarZNazwa() const {
   const TVLTBuforTowarow& bufor = m_import.bufor;
   if (bufor.BrakJestPewny() && !bufor.MozeByNazwa(m_nazwa)) return std::nullopt;
-  auto odczyt = m_import.sesja.baza.Otworz("select TowId from Towar where Nazwa=:Nazwa", {TypPola::Calkowite},
-                                           {{"Nazwa", m_nazwa}});
+  auto odczyt = m_import.sesja.baza.Otworz("select TowId from Towar where Nazwa=:Nazwa order by TowId",
+                                           {TypPola::Calkowite}, {{"Nazwa", m_nazwa}});
   if (!odczyt.Nastepny()) return std::nullopt;
   return static_cast<int>(odczyt[0].AsInteger());
 }

@@ -6,6 +6,7 @@
 #include "goods/opcje_towarow.h"
 #include "model/bledy.h"
 #include "model/kontekst.h"
+#include "model/szerokosci.h"
 #include "platform/baza/sesja.h"
 #include "platform/baza/transakcja.h"
 #include "run/liczniki.h"
@@ -29,14 +30,15 @@ void UstawPrecyzje(TDmVLTWpisSlownika& wpis) {
 
 void BezDodatkow(TDmVLTWpisSlownika& /*wpis*/) {}
 
-// Runs a save; false when the record or the database refused the values. What would meet every other record
-// as well goes on to the end of the run.
+// Runs a save; false when the record or the database refused the values. A text that is too long is told by
+// the record of the file; what would meet every other record as well goes on to the end of the run.
 template <typename Zapis>
 bool Udalo(Zapis zapis) {
   try {
     zapis();
     return true;
-  } catch (const EVLTWDError&) {
+  } catch (const EVLTWDError& blad) {
+    if (ZaDlugiTekst(blad)) throw;
     return false;
   } catch (const EBladBazy& blad) {
     if (blad.KonczyPrzebieg()) throw;

@@ -6,6 +6,7 @@
 #include "model/bledy.h"
 #include "model/bufor_towarow.h"
 #include "model/nazwy_skrocone.h"
+#include "model/szerokosci.h"
 #include "model/towar.h"
 #include "run/operator.h"
 #include "run/raport_problemow.h"
@@ -14,8 +15,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString TekstOdmowy(int kod, bool brakKodu) {
-  switch (kod) {
+QString TekstOdmowy(const EVLTWDError& odmowa, bool brakKodu) {
+  if (ZaDlugiTekst(odmowa)) return TekstDoRaportu(odmowa);
+  switch (odmowa.MacCode()) {
     case 2840:
       return brakKodu ? u"Brak nazwy i kodu towaru"_s : u"Brak nazwy towaru"_s;
     case 2816:
@@ -55,7 +57,7 @@ ZapisTowaru::Wynik ZapisTowaru::Zapisz(const QString& rezygnacja) {
       return Wynik::Zapisany;
     } catch (const EVLTWDError& odmowa) {
       if (WyreczWPoprawianiu(odmowa)) continue;
-      const QString tekst = TekstOdmowy(odmowa.MacCode(), m_towar.Kod().trimmed().isEmpty());
+      const QString tekst = TekstOdmowy(odmowa, m_towar.Kod().trimmed().isEmpty());
       switch (
           PoprawLubPomin(m_import.oper, m_towar, {tekst, odmowa}, u"Zignorować ten towar? Jesteś pewny?"_s)) {
         case Poprawka::Poprawiono:
@@ -63,7 +65,7 @@ ZapisTowaru::Wynik ZapisTowaru::Zapisz(const QString& rezygnacja) {
         case Poprawka::Stop:
           return Wynik::Stop;
         case Poprawka::Zrezygnowano:
-          m_import.raport.Zglos(rezygnacja);
+          m_import.raport.Zglos(ZaDlugiTekst(odmowa) ? tekst : rezygnacja);
           return Wynik::Pominiety;
       }
     }

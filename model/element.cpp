@@ -39,6 +39,7 @@ void TDmVLTElement::Wczytaj(int id) {
   else
     Query.Open();
   if (Query.IsEmpty()) throw EVLTWDError(2001);
+  m_znanyW = Context.baza.Transakcja();
   AfterLoad(false, id);
 }
 
@@ -74,7 +75,9 @@ int TDmVLTElement::Zapisz() {
     PrzyjmijCudzeZmiany();
     UpdateRecord(id);
   }
+  const long long transakcja = Context.baza.Transakcja();
   jednostka.Zatwierdz();
+  m_znanyW = transakcja;
   if (nowy) PoleId().SetInteger(id);
   Query.ZatwierdzZmiany();
   AfterSave();
@@ -87,9 +90,11 @@ void TDmVLTElement::PrzyjmijCudzeZmiany() {
   if (const auto wiersz = ZablokowanyWiersz(Id()); !wiersz.empty())
     return Query.Odswiez(wiersz.first(zrodlo->kolumn));
   const std::string select = Context.baza.Jezyk().ZBlokadaWierszy(Query.Sql(), zrodlo->tabela, zrodlo->alias);
-  if (select.empty()) return;
+  // Where a write transaction keeps everybody else out, what was read inside of it still holds.
+  if (select.empty() && Context.baza.Transakcja() == m_znanyW) return;
   SetLoadParams(Id());  // a record that was new has none yet
-  if (!Query.OdswiezZ(select, zrodlo->kolumn)) throw EVLTWDError(2001);
+  if (!Query.OdswiezZ(select.empty() ? Query.Sql() : select, zrodlo->kolumn)) throw EVLTWDError(2001);
+  PrzyjmijCudzeSzczegoly(Id());
 }
 
 int TDmVLTElement::Id() const {

@@ -54,14 +54,16 @@ class TDmVLTElement {
   virtual const char* IdFieldName() const = 0;
   virtual bool ExtraUnsavedTest() const { return false; }
   virtual void SetLoadParams(int id) = 0;
-  // Table and alias of the row that a save writes over, in the record's select. On a server the row is read
-  // again under a lock before that: what the save does not change stays as others have left it meanwhile.
+  // Table and alias of the row that a save writes over, in the record's select. The row is read again before
+  // that, on a server under a lock: what the save does not change stays as others have left it meanwhile.
   struct ZrodloWiersza {
     const char* tabela;
     const char* alias;
     std::size_t kolumn;  // the first ones of the select are the table's own
   };
   virtual std::optional<ZrodloWiersza> BlokowanyWiersz() const { return std::nullopt; }
+  // The same for what the save writes in other tables, after the record's own row was locked.
+  virtual void PrzyjmijCudzeSzczegoly(int /*id*/) {}
   // Called before the unit of an update begins: the place for locks that are to outlive its undoing.
   virtual void PrzedJednostka() {}
   // The row where it was locked together with others; empty: it is locked alone.
@@ -88,4 +90,6 @@ class TDmVLTElement {
 
   int m_sklepId = -1;
   int m_kopiaId = -1;
+  // The write transaction in which the row was read or written last; 0: in none.
+  long long m_znanyW = 0;
 };

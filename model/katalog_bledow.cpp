@@ -48,6 +48,7 @@ constexpr PozycjaKatalogu kBledyDanych[] = {
     {2032, u"Typ obiektu nie podlega replikacji ze sklepu do centrali"},
     {2033, u"Nie można modyfikować kopii ze sklepu"},
     {2034, u"Nieprawidłowy identyfikator sklepu lub kopii elementu"},
+    {2040, u"Tekst nie mieści się w polu", {}, Forma::Szczegol},
     {2401, u"Błąd wprowadzania stawki VAT", u"Dopuszczalne wartości stawki VAT: 0..100 % oraz ZW"},
     {2402, u"Błąd wprowadzania wartości marży, narzutu albo rabatu"},
     {2404, u"Błąd wprowadzania kodu kreskowego",

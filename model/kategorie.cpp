@@ -4,6 +4,7 @@
 
 #include "model/bledy.h"
 #include "model/kontekst.h"
+#include "model/szerokosci.h"
 #include "model/tabele_dziennika.h"
 #include "model/zakresy.h"
 #include "platform/baza/sesja.h"
@@ -74,6 +75,7 @@ void TDmVLTParametr::Sprawdz() const {
   if (Rodzaj() == Typ::Lista && m_wartosci.empty()) throw EVLTWDError(kBrakWartosciParametru);
   WymagajZakresu(Od());
   WymagajZakresu(Do());
+  for (const QString& wartosc : m_wartosci) WymagajDlugosci("ParWartosc", "Wartosc", wartosc);
 }
 
 void TDmVLTParametr::ZapiszSzczegoly(int id) {

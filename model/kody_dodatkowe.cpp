@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/bledy.h"
+#include "model/szerokosci.h"
 #include "model/zakresy.h"
 #include "platform/baza/lista_id.h"
 #include "platform/baza/sesja.h"
@@ -132,6 +133,14 @@ void KodyDodatkowe::Wczytaj(TVLTBazaDanych& baza, const ListaId& towary,
   static const std::string sql = ZORVIK_SELECT_KODOW + ListaId::Warunek() + " order by TowId, Kolejnosc";
   for (auto odczyt = baza.Otworz(sql, kKolumny, towary.Parametry()); odczyt.Nastepny();)
     przyjmij(static_cast<int>(odczyt[0].AsInteger()), Odczytany(odczyt));
+}
+
+void KodyDodatkowe::WymagajMiejsca() const {
+  if (!Zmienione()) return;
+  for (const KodDodatkowy& kod : m_kody) {
+    WymagajDlugosci("KodDod", "Kod", kod.kod);
+    WymagajDlugosci("KodDod", "Skrot", kod.skrot);
+  }
 }
 
 void KodyDodatkowe::Zapisz(TVLTBazaDanych& baza, int towId) const {

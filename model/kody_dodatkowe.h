@@ -58,6 +58,8 @@ class KodyDodatkowe {
     m_kody = std::move(kody);
     m_zBazy = m_kody;
   }
+  // 2040 when a code or a short name is longer than its column.
+  void WymagajMiejsca() const;
   // Writes the differences to what was read: changed, new and removed ones. 2006 for a number that its column
   // cannot hold.
   void Zapisz(TVLTBazaDanych& baza, int towId) const;

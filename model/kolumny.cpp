@@ -5,6 +5,7 @@
 #include <QAnyStringView>
 
 #include "model/bledy.h"
+#include "model/szerokosci.h"
 #include "model/zakresy.h"
 
 namespace {
@@ -77,12 +78,16 @@ void PiszCzas(TMField& pole, const QDateTime& czas) {
     pole.SetString(tekst);
 }
 
-void WymagajZakresow(const TMCustomDataSet& wiersz) {
+// Texts that an embedded database took in long ago stay where they are.
+void WymagajMiejsca(const char* tabela, const TMCustomDataSet& wiersz) {
   for (std::size_t i = 0; i < wiersz.FieldCount(); ++i) {
     const TMField& pole = wiersz.Field(i);
     const TypPola typ = pole.Value().Typ();
     if ((typ == TypPola::Calkowite && !LiczbaWZakresie(pole.AsInteger())) ||
         (typ == TypPola::Dziesietne && !KwotaWZakresie(pole.AsFloat())))
       throw EVLTWDError(2006);
+    if (const std::string_view utf8 = pole.Value().AsUtf8();
+        typ == TypPola::Tekst && utf8.size() > kZnakowTekstu && pole.Zmienione())
+      WymagajDlugosci(tabela, pole.FieldName(), utf8);
   }
 }

@@ -46,8 +46,9 @@ void PiszTekst(TMField& pole, const QString& tekst);
 void PiszDate(TMField& pole, const QDate& data);
 void PiszCzas(TMField& pole, const QDateTime& czas);
 
-// A number outside its column: refused with 2006 before anything is written.
-void WymagajZakresow(const TMCustomDataSet& wiersz);
+// What its column does not hold: a number is refused with 2006, a text that was changed with 2040 (see
+// model/szerokosci.h), before anything is written.
+void WymagajMiejsca(const char* tabela, const TMCustomDataSet& wiersz);
 
 #define ZORVIK_NUMER(nazwa, rodzaj) nazwa,
 #define ZORVIK_OPIS(nazwa, rodzaj) {#nazwa, rodzaje::rodzaj},

@@ -1,6 +1,10 @@
 #include "model/kontrahent.h"
 
+#include <algorithm>
+#include <array>
+
 #include "model/bledy.h"
+#include "model/kolejnosc_osob.h"
 #include "model/kontekst.h"
 #include "model/tabele_dziennika.h"
 #include "model/zakresy.h"
@@ -16,10 +20,13 @@ using K = KolumnaKontrahenta;
 constexpr OpisPola kPola[] = {ZORVIK_POLA_KONTRAHENTA(ZORVIK_OPIS)};
 
 // The columns of K.* come in the order of table Kontrahent.
-#define ZORVIK_KOLUMNY_ODCZYTU                      \
-  "select K.*, S.SklepId, S.NrSklepu, S.NrSeryjny," \
-  "\r\n S.MagId,"                                   \
+#define ZORVIK_KOLUMNY_SKLEPU           \
+  "S.SklepId, S.NrSklepu, S.NrSeryjny," \
+  "\r\n S.MagId,"                       \
   "\r\n S.OstImport, S.WymImport, S.DataBO, S.KolejnyWDniuBO, S.PelnyImport, S.OstEksport, S.PotwEksport"
+#define ZORVIK_KOLUMNY_ODCZYTU "select K.*, " ZORVIK_KOLUMNY_SKLEPU
+constexpr char kSelectSklepu[] =
+    "select " ZORVIK_KOLUMNY_SKLEPU "\r\nfrom Sklep S\r\nwhere S.SklepId = :KontrId";
 constexpr char kSelect[] = ZORVIK_KOLUMNY_ODCZYTU
     "\r\nfrom Kontrahent K left outer join Sklep S on (K.KontrId = S.SklepId)"
     "\r\nwhere K.KontrId = :KontrId";
@@ -28,6 +35,7 @@ constexpr char kSelectBezOuterJoin[] = ZORVIK_KOLUMNY_ODCZYTU
     "\r\nwhere K.KontrId = :KontrId"
     "\r\nand K.KontrId *= S.SklepId";
 #undef ZORVIK_KOLUMNY_ODCZYTU
+#undef ZORVIK_KOLUMNY_SKLEPU
 
 // A new contractor: active, in no account group, numbers 0, texts empty, no card date, no shop.
 const std::vector<Wartosc>& NowyWiersz() {
@@ -60,18 +68,45 @@ void TDmVLTKontrahent::ClearDetails() {
   m_osobyZBazy.clear();
 }
 
-// "select distinct" would lose the order of the persons.
 void TDmVLTKontrahent::AfterLoad(bool isNew, int id) {
   if (isNew) {
     Query.UstawWiersz(NowyWiersz());
+    m_wierszSklepu = false;
     return;
   }
-  ZbieraczOsob osoby(m_osoby);
-  for (auto odczyt = Context.baza.Otworz("select Nazwisko from Osoba where KontrId = :KontrId order by rowid",
-                                         {TypPola::Tekst}, {{"KontrId", id}});
+  m_wierszSklepu = Sklep();
+  m_osoby = m_osobyZBazy = WczytajOsoby(id);
+}
+
+// "select distinct" would lose their order.
+std::vector<QString> TDmVLTKontrahent::WczytajOsoby(int id) {
+  if (m_selectOsob.empty())
+    m_selectOsob = std::string("select Nazwisko from Osoba where KontrId = :KontrId order by ") +
+                   KolejnoscOsob(Context.baza);
+  std::vector<QString> osoby;
+  ZbieraczOsob zbieracz(osoby);
+  for (auto odczyt = Context.baza.Otworz(m_selectOsob, {TypPola::Tekst}, {{"KontrId", id}});
        odczyt.Nastepny();)
-    osoby.Dodaj(odczyt[0].AsString());
-  m_osobyZBazy = m_osoby;
+    zbieracz.Dodaj(odczyt[0].AsString());
+  return osoby;
+}
+
+// What the save is going to write, as it stands under the lock. What the record leaves as it was is not
+// written and need not be known.
+void TDmVLTKontrahent::PrzyjmijCudzeSzczegoly(int id) {
+  if (Sklep() || BylSklepem()) {
+    const Dialekt& jezyk = Context.baza.Jezyk();
+    const std::string blokada = jezyk.ZBlokadaWierszy(kSelectSklepu, "Sklep", "S");
+    constexpr auto kSklep = std::span(kPola).subspan(K::SklepId);
+    std::array<TypPola, kSklep.size()> typy{};
+    std::transform(kSklep.begin(), kSklep.end(), typy.begin(), [](const OpisPola& p) { return p.typ; });
+    const Parametr parametr[] = {{"KontrId", id}};
+    auto odczyt = Context.baza.Otworz(blokada.empty() ? kSelectSklepu : blokada, typy, parametr);
+    m_wierszSklepu = odczyt.Nastepny();
+    for (std::size_t i = 0; m_wierszSklepu && i < kSklep.size(); ++i)
+      Query.Odswiez(K::SklepId + i, odczyt[i]);
+  }
+  if (m_osoby != m_osobyZBazy) m_osobyZBazy = WczytajOsoby(id);
 }
 
 bool TDmVLTKontrahent::Sklep() const {

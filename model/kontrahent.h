@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <vector>
 
 #include <QString>
@@ -72,9 +73,9 @@ struct KolumnaKontrahenta {
 // One contractor with its shop row and the persons authorised to receive invoices.
 // - Reading one takes two selects: the row with the shop's columns, and the persons.
 // - Zapisz refuses before its first write: EVLTWDError 2839 without a name, 2860 when another shop has the
-//   number of this one (the detail names that shop), 2006 for a number outside its column; 2001 when the row
-//   is gone. EBladBazy always passes unchanged: no value of a file can cause one. After a failure the record
-//   is as it was and can be saved again.
+//   number of this one (the detail names that shop), 2006 for a number outside its column, 2040 for a text
+//   longer than its own; 2001 when the row is gone. EBladBazy always passes unchanged: no value of a file can
+//   cause one. After a failure the record is as it was and can be saved again.
 class TDmVLTKontrahent final : public TDmVLTElement {
  public:
   explicit TDmVLTKontrahent(KontekstSesji& context);
@@ -92,7 +93,8 @@ class TDmVLTKontrahent final : public TDmVLTElement {
   bool Sklep() const;
   void UstawSklep(bool sklep);
 
-  // Surnames in the order in which they were stored or set.
+  // Surnames in the order in which they were stored or set. A save writes them only when they are not those
+  // that the database holds by then.
   int IloscOsob() const { return static_cast<int>(m_osoby.size()); }
   // 2003 for an index outside the list.
   const QString& Osoba(int indeks) const;
@@ -116,6 +118,7 @@ class TDmVLTKontrahent final : public TDmVLTElement {
   }
   void ClearDetails() override;
   void AfterLoad(bool isNew, int id) override;
+  void PrzyjmijCudzeSzczegoly(int id) override;
   int InsertRecord() override;
   void UpdateRecord(int id) override;
   void AfterSave() override;
@@ -124,10 +127,13 @@ class TDmVLTKontrahent final : public TDmVLTElement {
   void UstawStatus(bool aktywny);
 
   bool BylSklepem() const;
+  bool ZmienionySklep() const;
+  std::vector<QString> WczytajOsoby(int id);
   void Sprawdz();
   long long NajwyzszyNumerSklepu();
   std::vector<Parametr>& ParametryZapisu();
-  void ZapiszOsoby(int id) const;
+  void WstawOsoby(int id) const;
+  void PoprawOsoby(int id) const;
   void ZapiszSklep(int id);
   void WstawSklep(int id);
   QString OpisNowego() const;
@@ -137,7 +143,10 @@ class TDmVLTKontrahent final : public TDmVLTElement {
   std::vector<QString> m_osobyZBazy;
   std::vector<Parametr> m_parametry;  // kept for the next save
   NumerySklepow* m_numery = nullptr;
+  std::string m_selectOsob;
   // Of the save in hand: the number under which it stores the shop, and whether it made the shop's row.
   long long m_nrSklepu = 0;
   bool m_nowySklep = false;
+  // Whether table Sklep holds a row of the contractor, as it was read last.
+  bool m_wierszSklepu = false;
 };

@@ -1,9 +1,11 @@
+#include <algorithm>
 #include <array>
 
 #include "model/bledy.h"
 #include "model/kontekst.h"
 #include "model/kontrahent.h"
 #include "model/numery_sklepow.h"
+#include "model/szerokosci.h"
 #include "model/tabele_dziennika.h"
 #include "model/zakresy.h"
 #include "platform/baza/sesja.h"
@@ -112,7 +114,7 @@ int TDmVLTKontrahent::InsertRecord() {
   Sprawdz();
   static const std::string sql = Insert(Query);
   const int id = Context.baza.WstawZKluczem("Kontrahent", "KontrId", sql, ParametryZapisu());
-  ZapiszOsoby(id);
+  WstawOsoby(id);
   if (Sklep()) WstawSklep(id);
   Context.baza.RejestrujZmiane(kDziennikKontrahent, OpisNowego(), id, -1);
   return id;
@@ -124,8 +126,7 @@ void TDmVLTKontrahent::UpdateRecord(int id) {
   std::vector<Parametr>& parametry = ParametryZapisu();
   parametry.push_back({"KontrId", id});
   if (Context.baza.ExecSQL(sql, parametry) == 0) throw EVLTWDError(2001);
-  Context.baza.ExecSQL("delete from Osoba where KontrId = :KontrId", {{"KontrId", id}});
-  ZapiszOsoby(id);
+  PoprawOsoby(id);
   ZapiszSklep(id);
   if (m_numery && (Sklep() || BylSklepem())) m_numery->Zapomnij();
   Context.baza.RejestrujZmiane(kDziennikKontrahent, OpisZmian(), id, -1);
@@ -134,6 +135,7 @@ void TDmVLTKontrahent::UpdateRecord(int id) {
 // The shop's columns become what its row holds now; without a row there is nothing to hold.
 void TDmVLTKontrahent::AfterSave() {
   m_osobyZBazy = m_osoby;
+  m_wierszSklepu = Sklep();
   if (!Sklep()) {
     for (std::size_t i = K::NrSklepu; i < K::kIlosc; ++i)
       if (TMField& pole = Query.Field(i); !pole.IsNull()) pole.Clear();
@@ -152,7 +154,9 @@ void TDmVLTKontrahent::AfterSave() {
 // Everything that can refuse the record without writing.
 void TDmVLTKontrahent::Sprawdz() {
   if (Nazwa().trimmed().isEmpty()) throw EVLTWDError(2839);
-  WymagajZakresow(Query);
+  WymagajMiejsca("Kontrahent", Query);
+  if (m_osoby != m_osobyZBazy)
+    for (const QString& osoba : m_osoby) WymagajDlugosci("Osoba", "Nazwisko", osoba);
   m_nowySklep = false;
   if (!Sklep()) return;
   if (!Query.Field(K::NrSklepu).IsNull()) {
@@ -187,10 +191,23 @@ std::vector<Parametr>& TDmVLTKontrahent::ParametryZapisu() {
   return m_parametry;
 }
 
-void TDmVLTKontrahent::ZapiszOsoby(int id) const {
+void TDmVLTKontrahent::PoprawOsoby(int id) const {
+  if (m_osoby == m_osobyZBazy) return;
+  Context.baza.ExecSQL("delete from Osoba where KontrId = :KontrId", {{"KontrId", id}});
+  WstawOsoby(id);
+}
+
+void TDmVLTKontrahent::WstawOsoby(int id) const {
   for (const QString& osoba : m_osoby)
     Context.baza.Wstaw("insert into Osoba (KontrId, Nazwisko) values (:KontrId, :Nazwisko)",
                        {{"KontrId", id}, {"Nazwisko", osoba}});
+}
+
+bool TDmVLTKontrahent::ZmienionySklep() const {
+  constexpr K::Numer kZapisywaneSklepu[] = {K::NrSklepu, K::NrSeryjny, K::MagId, K::WymImport,
+                                            K::PelnyImport};
+  return std::any_of(std::begin(kZapisywaneSklepu), std::end(kZapisywaneSklepu),
+                     [this](K::Numer pole) { return Query.Field(pole).Zmienione(); });
 }
 
 void TDmVLTKontrahent::ZapiszSklep(int id) {
@@ -201,13 +218,8 @@ void TDmVLTKontrahent::ZapiszSklep(int id) {
     Context.baza.ExecSQL("delete from Sklep where SklepId = :SklepId", {{"SklepId", id}});
     return;
   }
-  if (!Context.baza
-           .Otworz("select SklepId from Sklep where SklepId = :SklepId", {TypPola::Calkowite},
-                   {{"SklepId", id}})
-           .Nastepny()) {
-    WstawSklep(id);
-    return;
-  }
+  if (!m_wierszSklepu) return WstawSklep(id);
+  if (!ZmienionySklep()) return;
   std::vector<Parametr> parametry;
   if (MagId() >= 0) parametry.push_back({"MagId", MagId()});
   parametry.push_back({"NrSklepu", m_nrSklepu});

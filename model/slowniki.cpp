@@ -5,6 +5,7 @@
 
 #include "model/bledy.h"
 #include "model/kontekst.h"
+#include "model/szerokosci.h"
 #include "model/tabele_dziennika.h"
 #include "platform/baza/sesja.h"
 
@@ -56,6 +57,7 @@ void TDmVLTWpisSlownika::SetLoadParams(int id) {
 
 void TDmVLTWpisSlownika::SprawdzNazwe(int wlasneId) const {
   if (Nazwa().trimmed().isEmpty()) throw EVLTWDError(m_opis.bladBrakuNazwy);
+  WymagajDlugosci(m_opis.tabela, m_opis.pola[kKolumnaNazwa].nazwa, Nazwa());
   const std::string sql = std::string("select ") + IdFieldName() + " from " + m_opis.tabela +
                           " where Nazwa = :Nazwa and " + IdFieldName() + " <> :Id";
   if (Context.baza.Otworz(sql, {TypPola::Calkowite}, {{"Nazwa", Nazwa()}, {"Id", wlasneId}}).Nastepny())

@@ -18,7 +18,8 @@ struct OpisSlownika {
 };
 
 // An entry of a dictionary with a name. Saving refuses an empty name (trimmed) and a name that another entry
-// spells the same way, with the dictionary's own codes, and writes a line of the change log.
+// spells the same way, with the dictionary's own codes, and one longer than its column (2040); it writes a
+// line of the change log.
 class TDmVLTWpisSlownika : public TDmVLTElement {
  public:
   TDmVLTWpisSlownika(KontekstSesji& context, const OpisSlownika& opis);

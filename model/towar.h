@@ -134,9 +134,9 @@ struct WynikWalidacji {
 //   registers are read when they are asked for;
 // - Zapisz first plans (validation, change description), then writes: refusals are EVLTWDError with the code
 // of the
-//   validation, 2006 for a number outside its column, 2007 when a constraint, range or length of the database
-//   refused the values (the cause is the EBladBazy). Other EBladBazy pass unchanged. After a failure the
-//   record is as it was and can be saved again.
+//   validation, 2006 for a number outside its column, 2040 for a text longer than its own, 2007 when a
+//   constraint, range or length of the database refused the values (the cause is the EBladBazy). Other
+//   EBladBazy pass unchanged. After a failure the record is as it was and can be saved again.
 // Buffers and lists of the run know nothing of a save; the run tells them when the unit has succeeded.
 class TDmVLTTowar final : public TDmVLTElement {
  public:

@@ -6,6 +6,7 @@
 #include "model/kontekst.h"
 #include "model/nazwy_skrocone.h"
 #include "model/stawki_vat.h"
+#include "model/szerokosci.h"
 #include "model/tabele_dziennika.h"
 #include "model/towar.h"
 #include "model/towar_plan.h"
@@ -168,7 +169,9 @@ TDmVLTTowar::Plan TDmVLTTowar::Zaplanuj() const {
   Plan plan;
   if (const WynikWalidacji wynik = SprawdzDoPlanu(plan); !wynik.Dobry())
     throw EVLTWDError(wynik.kod, nullptr, wynik.szczegol);
-  WymagajZakresow(Query);
+  WymagajMiejsca("Towar", Query);
+  (plan.kody ? *plan.kody : m_kody).WymagajMiejsca();
+  if (m_notatkaZmieniona) WymagajDlugosci("Notatki", "Tekst", *m_notatka, kZnakowDlugiego);
   UzupelnijWartosci(plan);
   return plan;
 }

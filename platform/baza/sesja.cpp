@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,9 @@ struct TVLTBazaDanych::Wnetrze {
   Podsluch podsluch;
   std::unique_ptr<Silnik> silnik;
   long long zatwierdzen = 0;
+  long long transakcja = 0;  // number of the last one begun
+  std::set<QString>
+      kolumny;  // "table.column" of the whole catalogue, in small letters; empty until asked for
 
   // Grouped writes. A unit's savepoint is set only when a statement of another kind comes: until
   // then the unit is undone by forgetting its rows.
@@ -152,6 +156,15 @@ const Dialekt& TVLTBazaDanych::Jezyk() const {
   return m->Polaczony().Jezyk();
 }
 
+bool TVLTBazaDanych::MaKolumne(const char* tabela, const char* kolumna) {
+  if (m->kolumny.empty())
+    for (auto odczyt = Otworz(Jezyk().KolumnyBazy(),
+                              {TypPola::Tekst, TypPola::Tekst, TypPola::Tekst, TypPola::Calkowite});
+         odczyt.Nastepny();)
+      m->kolumny.insert((odczyt[0].AsString() + u'.' + odczyt[1].AsString()).toLower());
+  return m->kolumny.contains((QLatin1String(tabela) + u'.' + QLatin1String(kolumna)).toLower());
+}
+
 void TVLTBazaDanych::Polacz() {
   Odlacz();
   const bool odbc = m->polaczenie.rodzaj == ParametryPolaczenia::Rodzaj::Odbc;
@@ -162,6 +175,7 @@ void TVLTBazaDanych::Odlacz() {
   if (GetCzyWTransakcji()) WycofTransakcji();
   m->Zapomnij();
   m->klucze.clear();
+  m->kolumny.clear();
   m->autoId = -1;
   m->silnik.reset();
 }
@@ -257,6 +271,7 @@ void TVLTBazaDanych::GrupujZapisy(bool grupuj) {
 void TVLTBazaDanych::StartTransakcji() {
   m->Zapomnij();
   m->Polaczony().Rozpocznij();
+  ++m->transakcja;
 }
 
 void TVLTBazaDanych::KoniecTransakcji() {
@@ -279,6 +294,10 @@ void TVLTBazaDanych::ZakonczOdczyt() {
 
 bool TVLTBazaDanych::GetCzyWTransakcji() const {
   return m->silnik && m->silnik->WTransakcji();
+}
+
+long long TVLTBazaDanych::Transakcja() const {
+  return GetCzyWTransakcji() ? m->transakcja : 0;
 }
 
 void TVLTBazaDanych::UstawPunkt(int poziom) {

@@ -63,6 +63,9 @@ class TVLTBazaDanych {
   // The database's name as shown in the window's caption; empty while not connected.
   QString Nazwa() const;
   const Dialekt& Jezyk() const;
+  // Whether a table of the database has the column, whatever the case of their names. The catalogue is read
+  // once for a connection.
+  bool MaKolumne(const char* tabela, const char* kolumna);
 
   // Runs a statement that returns no rows; returns the number of rows it touched.
   long long ExecSQL(std::string_view sql, std::initializer_list<Parametr> parametry = {});
@@ -108,6 +111,8 @@ class TVLTBazaDanych {
   void ZakonczOdczyt();
   // Asked of the database, which may have ended the transaction by itself (a full disk).
   bool GetCzyWTransakcji() const;
+  // Tells the open write transaction from every other one of this session; 0 while none is open.
+  long long Transakcja() const;
   // Savepoints inside an open transaction; see JednostkaZapisu for the usual way.
   void UstawPunkt(int poziom);
   void ZwolnijPunkt(int poziom);

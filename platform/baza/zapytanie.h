@@ -115,6 +115,7 @@ class TKMQuery final : public TMCustomDataSet {
   // The current row as it was read again, of its first fields: those that were not changed take the new
   // values, the others keep theirs as a change of them.
   void Odswiez(std::span<const Wartosc> wartosci);
+  void Odswiez(std::size_t indeks, const Wartosc& wartosc) { Field(indeks).Odswiez(wartosc); }
   // The same for the first `kolumn` fields by `select`, which has the same columns and parameters. False when
   // the row is gone.
   bool OdswiezZ(const std::string& select, std::size_t kolumn);

@@ -10,6 +10,7 @@
 
 #include "model/bledy.h"
 #include "model/element.h"
+#include "model/szerokosci.h"
 #include "shell/formularze/etykieta_bledu.h"
 #include "shell/kontrolki/pasek_przyciskow.h"
 #include "shell/rozmowa.h"
@@ -101,7 +102,8 @@ void TFmVLTFormularzRekordu::PokazOdmowe(const OdmowaZapisu& odmowa) {
   naglowek.setText(odmowa.tekst.trimmed());
   naglowek.show();
   if (PokazOdmoweSzczegolu(odmowa.blad)) return;
-  if (odmowa.blad.MacCode() == kPrzekroczonyZakres && !Sprawdz()) return;
+  const bool wadaPola = odmowa.blad.MacCode() == kPrzekroczonyZakres || ZaDlugiTekst(odmowa.blad);
+  if (wadaPola && !Sprawdz()) return;
   const auto pola = PolaOdmowy(odmowa.blad.MacCode());
   for (PoleFormularza* const pole : pola) pole->PokazBlad(odmowa.blad.Tresc());
   const QString tresc = TrescZPrzyczyna(odmowa.blad);

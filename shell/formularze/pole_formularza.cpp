@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "model/kontekst.h"
+#include "model/szerokosci.h"
 #include "platform/baza/zapytanie.h"
 #include "shell/formularze/etykieta_bledu.h"
 #include "shell/formularze/listy_wyboru.h"
@@ -28,7 +29,8 @@ class PoleTekstowe final : public PoleFormularza {
       : PoleFormularza(opis, podpis, kolumna, new QLineEdit),
         m_rodzaj(opis.rodzaj),
         m_edycja(static_cast<QLineEdit&>(Kontrolka())),
-        m_poprzedni(PokazKolumne(m_rodzaj, kolumna)) {
+        m_poprzedni(PokazKolumne(m_rodzaj, kolumna)),
+        m_wBazie(kolumna.OldValue().AsString()) {
     m_edycja.setText(m_poprzedni);
     m_edycja.setCursorPosition(0);
     const bool tekst = m_rodzaj == RodzajPola::Tekst;
@@ -46,12 +48,18 @@ class PoleTekstowe final : public PoleFormularza {
   }
 
  protected:
-  QString Wada() override { return WadaTekstu(m_rodzaj, m_edycja.text()); }
+  QString Wada() override {
+    const QString tekst = m_edycja.text();
+    if (m_rodzaj == RodzajPola::Tekst && tekst != m_wBazie)
+      if (const QString wada = WadaDlugosci(tekst.toStdString()); !wada.isEmpty()) return u"Tekst "_s + wada;
+    return WadaTekstu(m_rodzaj, tekst);
+  }
 
  private:
   RodzajPola m_rodzaj;
   QLineEdit& m_edycja;
   QString m_poprzedni;
+  QString m_wBazie;
 };
 
 class PoleFlagi final : public PoleFormularza {

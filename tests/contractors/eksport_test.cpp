@@ -33,7 +33,8 @@ class EksportKontrahentowTest : public testing::Test {
           "insert into Kontrahent (Nazwa, Skrot, Producent, ZakPracChron) values ('P', '4', 1, 1)",
           "insert into Kontrahent (Nazwa, NIP, Skrot, Staly) values ('S', '5', '5', 1), ('N', '6', '6', 1)",
           "insert into Sklep (SklepId, NrSklepu) values (1, 2), (5, 1)",
-          "insert into Osoba values (4, 'Żak'), (1, 'Ćma'), (4, ' '), (1, 'Adamek'), (3, ''), (1, 'Ćma')"})
+          "insert into Osoba (KontrId, Nazwisko) values (4, 'Żak'), (1, 'Ćma'), (4, ' '), (1, 'Adamek'), (3, "
+          "''), (1, 'Ćma')"})
       b.baza.ExecSQL(sql);
     Ustaw("odpsSTNZU");
   }
@@ -153,10 +154,10 @@ TEST_F(EksportKontrahentowTest, MowiOTymCoNieWroci) {
       {"update Kontrahent set Nazwa = '#a' where KontrId = 2", u"#a (nazwa czytana jako komentarz)"_s},
       {"update Kontrahent set Nazwa = '//' where KontrId = 3", u"333 // (nazwa czytana jako komentarz)"_s},
       {"update Kontrahent set Nazwa = ' ' where KontrId = 3", u"333 (brak nazwy)"_s},
-      {"insert into Osoba values (3, 'a|b')", u"333 O'Neil (znaki bloku w nazwie)"_s},
-      {"insert into Osoba values (3, 'a ')", u"333 O'Neil (znaki bloku w nazwie)"_s},
+      {"insert into Osoba (KontrId, Nazwisko) values (3, 'a|b')", u"333 O'Neil (znaki bloku w nazwie)"_s},
+      {"insert into Osoba (KontrId, Nazwisko) values (3, 'a ')", u"333 O'Neil (znaki bloku w nazwie)"_s},
   };
-  b.baza.ExecSQL("insert into Osoba values (3, 'Nowak (syn)')");  // this one comes back
+  b.baza.ExecSQL("insert into Osoba (KontrId, Nazwisko) values (3, 'Nowak (syn)')");  // this one comes back
   for (const auto& [sql, rekord] : przypadki) {
     SCOPED_TRACE(sql);
     b.baza.StartTransakcji();
@@ -188,7 +189,8 @@ TEST_F(EksportKontrahentowTest, CalyZJednejChwili) {
   b.baza.ExecSQL(
       "with recursive c(n) as (select 7 union all select n + 1 from c where n < 13000) insert into Kontrahent"
       " (Nazwa, Dostawca) select n, 1 from c");
-  b.baza.ExecSQL("insert into Osoba select KontrId, 'Żak' from Kontrahent where KontrId > 6");
+  b.baza.ExecSQL(
+      "insert into Osoba (KontrId, Nazwisko) select KontrId, 'Żak' from Kontrahent where KontrId > 6");
   SprawdzJednaChwile(b, postep, stop, "select KontrId, AkwId",
                      {"update Kontrahent set Miasto = 'Łódź'", "delete from Osoba where KontrId > 11000",
                       "delete from Kontrahent where KontrId = 12000",

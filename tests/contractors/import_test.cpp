@@ -169,7 +169,7 @@ TEST_F(ImportTest, KazdePoleTrafiaDoSwojejKolumnyGdyWolno) {
     QStringList wartosci;
     for (const QString& pole : kPola) {
       wartosci << (pole == u"o:Osoby"_s
-                       ? b.Kolumna("select Nazwisko from Osoba order by rowid", TypPola::Tekst, u'|')
+                       ? b.Kolumna("select Nazwisko from Osoba order by OsId", TypPola::Tekst, u'|')
                    : pole == u"0:JestSklepem"_s ? b.Kolumna("select count(*) from Sklep")
                                                 : b.Tekst("select cast(" + pole.mid(2).toStdString() +
                                                           " as varchar(100)) from Kontrahent"));
@@ -217,7 +217,7 @@ TEST_F(ImportTest, BrakujaceKolumny) {
   EXPECT_EQ(b.Tekst("select NIP || Staly || Aktywny || Odbiorca || Dostawca || AkwId from Kontrahent"),
             u"12-311100"_s);
   b.baza.ExecSQL("update Kontrahent set Staly = 0, Aktywny = 0, Odbiorca = 0, Dostawca = 1, Ulica = 'Polna'");
-  b.baza.ExecSQL("insert into Osoba values (1, 'Lis')");
+  b.baza.ExecSQL("insert into Osoba (KontrId, Nazwisko) values (1, 'Lis')");
   EXPECT_EQ(Wynik(Importuj("Nazwa;123\n")), "+0 ~0 -0 =1");
   UstawPola({0, 34, 1});
   EXPECT_EQ(Wynik(Importuj("Nazwa;;123\n")), "+0 ~0 -0 =1");
@@ -227,6 +227,18 @@ TEST_F(ImportTest, BrakujaceKolumny) {
     EXPECT_EQ(Wynik(Importuj(u"Nazwa;%1;123\n"_s.arg(zla))), "+0 ~0 -0 =1") << zla.toStdString();
   EXPECT_EQ(b.Tekst("select Ulica || Staly || Aktywny || (select count(*) from Osoba) from Kontrahent"),
             u"Polna000"_s);
+}
+
+TEST_F(ImportTest, TekstDluzszyNizKolumnaOdrzucaSamRekord) {
+  const QString dlugi(1001, u'a'), pelny(1000, u'b');
+  UstawPola({0, 1, 3, 34});
+  EXPECT_EQ(Wynik(Importuj(u"A;1;%1;(Lis)\nB;2;;(Lis|%1)\nC;3;%2;(%2)\nC;3;%1;(%2)\n"_s.arg(dlugi, pelny))),
+            "+1 ~0 -3 =0");
+  const QString wada = u"Tekst w polu '%1' ma 1001 znaków, a mieści się ich 1000"_s;
+  EXPECT_EQ(Pominieci(), (QStringList{u"1 | A | "_s + wada.arg(u"Ulica"_s),
+                                      u"2 | B | "_s + wada.arg(u"Osoby uprawnione"_s),
+                                      u"3 | C | "_s + wada.arg(u"Ulica"_s)}));
+  EXPECT_EQ(b.Tekst("select Ulica from Kontrahent"), pelny);
 }
 
 TEST_F(ImportTest, NumeryNowychSklepow) {

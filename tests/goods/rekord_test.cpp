@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "model/towar.h"
 #include "tests/goods/import_testowy.h"
 
 namespace {
@@ -412,10 +413,46 @@ TEST_F(Rekord, NumeryNazwISkrotowPamietajaTenImport) {
 TEST_F(Rekord, KodDochodziDoTowaruOTejSamejNazwie) {
   i.opcje.towarZTaSamaNazwa = TowarZTaSamaNazwa::RBDodajJakoKodDodatkowy;
   i.opcje.cb_akttow = false;
+  // Of several the one with the lowest identifier, wherever a server keeps its row.
+  i.b.baza.ExecSQL("update Towar set Nazwa = 'Mleko świeże' where TowId = 2");
+  i.b.baza.ExecSQL("update Towar set Opis1 = 'x' where TowId = 1");
+  i.bufor.Uniewaznij();
   const WynikPrzebiegu wynik = i.Importuj("5900000000015;Mleko świeże\n5900000000015;Mleko świeże\n");
   EXPECT_EQ(wynik.liczniki[Licznik::Poprawione], 1);
   EXPECT_EQ(i.b.Kolumna("select Kod from KodDod where TowId = 1 order by Kolejnosc"),
             u"5909876543210,5900000000015"_s);
+}
+
+TEST_F(Rekord, TekstDluzszyNizKolumnaOdrzucaSamRekord) {
+  const QString dlugi(1001, u'a'), pelny(1000, u'b');
+  i.UstawPola({0, 1, 6, 27, 24});
+  i.opcje.cb_noweasortymenty = i.opcje.cb_nowekategorie = true;
+  const WynikPrzebiegu wynik = i.Importuj(
+      u"5900000000015;%1;;;N\n5900000000022;B;%1;;N\n5900000000039;C;;;%1\n5900000000046;D;;%1;N\n"
+      "5900000000053;%2;%2;%2;%2\n"_s.arg(dlugi, pelny));
+  QStringList pola;
+  for (const QString& linia : i.Pominiete()) pola << linia.section(u" | "_s, 2);
+  const QString wada = u"Tekst w polu '%1' ma 1001 znaków, a mieści się ich 1000"_s;
+  EXPECT_EQ(pola, (QStringList{wada.arg(u"Nazwa towaru"_s), wada.arg(u"Opis 1"_s),
+                               wada.arg(u"Nazwa asortymentu"_s), wada.arg(u"Nazwa kategorii"_s)}));
+  EXPECT_EQ(wynik.liczniki[Licznik::Pominiete], 4);
+  EXPECT_EQ(wynik.liczniki[Licznik::Dodane], 1);
+  EXPECT_EQ(Kolumna("Opis1", "5900000000053"), pelny);
+}
+
+// What another program sells at while a person corrects a good stays.
+TEST_F(Rekord, CenaZmienionaPodczasPoprawianiaZostaje) {
+  TVLTBazaDanych inny;
+  i.b.Polacz(inny);
+  i.oper = &i.osoba;
+  i.osoba.popraw = [&](TDmVLTElement& rekord, const OdmowaZapisu&) {
+    inny.ExecSQL("update Towar set CenaDet = 77 where Kod = '4006381333931'");
+    static_cast<TDmVLTTowar&>(rekord).UstawSkrot(u"Krótki"_s);
+    return Poprawka::Poprawiono;
+  };
+  i.UstawPola({0, 2});
+  EXPECT_EQ(i.Importuj("4006381333931;zbyt długa nazwa na kasie\n").liczniki[Licznik::Poprawione], 1);
+  EXPECT_EQ(Kolumna("CenaDet", "4006381333931") + Kolumna("Skrot", "4006381333931"), u"77Krótki"_s);
 }
 
 TEST_F(Rekord, OperatorPoprawiaRezygnujeAlboZatrzymuje) {

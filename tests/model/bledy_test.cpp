@@ -76,7 +76,7 @@ TEST(Bledy, KazdaPozycjaJestZnajdowana) {
       znalezione += katalog_bledow::Szukaj(katalog, kod, {}).tytul.isEmpty() ? 0 : 1;
     return znalezione;
   };
-  EXPECT_EQ(ile(katalog_bledow::Katalog::Dane, 2001, 2912), 146);
+  EXPECT_EQ(ile(katalog_bledow::Katalog::Dane, 2001, 2912), 147);
   EXPECT_EQ(ile(katalog_bledow::Katalog::Okna, 3001, 3865), 73);
 }
 

@@ -20,6 +20,7 @@ class Slowniki : public TowaryProbne {
     const int id = Dodaj<Wpis>(u"Żółte"_s);
     EXPECT_EQ(KodBledu([&] { Dodaj<Wpis>(u" "_s); }), brak);
     EXPECT_EQ(KodBledu([&] { Dodaj<Wpis>(u"Żółte"_s); }), zajeta);
+    EXPECT_EQ(KodBledu([&] { Dodaj<Wpis>(QString(1001, u'a')); }), 2040);
     Wpis wpis(kontekst);
     wpis.Wczytaj(id);
     wpis.UstawNazwe(u"ŻÓŁTE"_s);
@@ -42,6 +43,8 @@ TEST_F(Slowniki, NazwyPusteIZajete) {
     parametr.UstawNazwe(nazwa);
     EXPECT_EQ(KodBledu([&] { parametr.Zapisz(); }), kod);
   }
+  parametr.UstawListe({u"słodki"_s, QString(1001, u'a')});
+  EXPECT_EQ(KodBledu([&] { parametr.Zapisz(); }), 2040);
   parametr.UstawListe({u"słodki"_s});
   EXPECT_GT(parametr.Zapisz(), 0);
 }

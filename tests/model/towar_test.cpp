@@ -18,6 +18,11 @@ TEST_F(Towary, KazdaOdmowaZapisu) {
   const int innyId = inny->Zapisz();
   const int usuniety = Zapisany(u"113"_s, u"Usunięty"_s);
   Wczytany(usuniety)->Usun();
+  // Others with the same texts, before the first one in the order of the rows of a server: it is the one
+  // named.
+  b.baza.ExecSQL("update Towar set CKU = 'C1', Skrot = 'Inny' where TowId = 2");
+  b.baza.ExecSQL("update KodDod set TowId = 1 where TowId = 1");
+  b.baza.ExecSQL("update Towar set CKU = 'C1' where TowId = 1");
   const QString zajety = u"jest już używany przez towar [%1]: Inny"_s.arg(innyId);
 
   using T = TDmVLTTowar;
@@ -37,7 +42,7 @@ TEST_F(Towary, KazdaOdmowaZapisu) {
       {2813, [](T& t) { t.UstawAsId(-1), t.UstawJMId(77); }},
       {2814, [](T& t) { t.UstawJMId(77), t.UstawSkrot({}); }},
       {2823, [](T& t) { t.UstawSkrot(u"zbyt długa nazwa na kasie"_s), t.UstawOpakId(77); }, u"Skrót zbyt"_s},
-      {2819, [](T& t) { t.UstawSkrot(u"Inny"_s); }, u"Inny"_s},
+      {2819, [](T& t) { t.UstawSkrot(u"Inny"_s); }, u"przez towar [Inny]"_s},
       {2819, [](T& t) { t.UstawSkrot(u"Inny dod"_s); }, u"kodów dodatkowych"_s},
       {2818, [](T& t) { t.UstawOpakId(77), t.UstawKod(u"ab"_s); }},
       {2818, [=](T& t) { t.UstawOpakId(usuniety); }},
@@ -221,7 +226,10 @@ TEST_F(Towary, PorownanieZBaza) {
     zmien(*towar);
     EXPECT_EQ(towar->TakiSamJakWBazie(), takiSam) << opis;
   }
+  b.baza.ExecSQL("update TowDostawca set Kolejnosc = 0");
+  b.baza.ExecSQL("update TowDostawca set KontrId = 1 where KontrId = 1");
   auto towar = Wczytany(id);
+  EXPECT_EQ(towar->Dostawcy().Wszyscy()[0].kontrId, 1) << "in one place: by identifier";
   towar->Dostawcy().UstawZNipem(std::vector<int>{2});
   towar->Zapisz();
   EXPECT_EQ(Wiersze("TowDostawca"), u"1|2|0 1|3|1") << "a supplier without a tax number is kept";
@@ -442,6 +450,48 @@ TEST_F(Towary, LiczbyPozaZakresemKolumny) {
     skroty->Zwolnij();
   }
   EXPECT_EQ(b.Liczba("select count(*) from Towar"), 0);
+}
+
+TEST_F(Towary, TekstyDluzszeNizKolumna) {
+  using T = TDmVLTTowar;
+  const std::tuple<QString, std::function<void(T&)>> przypadki[] = {
+      {u"'Nazwa towaru' ma 1001 znaków, a mieści się ich 1000"_s,
+       [](T& t) { t.UstawNazwa(QString(1001, u'ż')); }},
+      {u"'Opis 4' ma 1002 znaków, a mieści się ich 1000"_s, [](T& t) { t.UstawOpis4(QString(1002, u'x')); }},
+      {u"'CKU' ma 1001 znaków, a mieści się ich 1000"_s, [](T& t) { t.UstawCKU(QString(1001, u'x')); }},
+      {u"'Notatka' ma 100001 znaków, a mieści się ich 100000"_s,
+       [](T& t) { t.UstawNotatka(QString(100'001, u'x')); }}};
+  for (const auto& [opis, zmien] : przypadki) {
+    auto towar = Nowy(u"900"_s, u"Nazwa"_s);
+    zmien(*towar);
+    try {
+      towar->Zapisz();
+      ADD_FAILURE() << opis.toStdString();
+    } catch (const EVLTWDError& blad) {
+      EXPECT_EQ(blad.MacDescription(), u"Tekst w polu "_s + opis);
+    }
+    skroty->Zwolnij();
+  }
+  auto pelny = Nowy(u"900"_s, QString(1000, u'ż'));
+  pelny->UstawNotatka(QString(100'000, u'ó'));
+  EXPECT_EQ(Wczytany(pelny->Zapisz())->Notatka().size(), 100'000);
+}
+
+// Others may write while the good is being corrected in its form, a transaction of its own or not.
+TEST_F(Towary, CudzeZmianyPrzezywajaZapis) {
+  const int id = Zapisany(u"900"_s, u"Nazwa"_s);
+  TVLTBazaDanych inny;
+  b.Polacz(inny);
+  for (const bool wPaczce : {false, true}) {
+    auto towar = Wczytany(id);
+    inny.ExecSQL("update Towar set CenaDet = CenaDet + 5, Opis1 = 'cudzy', Opis2 = 'cudzy'");
+    towar->UstawOpis1(wPaczce ? u"inny"_s : u"swój"_s);
+    if (wPaczce) b.baza.StartTransakcji();
+    towar->Zapisz();
+    if (wPaczce) b.baza.KoniecTransakcji();
+    EXPECT_EQ(b.Tekst("select Opis1 || ' ' || Opis2 || ' ' || cast(CenaDet as integer) from Towar"),
+              wPaczce ? u"inny cudzy 10" : u"swój cudzy 5");
+  }
 }
 
 TEST_F(Towary, SkrotPowstajeZNazwyTylkoGdyJestPusty) {

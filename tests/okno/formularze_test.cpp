@@ -201,6 +201,7 @@ TEST_F(Formularze, OdmowaBezPolaStoiNadFormularzemZPrzyczyna) {
 TEST_F(Formularze, ZlaWartoscJestWskazanaIRekordZostajeNietkniety) {
   constexpr const char* kFormat = "Błąd formatu wprowadzanej wielkości";
   constexpr const char* kZakres = "Wprowadzana wielkość przekracza dopuszczalny zakres";
+  const std::string dlugi(1001, 'x');
   struct Zla {
     TDmVLTElement* rekord;
     const char* pole;
@@ -212,6 +213,7 @@ TEST_F(Formularze, ZlaWartoscJestWskazanaIRekordZostajeNietkniety) {
         Zla{&towar, "CenaDet", "99999999999999999", kZakres}, Zla{&towar, "TermWazn", "1.0", kFormat},
         Zla{&towar, "TermWazn", "3000000000", kZakres}, Zla{&towar, "Marza", "x", kFormat},
         Zla{&kontrahent, "NrSklepu", "A", kFormat},
+        Zla{&kontrahent, "Ulica", dlugi.c_str(), "Tekst ma 1001 znaków, a mieści się ich 1000"},
         Zla{&kontrahent, "TermWaznKarty", "31.02.2030", "Podaj datę w postaci dd.mm.rrrr"}}) {
     EXPECT_FALSE(Edytuj(*zla.rekord, [&](QDialog& okno) {
       Wpisz(okno, u"Nazwa"_s, u"Inna"_s);

@@ -155,7 +155,8 @@ create index SklepNumer on Sklep (NrSklepu);
 
 create table Osoba (
     KontrId int not null references Kontrahent (KontrId),
-    Nazwisko nvarchar(850) collate Latin1_General_BIN2 not null);
+    Nazwisko nvarchar(850) collate Latin1_General_BIN2 not null,
+    OsId int identity primary key);
 
 create index OsobaKontr on Osoba (KontrId);
 
@@ -756,8 +757,7 @@ select K.*, S.SklepId, S.NrSklepu, S.NrSeryjny, S.MagId, S.OstImport, S.WymImpor
 select Nazwisko
   from Osoba
   where KontrId = :KontrId
-  order by substring(%%physloc%%, 4, 1) + substring(%%physloc%%, 3, 1) + substring(%%physloc%%, 2, 1)
-    + substring(%%physloc%%, 1, 1) + substring(%%physloc%%, 8, 1) + substring(%%physloc%%, 7, 1);
+  order by OsId;
 
 select K.*, S.SklepId, S.NrSklepu, S.NrSeryjny, S.MagId, S.OstImport, S.WymImport, S.DataBO,
     S.KolejnyWDniuBO, S.PelnyImport, S.OstEksport, S.PotwEksport
@@ -776,9 +776,6 @@ update Kontrahent
     TermWaznKarty = :TermWaznKarty, PoziomRabatu = :PoziomRabatu, NrAnalityki = :NrAnalityki,
     KodKontr = :KodKontr, ZakPracChron = :ZakPracChron, Aktywny = :Aktywny, Rezerwa1 = :Rezerwa1,
     Rezerwa2 = :Rezerwa2, Zmiana = getdate()
-  where KontrId = :KontrId;
-
-delete from Osoba
   where KontrId = :KontrId;
 
 insert into DziennikZmian (Czas, Tabela, Opis, Id1, Id2)
@@ -806,21 +803,20 @@ select max(NrSklepu)
 insert into Sklep (SklepId, NrSklepu, NrSeryjny, WymImport, PelnyImport)
   values (:SklepId, :NrSklepu, :NrSeryjny, null, 1);
 
+delete from Osoba
+  where KontrId = :KontrId;
+
+select S.SklepId, S.NrSklepu, S.NrSeryjny, S.MagId, S.OstImport, S.WymImport, S.DataBO,
+    S.KolejnyWDniuBO, S.PelnyImport, S.OstEksport, S.PotwEksport
+  from Sklep S with (updlock, rowlock)
+  where S.SklepId = :KontrId;
+
 select S.SklepId, K.Nazwa
   from Sklep S, Kontrahent K
   where S.SklepId = K.KontrId
   and S.NrSklepu = :NrSklepu
   and S.SklepId <> :SklepId
   order by S.SklepId;
-
-select SklepId
-  from Sklep
-  where SklepId = :SklepId;
-
-update Sklep
-  set NrSklepu = :NrSklepu, NrSeryjny = :NrSeryjny, WymImport = :WymImport,
-    PelnyImport = :PelnyImport
-  where SklepId = :SklepId;
 
 -- ==== Import towarów ====
 
@@ -891,7 +887,7 @@ select D.TowId, D.KontrId, K.NIP
   from TowDostawca D, Kontrahent K
   where D.KontrId = K.KontrId
   and D.TowId in (:Id0, :Id1, /* ... */ :Id99)
-  order by D.TowId, D.Kolejnosc;
+  order by D.TowId, D.Kolejnosc, D.KontrId;
 
 set nocount on;
 insert into Towar (AsId, JMId, KatId, Producent, Nazwa, Skrot, Kod, TypTowaru, Indeks1, Indeks2,
@@ -1017,7 +1013,8 @@ insert into KatParam (KatId, ParId, Kolejnosc)
 
 select TowId
   from Towar
-  where Nazwa=:Nazwa;
+  where Nazwa=:Nazwa
+  order by TowId;
 
 set nocount on;
 insert into KodWazony (Nazwa, Prefix, CzescStala, WartoscWKodzie, DodKontrola)
@@ -1052,7 +1049,7 @@ select D.TowId, D.KontrId, K.NIP
   from TowDostawca D, Kontrahent K
   where D.KontrId = K.KontrId
   and D.TowId = :TowId
-  order by D.Kolejnosc;
+  order by D.Kolejnosc, D.KontrId;
 
 select StanMag
   from ISTW
@@ -1067,13 +1064,15 @@ select T.*, P.OpakId, P.IleWOpak, P.Tandem
 select TowId, Nazwa, Aktywny
   from Towar
   where Skrot = :Skrot
-  and TowId <> :TowId;
+  and TowId <> :TowId
+  order by TowId;
 
 select T.TowId, T.Nazwa, T.Aktywny
   from Towar T, KodDod KD
   where T.TowId = KD.TowId
   and KD.Skrot = :Skrot
-  and T.TowId <> :TowId;
+  and T.TowId <> :TowId
+  order by T.TowId;
 
 select KasaId
   from KasTow
@@ -1094,12 +1093,14 @@ delete from TowWartosc
 
 select TowId, Nazwa, Aktywny
   from Towar
-  where Skrot = :Skrot;
+  where Skrot = :Skrot
+  order by TowId;
 
 select T.TowId, T.Nazwa, T.Aktywny
   from Towar T, KodDod KD
   where T.TowId = KD.TowId
-  and KD.Skrot = :Skrot;
+  and KD.Skrot = :Skrot
+  order by T.TowId;
 
 select TowId
   from Towar
@@ -1143,9 +1144,7 @@ select SklepId
 select KontrId, Nazwisko
   from Osoba
   where KontrId between :Od and :Do
-  order by KontrId, substring(%%physloc%%, 4, 1) + substring(%%physloc%%, 3, 1) +
-    substring(%%physloc%%, 2, 1) + substring(%%physloc%%, 1, 1) + substring(%%physloc%%, 8, 1) +
-    substring(%%physloc%%, 7, 1);
+  order by KontrId, OsId;
 
 -- ==== Eksport towarów ====
 
@@ -1193,7 +1192,7 @@ select TowId, ParId, Wartosc
 select TowId, KontrId
   from TowDostawca
   where TowId between :Od and :Do
-  order by TowId, Kolejnosc;
+  order by TowId, Kolejnosc, KontrId;
 
 select TowId, StanMag
   from Istw
@@ -1209,11 +1208,7 @@ select TowId, StanMag
 -- ==== Formularze ====
 
 update Sklep
-  set MagId = :MagId
-  where SklepId = :SklepId;
-
-update Sklep
-  set MagId = :MagId, NrSklepu = :NrSklepu, NrSeryjny = :NrSeryjny, WymImport = :WymImport,
+  set NrSklepu = :NrSklepu, NrSeryjny = :NrSeryjny, WymImport = :WymImport,
     PelnyImport = :PelnyImport
   where SklepId = :SklepId;
 
@@ -1221,6 +1216,15 @@ delete from SklepFlagi
   where SklepId = :SklepId;
 
 delete from Sklep
+  where SklepId = :SklepId;
+
+update Sklep
+  set MagId = :MagId
+  where SklepId = :SklepId;
+
+update Sklep
+  set MagId = :MagId, NrSklepu = :NrSklepu, NrSeryjny = :NrSeryjny, WymImport = :WymImport,
+    PelnyImport = :PelnyImport
   where SklepId = :SklepId;
 
 update Kontrahent
@@ -1270,7 +1274,8 @@ select M.MagId, M.Nazwa, I.StanMag, I.BlokadaMag, I.CenaMag, I.StanMin, I.StanMa
 select TowId, Nazwa, Aktywny
   from Towar
   where CKU = :CKU
-  and TowId <> :TowId;
+  and TowId <> :TowId
+  order by TowId;
 
 select Aktywny
   from Towar

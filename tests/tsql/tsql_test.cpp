@@ -172,12 +172,14 @@ struct Praca {
   // What only the forms do.
   void Formularze() {
     TDmVLTKontrahent kontrahent(sesja);
-    for (const bool sklep : {true, true, false}) {
-      kontrahent.Wczytaj(1);
-      kontrahent.UstawSklep(sklep);
-      kontrahent.UstawMagId(2);
-      kontrahent.Zapisz();
-    }
+    for (const int magId : {-1, 2})
+      for (const char16_t* numer : {u"1", u"2", u""}) {
+        kontrahent.Wczytaj(1);
+        kontrahent.UstawSklep(*numer != 0);
+        kontrahent.UstawMagId(magId);
+        kontrahent.UstawNrSeryjny(QString::fromUtf16(numer));
+        kontrahent.Zapisz();
+      }
     kontrahent.Usun();
     kontrahent.Przywroc();
     KontrahentZId(b.baza, 1);

@@ -39,7 +39,9 @@ inline QStringList ZrzutBazy(TVLTBazaDanych& baza) {
     if (k.tabela == poprzednia) continue;
     poprzednia = k.tabela;
     const QString tabela = QString::fromStdString(k.tabela);
-    for (const QString& wiersz : WierszeTabeli(baza, k.tabela, [](const std::string&) { return true; }))
+    // The numbers of persons tell of nothing but their order.
+    for (const QString& wiersz :
+         WierszeTabeli(baza, k.tabela, [](const std::string& kolumna) { return kolumna != "OsId"; }))
       zrzut << tabela + u' ' + wiersz;
   }
   zrzut.sort();
