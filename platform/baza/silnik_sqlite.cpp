@@ -148,9 +148,11 @@ class SilnikSqlite final : public Silnik {
     const auto zakoncz = qScopeGuard([this] { ZakonczOdczyt(); });
     Zapytaj("select count(*) from sqlite_master");
     const int wynik = KopiujSqlite(*Uchwyt(), plik, postep);
-    if (wynik != SQLITE_OK && wynik != SQLITE_ABORT)
-      throw EBladBazy(RodzajSqlite(wynik), QString::fromUtf8(sqlite3_errstr(wynik)),
-                      QStringLiteral("kopia bazy"));
+    if (wynik != SQLITE_OK && wynik != SQLITE_ABORT) {
+      const PrzyczynaBledu przyczyna = PrzyczynaStanu(StanSqlite(wynik));
+      throw EBladBazy(przyczyna.rodzaj, przyczyna.powod,
+                      QStringLiteral("kopia bazy: ") + QString::fromUtf8(sqlite3_errstr(wynik)));
+    }
     return wynik == SQLITE_OK;
   }
 
