@@ -83,6 +83,19 @@ void TVLTStawkiVat::Zapisz(TVLTBazaDanych& baza) const {
   jednostka.Zatwierdz();
 }
 
+void TVLTStawkiVat::ZapiszZmiany(TVLTBazaDanych& baza, const TVLTStawkiVat& poprzednie) {
+  TVLTStawkiVat aktualne;
+  JednostkaZapisu jednostka(baza);
+  aktualne.Wczytaj(baza);
+  for (const int stawka : poprzednie.m_stawki.GetValues())
+    if (!Zawiera(stawka)) aktualne.m_stawki.Remove(stawka);
+  for (const int stawka : m_stawki.GetValues())
+    if (!poprzednie.Zawiera(stawka)) aktualne.Dodaj(stawka);
+  aktualne.Zapisz(baza);
+  jednostka.Zatwierdz();
+  Kopiuj(aktualne);
+}
+
 bool TVLTStawkiVat::DopiszDoBazy(TVLTBazaDanych& baza, int stawka) {
   TVLTStawkiVat aktualne;
   JednostkaZapisu jednostka(baza);

@@ -12,7 +12,8 @@ inline constexpr int kStawkaZwolniona = -1;
 inline constexpr int kStawkaNajwyzsza = 10000;
 
 // The VAT rates of the dictionary Vat: distinct, shown from the largest down ("ZW" is last). Filled by
-// Wczytaj, written back, whole, by Zapisz. 2003 for a position outside the set.
+// Wczytaj, written back, whole, by Zapisz; by ZapiszZmiany together with what others did meanwhile. 2003 for
+// a position outside the set.
 class TVLTStawkiVat {
  public:
   int Ilosc() const { return static_cast<int>(m_stawki.Count()); }
@@ -30,6 +31,10 @@ class TVLTStawkiVat {
   void Wczytaj(TVLTBazaDanych& baza);
   // Replaces the dictionary by this set, as one unit.
   void Zapisz(TVLTBazaDanych& baza) const;
+  // Carries what this set has more and less than `poprzednie`, the set it was made from, over to the
+  // dictionary as it is now, as one unit: what others have added or removed meanwhile stays so. This set then
+  // holds what the dictionary does.
+  void ZapiszZmiany(TVLTBazaDanych& baza, const TVLTStawkiVat& poprzednie);
   // Adds one rate to the dictionary as it is now, whatever others have added since it was loaded, as one
   // unit. The set in memory follows only when that succeeded. False when the dictionary held the rate
   // already.

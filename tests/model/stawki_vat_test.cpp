@@ -112,6 +112,23 @@ TEST_F(SlownikVat, DopisanieWidziStawkiInnych) {
   EXPECT_FALSE(stawki.DopiszDoBazy(b.baza, 700));
 }
 
+TEST_F(SlownikVat, ZapisZmianZostawiaCoZrobiliInni) {
+  TVLTStawkiVat poprzednie;
+  poprzednie.Kopiuj(stawki);
+  stawki.Usun(0);
+  stawki.Dodaj(550);
+  TVLTBazaDanych inna;
+  b.Polacz(inna);
+  inna.ExecSQL("insert into Vat (Stawka) values (700)");
+  inna.ExecSQL("delete from Vat where Stawka = 500");
+  stawki.ZapiszZmiany(b.baza, poprzednie);
+  EXPECT_EQ(Lista(stawki), (std::vector{800, 700, 550, 0, -1}));
+  TVLTStawkiVat wBazie;
+  wBazie.Wczytaj(inna);
+  EXPECT_EQ(Lista(wBazie), Lista(stawki));
+  EXPECT_EQ(b.OstatniWpis(), u"Nowe stawki: 800, 700, 550, 0, -1"_s);
+}
+
 TEST_F(SlownikVat, NieudanyZapisNieZmieniaNiczego) {
   const std::vector<int> bylo = Lista(stawki);
   for (const bool wTransakcji : {false, true}) {
