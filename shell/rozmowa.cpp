@@ -2,10 +2,12 @@
 
 #include <QDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QPushButton>
 
 #include "platform/nazwa_pliku.h"
+#include "platform/tozsamosc_pliku.h"
 #include "platform/wyjatek.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -28,6 +30,16 @@ constexpr Rozmowa::Przycisk kUcieczki[] = {QMessageBox::Cancel, QMessageBox::No,
 std::optional<QString> Wybrany(QFileDialog& okno) {
   if (okno.exec() != QDialog::Accepted || okno.selectedFiles().isEmpty()) return std::nullopt;
   return OdszukajNazwe(okno.selectedFiles().constFirst());
+}
+
+// Qt would add the extension to the name of an existing file too.
+QString IstniejacyLubZRozszerzeniem(const QString& plik, const QString& rozszerzenie) {
+  const auto istnieje = [](const QString& sciezka) {
+    return RodzajPlikuSciezki(sciezka) != RodzajPliku::Brak;
+  };
+  if (rozszerzenie.isEmpty() || istnieje(plik) || QFileInfo(plik).fileName().contains(u'.')) return plik;
+  const QString wielkimi = plik + u'.' + rozszerzenie.toUpper();
+  return istnieje(wielkimi) ? wielkimi : plik + u'.' + rozszerzenie;
 }
 
 void Przygotuj(QFileDialog& okno, const Rozmowa::WyborPliku& wybor) {
@@ -78,7 +90,8 @@ std::optional<QString> Rozmowa::WybierzDoOdczytu(QWidget* rodzic, const WyborPli
   okno.setAcceptMode(QFileDialog::AcceptOpen);
   okno.setFileMode(QFileDialog::AnyFile);
   Przygotuj(okno, wybor);
-  return Wybrany(okno);
+  const std::optional<QString> plik = Wybrany(okno);
+  return plik ? std::optional(IstniejacyLubZRozszerzeniem(*plik, wybor.rozszerzenie)) : std::nullopt;
 }
 
 std::optional<QString> Rozmowa::WybierzDoZapisu(QWidget* rodzic, const WyborPliku& wybor) {

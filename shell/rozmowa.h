@@ -35,7 +35,7 @@ class Rozmowa {
     QString tytul;
     QString sciezka;            // offered: a file or a folder
     QString filtr;              // "shown (pattern);;shown (pattern)"
-    QString rozszerzenie = {};  // added to a name without one
+    QString rozszerzenie = {};  // added to a name without one; when reading, to one of no file
   };
   // Nothing when the person gives up. Whether the file exists is the caller's question.
   virtual std::optional<QString> WybierzDoOdczytu(QWidget* rodzic, const WyborPliku& wybor);

@@ -15,6 +15,7 @@
 #include "shell/dialogi/widok_podgladu.h"
 #include "shell/kontekst_okna.h"
 #include "shell/rozmowa.h"
+#include "ustawienia/tabela_ustawien.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,10 +36,11 @@ bool MoznaWybrac(const StrukturaPliku& struktura, const PoleKatalogu& pole) {
 
 DialogListyPol::DialogListyPol(QWidget* rodzic, KontekstOkna& kontekst, const StrukturaPliku& struktura,
                                const QString& plik)
-    : QDialog(rodzic),
+    : DialogEdycji(rodzic, kontekst.rozmowa),
       m_ui(std::make_unique<Ui::DialogListyPol>()),
       m_kontekst(kontekst),
       m_struktura(struktura),
+      m_poczatkowa(struktura),
       m_model(new ModelListyPol(struktura, this)) {
   m_ui->setupUi(this);
   const bool towary = struktura.rodzaj == RodzajRekordu::Towary;
@@ -63,6 +65,11 @@ StrukturaPliku DialogListyPol::Wynik() const {
 
 const QString& DialogListyPol::Plik() const {
   return m_podglad->Plik();
+}
+
+bool DialogListyPol::MaZmiany() {
+  m_edytor->ZakonczEdycje();
+  return Wynik() != m_poczatkowa;
 }
 
 void DialogListyPol::UlozKatalog() {
@@ -153,8 +160,12 @@ void DialogListyPol::Przesun(int kierunek) {
 
 void DialogListyPol::Zapisz() {
   m_edytor->ZakonczEdycje();
-  if (const auto odmowa = SprawdzListePol(m_struktura.rodzaj, m_model->Pola()))
-    return m_kontekst.rozmowa.Powiedz(this, *odmowa);
+  auto odmowa = SprawdzListePol(m_struktura.rodzaj, m_model->Pola());
+  if (m_model->rowCount() > kNajdluzszaLista)
+    odmowa = {u"UWAGA"_s, u"Lista ma %1 pól, a zapisać można najwyżej %2. Usuń z niej zbędne pola."_s
+                              .arg(m_model->rowCount())
+                              .arg(kNajdluzszaLista)};
+  if (odmowa) return m_kontekst.rozmowa.Powiedz(this, *odmowa);
   accept();
 }
 

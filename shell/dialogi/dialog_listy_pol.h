@@ -2,9 +2,8 @@
 
 #include <memory>
 
-#include <QDialog>
-
 #include "exchange/struktura_pliku.h"
+#include "shell/kontrolki/dialog_edycji.h"
 
 class EdytorKomorki;
 class ModelListyPol;
@@ -17,7 +16,7 @@ class DialogListyPol;
 
 // The columns of an import file: fields chosen from the catalogue in the order of the file. Works on a copy
 // of the structure; Accepted when the person took it over.
-class DialogListyPol final : public QDialog {
+class DialogListyPol final : public DialogEdycji {
  public:
   DialogListyPol(QWidget* rodzic, KontekstOkna& kontekst, const StrukturaPliku& struktura,
                  const QString& plik);
@@ -27,6 +26,9 @@ class DialogListyPol final : public QDialog {
   StrukturaPliku Wynik() const;
   // The file of the preview.
   const QString& Plik() const;
+
+ protected:
+  bool MaZmiany() override;
 
  private:
   void UlozKatalog();
@@ -45,6 +47,7 @@ class DialogListyPol final : public QDialog {
   std::unique_ptr<Ui::DialogListyPol> m_ui;
   KontekstOkna& m_kontekst;
   StrukturaPliku m_struktura;
+  const StrukturaPliku m_poczatkowa;
   ModelListyPol* m_model;
   EdytorKomorki* m_edytor;
   WidokPodgladu* m_podglad;

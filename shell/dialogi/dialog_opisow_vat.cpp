@@ -42,7 +42,7 @@ QString OpisKodu(const std::vector<OpisVat>& opisy, const QString& kod) {
 }  // namespace
 
 DialogOpisowVat::DialogOpisowVat(QWidget* rodzic, KontekstOkna& kontekst, const std::vector<OpisVat>& opisy)
-    : QDialog(rodzic), m_kontekst(kontekst) {
+    : DialogEdycji(rodzic, kontekst.rozmowa), m_kontekst(kontekst) {
   TVLTStawkiVat stawki;
   stawki.Wczytaj(kontekst.baza);
   Ui::DialogOpisowVat ui;
@@ -58,6 +58,7 @@ DialogOpisowVat::DialogOpisowVat(QWidget* rodzic, KontekstOkna& kontekst, const 
             {{u"Zapisz"_s, u"Akceptuj"_s, u"F2"_s, [this] { Akceptuj(); }},
              {u"Stawki"_s, u"Stawki"_s, u"F3"_s, [this] { Stawki(); }}});
   PokazStawki(stawki, opisy);
+  m_poczatkowe = Opisy();
 }
 
 std::vector<OpisVat> DialogOpisowVat::Opisy() const {
@@ -67,6 +68,11 @@ std::vector<OpisVat> DialogOpisowVat::Opisy() const {
     opisy.emplace_back(komorka.data(Qt::UserRole).toString(), komorka.text().trimmed());
   }
   return opisy;
+}
+
+bool DialogOpisowVat::MaZmiany() {
+  m_edytor->ZakonczEdycje();
+  return Opisy() != m_poczatkowe;
 }
 
 void DialogOpisowVat::PokazStawki(const TVLTStawkiVat& stawki, const std::vector<OpisVat>& opisy) {

@@ -2,9 +2,8 @@
 
 #include <vector>
 
-#include <QDialog>
-
 #include "exchange/struktura_pliku.h"
+#include "shell/kontrolki/dialog_edycji.h"
 
 class EdytorKomorki;
 class QLabel;
@@ -14,13 +13,16 @@ struct KontekstOkna;
 
 // What stands in a goods file for each VAT rate of the database: the whole percents and the exempt rate, for
 // others have no code. Accepted when the person took the descriptions over.
-class DialogOpisowVat final : public QDialog {
+class DialogOpisowVat final : public DialogEdycji {
  public:
   // Reads the rates; EBladBazy as the session raises it.
   DialogOpisowVat(QWidget* rodzic, KontekstOkna& kontekst, const std::vector<OpisVat>& opisy);
 
   // One per rate shown, from the largest down.
   std::vector<OpisVat> Opisy() const;
+
+ protected:
+  bool MaZmiany() override;
 
  private:
   void PokazStawki(const TVLTStawkiVat& stawki, const std::vector<OpisVat>& opisy);
@@ -31,4 +33,5 @@ class DialogOpisowVat final : public QDialog {
   QTableWidget* m_tabela;
   EdytorKomorki* m_edytor;
   QLabel* m_bezOpisu;
+  std::vector<OpisVat> m_poczatkowe;
 };

@@ -22,13 +22,15 @@ QString Slowo(bool oferowane) {
 
 }  // namespace
 
-DialogPolStandardowych::DialogPolStandardowych(QWidget* rodzic, const StrukturaPliku& struktura)
-    : QDialog(rodzic), m_oferowane(struktura.oferowane) {
+DialogPolStandardowych::DialogPolStandardowych(QWidget* rodzic, Rozmowa& rozmowa,
+                                               const StrukturaPliku& struktura)
+    : DialogEdycji(rodzic, rozmowa), m_oferowane(struktura.oferowane) {
   m_oferowane.resize(static_cast<size_t>(LiczbaPolOferowanych(struktura.rodzaj)));
   Ui::DialogPolStandardowych ui;
   ui.setupUi(this);
   m_tabela = ui.Pola;
   UlozTabele(struktura);
+  m_poczatkowe = m_oferowane;
   UlozPasek(*this, *ui.MStatusButtonBar, {{u"Zapisz"_s, u"Zapisz"_s, u"F2"_s, [this] { accept(); }}});
 }
 
@@ -87,7 +89,7 @@ bool DialogPolStandardowych::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
 }
 
 bool EdytujPolaStandardowe(QWidget* rodzic, KontekstOkna& kontekst, StrukturaPliku& struktura) {
-  DialogPolStandardowych dialog(rodzic, struktura);
+  DialogPolStandardowych dialog(rodzic, kontekst.rozmowa, struktura);
   if (kontekst.rozmowa.Pokaz(dialog) != QDialog::Accepted) return false;
   struktura.oferowane = dialog.Oferowane();
   return true;

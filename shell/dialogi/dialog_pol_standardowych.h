@@ -2,21 +2,21 @@
 
 #include <vector>
 
-#include <QDialog>
-
 #include "exchange/struktura_pliku.h"
+#include "shell/kontrolki/dialog_edycji.h"
 
 class QTableWidget;
 
 // The offered fields of a structure with "TAK" or "NIE" for each. Works on a copy; Accepted when the person
 // saved.
-class DialogPolStandardowych final : public QDialog {
+class DialogPolStandardowych final : public DialogEdycji {
  public:
-  DialogPolStandardowych(QWidget* rodzic, const StrukturaPliku& struktura);
+  DialogPolStandardowych(QWidget* rodzic, Rozmowa& rozmowa, const StrukturaPliku& struktura);
 
   const std::vector<int>& Oferowane() const { return m_oferowane; }
 
  protected:
+  bool MaZmiany() override { return m_oferowane != m_poczatkowe; }
   bool eventFilter(QObject* obiekt, QEvent* zdarzenie) override;
 
  private:
@@ -27,5 +27,6 @@ class DialogPolStandardowych final : public QDialog {
   void Przelacz(int wiersz);
 
   std::vector<int> m_oferowane;
+  std::vector<int> m_poczatkowe;
   QTableWidget* m_tabela;
 };

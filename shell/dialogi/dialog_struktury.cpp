@@ -48,10 +48,11 @@ void UstawTekst(QLineEdit& pole, const QString& tekst) {
 
 DialogStruktury::DialogStruktury(QWidget* rodzic, KontekstOkna& kontekst, const StrukturaPliku& struktura,
                                  const QString& plik)
-    : QDialog(rodzic),
+    : DialogEdycji(rodzic, kontekst.rozmowa),
       m_ui(std::make_unique<Ui::DialogStruktury>()),
       m_kontekst(kontekst),
-      m_struktura(struktura) {
+      m_struktura(struktura),
+      m_poczatkowa(struktura) {
   m_ui->setupUi(this);
   m_podglad = new WidokPodgladu(m_ui->gbPodglad, kontekst.rozmowa);
   m_ui->ukladPodgladu->addWidget(m_podglad);
@@ -65,7 +66,8 @@ DialogStruktury::DialogStruktury(QWidget* rodzic, KontekstOkna& kontekst, const 
 
   Wypelnij();
   PolaczKontrolki();
-  m_podglad->UstawStrukture(Wynik());
+  m_poczatkowa = Wynik();
+  m_podglad->UstawStrukture(m_poczatkowa);
   m_podglad->UstawPlik(plik);
 }
 

@@ -3,9 +3,8 @@
 #include <memory>
 #include <vector>
 
-#include <QDialog>
-
 #include "exchange/struktura_pliku.h"
+#include "shell/kontrolki/dialog_edycji.h"
 
 class QAbstractButton;
 class QLineEdit;
@@ -17,7 +16,7 @@ class DialogStruktury;
 }
 
 // The layout of an import file. Works on a copy of the structure; Accepted when the person took it over.
-class DialogStruktury final : public QDialog {
+class DialogStruktury final : public DialogEdycji {
  public:
   DialogStruktury(QWidget* rodzic, KontekstOkna& kontekst, const StrukturaPliku& struktura,
                   const QString& plik);
@@ -25,6 +24,9 @@ class DialogStruktury final : public QDialog {
 
   // What the dialog holds now, with what the file type fixes.
   StrukturaPliku Wynik() const;
+
+ protected:
+  bool MaZmiany() override { return Wynik() != m_poczatkowa; }
 
  private:
   void UlozKontrolki();
@@ -44,6 +46,7 @@ class DialogStruktury final : public QDialog {
   // As entered; what a file type fixes never overwrites it, so that trying another type loses nothing. The
   // separator is the one the dialog was opened with.
   StrukturaPliku m_struktura;
+  StrukturaPliku m_poczatkowa;  // what Wynik gave at the beginning
   QAbstractButton* m_wybranySeparator;
   QString m_innySeparator;
   std::vector<std::pair<QLineEdit*, QString StrukturaPliku::*>> m_slowa;

@@ -7,6 +7,7 @@ void EdytorKomorki::ZakonczEdycje() {
   if (!m_edytor) return;
   Q_EMIT commitData(m_edytor);
   Q_EMIT closeEditor(m_edytor);
+  m_edytor.clear();  // it goes only with the next events
 }
 
 QWidget* EdytorKomorki::createEditor(QWidget* rodzic, const QStyleOptionViewItem&, const QModelIndex&) const {

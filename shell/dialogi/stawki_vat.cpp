@@ -19,7 +19,7 @@ QString KluczUkladu() {
 }  // namespace
 
 TFmVLTStawkiVat::TFmVLTStawkiVat(QWidget* rodzic, KontekstOkna& kontekst)
-    : QDialog(rodzic), m_kontekst(kontekst) {
+    : DialogEdycji(rodzic, kontekst.rozmowa), m_kontekst(kontekst) {
   m_wBazie.Wczytaj(kontekst.baza);
   m_stawki.Kopiuj(m_wBazie);
   Ui::TFmVLTStawkiVat ui;
@@ -84,7 +84,7 @@ void TFmVLTStawkiVat::Usun() {
 }
 
 void TFmVLTStawkiVat::Zapisz() {
-  if (m_stawki.Rowne(m_wBazie)) return accept();
+  if (!MaZmiany()) return accept();
   const Komunikat pytanie{u"UWAGA: zmiana stawek VAT"_s,
                           u"Czy na pewno chcesz zmienić aktualny zestaw stawek VAT ?"_s};
   if (m_kontekst.rozmowa.Zapytaj(this, pytanie, Rozmowa::Ikona::Warning,
@@ -92,7 +92,7 @@ void TFmVLTStawkiVat::Zapisz() {
                                  QMessageBox::Cancel) != QMessageBox::Yes)
     return;
   try {
-    m_stawki.Zapisz(m_kontekst.baza);
+    m_stawki.ZapiszZmiany(m_kontekst.baza, m_wBazie);
   } catch (const EMException& blad) {
     return m_kontekst.rozmowa.PokazBlad(this, blad);
   }

@@ -2,22 +2,25 @@
 
 #include <optional>
 
-#include <QDialog>
-
 #include "model/stawki_vat.h"
+#include "shell/kontrolki/dialog_edycji.h"
 
 class QListWidget;
 struct KontekstOkna;
 
 // The rate editor: the dictionary of VAT rates, the highest first, and a row "<nowa>" for another one. Saving
-// replaces the dictionary at once; Accepted when it holds what the person sees. Remembers its size.
-class TFmVLTStawkiVat final : public QDialog {
+// changes the dictionary at once by what the person has changed; Accepted when it holds that. Remembers its
+// size.
+class TFmVLTStawkiVat final : public DialogEdycji {
  public:
   // Reads the rates; EBladBazy as the session raises it.
   TFmVLTStawkiVat(QWidget* rodzic, KontekstOkna& kontekst);
 
   const TVLTStawkiVat& Stawki() const { return m_stawki; }
   void done(int wynik) override;
+
+ protected:
+  bool MaZmiany() override { return !m_stawki.Rowne(m_wBazie); }
 
  private:
   void PokazStawki(int biezaca);

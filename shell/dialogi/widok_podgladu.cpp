@@ -115,9 +115,11 @@ void WidokPodgladu::UstawPlik(const QString& plik) {
 }
 
 void WidokPodgladu::WybierzPlik() {
-  const auto plik = m_rozmowa.WybierzDoOdczytu(this, {.tytul = u"Plik do podglądu"_s,
-                                                      .sciezka = m_plik.isEmpty() ? QDir::homePath() : m_plik,
-                                                      .filtr = FiltrImportu(m_struktura.CBTypPliku)});
+  const auto plik =
+      m_rozmowa.WybierzDoOdczytu(this, {.tytul = u"Plik do podglądu"_s,
+                                        .sciezka = m_plik.isEmpty() ? QDir::homePath() : m_plik,
+                                        .filtr = FiltrImportu(m_struktura.CBTypPliku),
+                                        .rozszerzenie = RozszerzenieImportu(m_struktura.CBTypPliku)});
   if (plik) UstawPlik(*plik);
 }
 

@@ -2,11 +2,15 @@
 
 #include <algorithm>
 
+#include <QAbstractSlider>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMetaProperty>
+#include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTableWidget>
 
 #include "model/bledy.h"
 #include "model/element.h"
@@ -26,6 +30,21 @@ QString Podpis(const OpisPolaFormularza& pole, RodzajRekordu katalog) {
   const std::u16string_view podpis =
       pole.podpis.empty() ? KatalogPol(katalog)[static_cast<std::size_t>(pole.pole)].nazwa : pole.podpis;
   return QStringView(podpis).toString();
+}
+
+// What a person sees in the controls.
+QString Tresc(const QWidget& okno) {
+  QStringList tresc;
+  for (const QWidget* const kontrolka : okno.findChildren<QWidget*>()) {
+    if (const auto* const tabela = qobject_cast<const QTableWidget*>(kontrolka))
+      for (int i = 0; i < tabela->rowCount() * tabela->columnCount(); ++i)
+        if (const auto* const komorka = tabela->item(i / tabela->columnCount(), i % tabela->columnCount()))
+          tresc << komorka->text();
+    const QMetaProperty wartosc = kontrolka->metaObject()->userProperty();
+    const bool przesuwa = qobject_cast<const QAbstractSlider*>(kontrolka);
+    if (wartosc.isValid() && !przesuwa) tresc << wartosc.read(kontrolka).toString();
+  }
+  return tresc.join(u'\n');
 }
 
 }  // namespace
@@ -73,21 +92,41 @@ void TFmVLTFormularzRekordu::DodajPrzyciski() {
   pasek->ButtonClick = [this](const TMStatusButton& przycisk) {
     if (przycisk.IsTheSameName(u"Zapisz"))
       Zatwierdz();
+    else if (przycisk.IsTheSameName(u"Rezygnuj"))
+      reject();
     else
-      done(przycisk.IsTheSameName(u"Rezygnuj") ? QDialog::Rejected : kPrzerwano);
+      done(kPrzerwano);
   };
   pasek->findChild<QPushButton*>(u"Zapisz"_s)->setDefault(true);
   layout()->addWidget(pasek);
 }
 
+int TFmVLTFormularzRekordu::PokazOkno() {
+  m_poczatkowaTresc = Tresc(*this);
+  return m_rozmowa.Pokaz(*this);
+}
+
+bool TFmVLTFormularzRekordu::MaZmiany() {
+  const QPointer aktywna(focusWidget());
+  ZakonczPisanie();
+  const bool zmieniona = Tresc(*this) != m_poczatkowaTresc;
+  if (aktywna) aktywna->setFocus();
+  return zmieniona;
+}
+
+// What is still being typed counts as left: a cell hands over its text, a name makes a short name.
+void TFmVLTFormularzRekordu::ZakonczPisanie() {
+  if (QWidget* const aktywna = focusWidget()) aktywna->clearFocus();
+}
+
 bool TFmVLTFormularzRekordu::PokazModalnie() {
   findChild<QPushButton*>(u"PrzerwijImport"_s)->hide();
-  return m_rozmowa.Pokaz(*this) == QDialog::Accepted;
+  return PokazOkno() == QDialog::Accepted;
 }
 
 Poprawka TFmVLTFormularzRekordu::Popraw(const OdmowaZapisu& odmowa) {
   PokazOdmowe(odmowa);
-  switch (m_rozmowa.Pokaz(*this)) {
+  switch (PokazOkno()) {
     case QDialog::Accepted:
       return Poprawka::Poprawiono;
     case kPrzerwano:
@@ -156,8 +195,7 @@ bool TFmVLTFormularzRekordu::Sprawdz() {
 }
 
 void TFmVLTFormularzRekordu::Zatwierdz() {
-  // What is still being typed counts as left: a cell hands over its text, a name makes a short name.
-  if (QWidget* const aktywna = focusWidget()) aktywna->clearFocus();
+  ZakonczPisanie();
   if (!Sprawdz()) return;
   for (PoleFormularza* const pole : m_pola) pole->Wpisz(m_rekord.Query.Field(pole->Kolumna()));
   WpiszSzczegoly();

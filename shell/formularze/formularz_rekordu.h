@@ -4,16 +4,16 @@
 #include <span>
 #include <vector>
 
-#include <QDialog>
+#include <QString>
 
 #include "exchange/katalog_pol.h"
 #include "model/kontekst.h"
 #include "run/operator.h"
 #include "shell/formularze/pole_formularza.h"
+#include "shell/kontrolki/dialog_edycji.h"
 
 class EVLTWDError;
 class QTabWidget;
-class Rozmowa;
 class TDmVLTElement;
 
 // Which field a refusal of the record concerns. A refusal of several fields is one of a change: it concerns
@@ -33,7 +33,7 @@ struct OpisFormularza {
 // giving up below. The record is changed when the person accepts, whole, and not before; it is never saved
 // here. Main thread; the record may belong to a worker that waits meanwhile. No transaction may be open while
 // the form is shown.
-class TFmVLTFormularzRekordu : public QDialog, public TFmVLTFormularzElementu {
+class TFmVLTFormularzRekordu : public DialogEdycji, public TFmVLTFormularzElementu {
  public:
   ~TFmVLTFormularzRekordu() override;
 
@@ -45,7 +45,9 @@ class TFmVLTFormularzRekordu : public QDialog, public TFmVLTFormularzElementu {
 
  protected:
   TFmVLTFormularzRekordu(QWidget* rodzic, Rozmowa& rozmowa, TDmVLTElement& rekord)
-      : QDialog(rodzic), m_rozmowa(rozmowa), m_rekord(rekord) {}
+      : DialogEdycji(rodzic, rozmowa), m_rekord(rekord) {}
+
+  bool MaZmiany() override;
 
   // Makes the fields and the buttons; the .ui is set up already. Throws EBladBazy.
   void Zbuduj(const OpisFormularza& opis);
@@ -70,13 +72,15 @@ class TFmVLTFormularzRekordu : public QDialog, public TFmVLTFormularzElementu {
   void DodajPola();
   void DodajPrzyciski();
   QString Znak() const;
+  int PokazOkno();
+  void ZakonczPisanie();
   bool Sprawdz();
   void Zatwierdz();
   void PokazOdmowe(const OdmowaZapisu& odmowa);
   std::vector<PoleFormularza*> PolaOdmowy(int kod);
 
-  Rozmowa& m_rozmowa;
   TDmVLTElement& m_rekord;
   OpisFormularza m_opis{};
   std::vector<PoleFormularza*> m_pola;
+  QString m_poczatkowaTresc;
 };

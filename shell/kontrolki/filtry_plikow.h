@@ -1,12 +1,22 @@
 #pragma once
 
+#include <initializer_list>
+#include <string_view>
+
 #include <QString>
 
 #include "exchange/struktura_pliku.h"
 
-// The filter of the dialog that chooses an import file: the caption shown, then the pattern, which the dialog
-// hides.
-inline QString FiltrImportu(TypPliku typ) {
-  return typ == TypPliku::DBase ? QStringLiteral("Pliki DBF (*.dbf) (*.dbf);;Wszystkie pliki (*.*) (*)")
-                                : QStringLiteral("Pliki tekstowe (*.txt) (*.txt);;Wszystkie pliki (*.*) (*)");
-}
+// Files that a dialog offers: its caption and their extension.
+struct PlikiFiltru {
+  std::u16string_view podpis;
+  std::u16string_view rozszerzenie;
+};
+
+// The filter of a file dialog: captions with the patterns, which the dialog hides, in both cases, for not
+// every system takes them for one; then all files.
+QString Filtr(std::initializer_list<PlikiFiltru> rodzaje);
+
+// Of the dialogs that choose an import file.
+QString FiltrImportu(TypPliku typ);
+QString RozszerzenieImportu(TypPliku typ);

@@ -1,12 +1,16 @@
 #include "shell/okno/okno_glowne.h"
 
+#include <utility>
+
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QScreen>
 
 #include <ui_okno_glowne.h>
@@ -34,6 +38,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 using Ikona = Rozmowa::Ikona;
+using std::bind_front;
 
 QString Napis(std::u16string_view tekst) {
   return QStringView(tekst).toString();
@@ -94,7 +99,6 @@ void Tfrm_main::DodajStrony() {
 }
 
 void Tfrm_main::PodlaczPolecenia() {
-  using std::bind_front;
   const struct {
     QAction* pozycja;
     std::function<void()> wykonaj;
@@ -110,6 +114,7 @@ void Tfrm_main::PodlaczPolecenia() {
       {m_ui->ZapisDoBazy, bind_front(&Tfrm_main::ZapisDoBazyClick, this)},
       {m_ui->EksportDoPlikuZorvik, bind_front(&Tfrm_main::EksportDoPlikuZorvikClick, this)},
       {m_ui->ImportZPlikuZorvik, bind_front(&Tfrm_main::ImportZPlikuZorvikClick, this)},
+      {m_ui->ZmienBaze, bind_front(&Tfrm_main::ZmienBazeClick, this)},
       {m_ui->OProgramie, bind_front(&Tfrm_main::OProgramieClick, this)},
   };
   for (const auto& polecenie : polecenia)
@@ -129,57 +134,84 @@ void Tfrm_main::Wykonaj(const std::function<void()>& polecenie) {
 bool Tfrm_main::FormShow() {
   try {
     if (!Polacz()) return false;
-    setWindowTitle(m_tytul + u" ("_s + m_kontekst.baza.Nazwa() + u')');
-    WypelnijPozycjeStanow();
-    WczytajUstawienia();
   } catch (const EMException& blad) {
     m_kontekst.rozmowa.PokazBlad(this, blad);
+    return false;
   }
+  PrzejmijBaze();
   if (!m_kontekst.baza.Polaczona()) return false;
-  Pokaz();
   adjustSize();
   move(screen()->availableGeometry().center() - rect().center());
   show();
   return true;
 }
 
-// A remembered database that cannot be reached does not lock the person out: another one may be named.
+// A remembered database that cannot be reached does not lock the person out: it may be tried again, or
+// another one named.
 bool Tfrm_main::Polacz() {
-  TVLTBazaDanych& baza = m_kontekst.baza;
-  const auto polacz = [&] {
+  if (m_start.baza) {
+    PolaczZ(*m_start.baza);
+    return true;
+  }
+  DotychczasowaBaza zapamietana{.adres = ParametryPolaczenia::Domyslne()};
+  if (zapamietana.adres) {
+    zapamietana.powod = Przelacz(*zapamietana.adres, false);
+    if (!zapamietana.powod) return true;
+  }
+  return ZapytajOBaze(zapamietana);
+}
+
+// The connection so far is given up only for one that has been seen to stand.
+void Tfrm_main::PolaczZ(const ParametryPolaczenia& parametry) {
+  const auto polacz = [](TVLTBazaDanych& baza, ParametrySystemu& systemu) {
     try {
       baza.Polacz();
-      m_kontekst.parametry.Wczytaj(baza);
+      systemu.Wczytaj(baza);
     } catch (...) {
       baza.Odlacz();
       throw;
     }
   };
-  if (m_start.baza) {
-    baza.UstawPolaczenie(*m_start.baza);
-    polacz();
-    return true;
+  if (m_kontekst.baza.Polaczona()) {
+    TVLTBazaDanych proba(parametry);
+    ParametrySystemu systemu;
+    polacz(proba, systemu);
   }
-  if (baza.WczytajDomyslnePolaczenie()) try {
-      polacz();
-      return true;
-    } catch (const EMException& blad) {
-      m_kontekst.rozmowa.PokazBlad(this, blad);
-    }
-  while (const auto parametry = ZapytajOPolaczenie(this, m_kontekst.rozmowa, m_start.utworzBaze)) {
-    baza.UstawPolaczenie(*parametry);
-    try {
-      polacz();
-    } catch (const EMException& blad) {
-      m_kontekst.rozmowa.PokazBlad(this, blad);
-      continue;
-    }
-    if (const auto powod = parametry->Zapamietaj())
-      PokazKomunikaty({{u"UWAGA"_s, u"Nie udało się zapamiętać połączenia w pliku "_s +
-                                        ParametryPolaczenia::PlikDomyslnych() + u'\n' + *powod}});
-    return true;
+  m_kontekst.baza.UstawPolaczenie(parametry);
+  polacz(m_kontekst.baza, m_kontekst.parametry);
+}
+
+std::optional<QString> Tfrm_main::Przelacz(const ParametryPolaczenia& parametry, bool nowa) {
+  if (nowa)
+    if (const auto odmowa = m_start.utworzBaze(parametry)) return odmowa->tekst;
+  try {
+    PolaczZ(parametry);
+    return std::nullopt;
+  } catch (const EMException& blad) {
+    return TrescZPrzyczyna(blad);
   }
-  return false;
+}
+
+bool Tfrm_main::ZapytajOBaze(const DotychczasowaBaza& dotychczasowa) {
+  Tfrm_polaczenie okno(this, m_kontekst.rozmowa, dotychczasowa, bind_front(&Tfrm_main::Przelacz, this));
+  if (m_kontekst.rozmowa.Pokaz(okno) != QDialog::Accepted) return false;
+  if (const auto powod = m_kontekst.baza.Parametry().Zapamietaj())
+    PokazKomunikaty({{u"UWAGA"_s, u"Nie udało się zapamiętać połączenia w pliku "_s +
+                                      ParametryPolaczenia::PlikDomyslnych() + u'\n' + *powod}});
+  return true;
+}
+
+// What cannot be read takes nothing else with it: settings are there before the warehouses are looked for.
+void Tfrm_main::PrzejmijBaze() {
+  setWindowTitle(m_tytul + u" ("_s + m_kontekst.baza.Nazwa() + u')');
+  const QString adres = AdresBazy(m_kontekst.baza.Parametry());
+  m_ui->EdAdresBazy->setText(adres);
+  m_ui->EdAdresBazy->setCursorPosition(0);
+  m_ui->EdAdresBazy->setToolTip(adres);
+  m_kontekst.bufor.Uniewaznij();
+  Wykonaj([this] { WczytajUstawienia(); });
+  Wykonaj([this] { WypelnijPozycjeStanow(); });
+  Pokaz();
 }
 
 void Tfrm_main::WczytajUstawienia() {
@@ -192,14 +224,15 @@ void Tfrm_main::WczytajUstawienia() {
 
 void Tfrm_main::WypelnijPozycjeStanow() {
   KontekstSesji sesja{m_kontekst.baza, m_kontekst.parametry};
-  const auto wypelnij = [this](QLatin1String nazwa, const QStringList& pozycje) {
+  const std::pair<QLatin1String, QStringList> listy[] = {
+      {"CBImportStanow"_L1, PozycjeImportuStanow(sesja)},
+      {"CBEksportStanow"_L1, PozycjeEksportuStanow(sesja)}};
+  for (const auto& [nazwa, pozycje] : listy) {
     auto* const lista = findChild<QComboBox*>(nazwa);
     const QSignalBlocker cisza(lista);
     lista->clear();
     lista->addItems(pozycje);
-  };
-  wypelnij("CBImportStanow"_L1, PozycjeImportuStanow(sesja));
-  wypelnij("CBEksportStanow"_L1, PozycjeEksportuStanow(sesja));
+  }
 }
 
 void Tfrm_main::Pokaz() {
@@ -220,11 +253,17 @@ void Tfrm_main::PokazKomunikaty(const std::vector<Komunikat>& komunikaty) {
                                komunikat.naglowek == u"BŁĄD" ? Ikona::Critical : Ikona::Warning);
 }
 
+// The pages whose way out does not ask close at once; everything else that closes the window asks.
 void Tfrm_main::Wyjscie(int strona) {
-  if (TabelaStron()[static_cast<std::size_t>(strona)].pytaPrzyWyjsciu &&
-      !m_kontekst.rozmowa.CzyTak(this, {u"Uwaga"_s, u"Czy rzeczywiście chcesz opuścić program"_s}))
-    return;
+  const QScopedValueRollback pytaj(m_pytajPrzyZamykaniu,
+                                   TabelaStron()[static_cast<std::size_t>(strona)].pytaPrzyWyjsciu);
   close();
+}
+
+void Tfrm_main::closeEvent(QCloseEvent* zdarzenie) {
+  zdarzenie->setAccepted(
+      !m_pytajPrzyZamykaniu ||
+      m_kontekst.rozmowa.CzyTak(this, {u"Uwaga"_s, u"Czy rzeczywiście chcesz opuścić program"_s}));
 }
 
 const RodzajPrzebiegu& Tfrm_main::BiezacyRodzaj() const {
@@ -234,7 +273,8 @@ const RodzajPrzebiegu& Tfrm_main::BiezacyRodzaj() const {
 void Tfrm_main::Przeprowadz(KtoryPrzebieg ktory) {
   const RodzajPrzebiegu& rodzaj = Rodzaj(ktory);
   if (!SprawdzPrzedImportem(rodzaj)) return;
-  if (const auto plik = WybierzPlikPrzebiegu(this, m_kontekst.rozmowa, rodzaj, m_kontekst.ustawienia))
+  if (const auto plik = WybierzPlikPrzebiegu(this, m_kontekst.rozmowa, rodzaj, m_kontekst.ustawienia,
+                                             m_start.katalogStartowy))
     UruchomPrzebieg(rodzaj, *plik);
 }
 
@@ -309,9 +349,13 @@ void Tfrm_main::ImportZPlikuZorvikClick() {
   if (!plik) return;
   const auto wynik = magazyn_ustawien::ImportujZPliku(*plik, u);
   if (wynik.wczytano) u.plikKonfiguracji = *plik;
-  PokazKomunikaty(wynik.komunikaty);
-  PokazKomunikaty(wspolzaleznosci::ZastosujWspolzaleznosci(u));
+  wspolzaleznosci::ZastosujWspolzaleznosci(u);
   Pokaz();
+  PokazKomunikaty(wynik.komunikaty);
+}
+
+void Tfrm_main::ZmienBazeClick() {
+  if (ZapytajOBaze({.adres = m_kontekst.baza.Parametry()})) PrzejmijBaze();
 }
 
 void Tfrm_main::OProgramieClick() {

@@ -33,6 +33,7 @@ class Tfrm_main final : public QMainWindow {
  protected:
   void dragEnterEvent(QDragEnterEvent* zdarzenie) override;
   void dropEvent(QDropEvent* zdarzenie) override;
+  void closeEvent(QCloseEvent* zdarzenie) override;
 
  private:
   void DodajStrony();
@@ -40,7 +41,16 @@ class Tfrm_main final : public QMainWindow {
   // Every command: typing is finished first, an exception is shown.
   void Wykonaj(const std::function<void()>& polecenie);
 
+  // False when the person gives up.
   bool Polacz();
+  void PolaczZ(const ParametryPolaczenia& parametry);
+  // Goes over to a database, which is made first when it is to be a new one. The reason when it could not:
+  // the one worked with so far stays.
+  std::optional<QString> Przelacz(const ParametryPolaczenia& parametry, bool nowa);
+  // Asks for a database until one is reached, and remembers it.
+  bool ZapytajOBaze(const DotychczasowaBaza& dotychczasowa);
+  // Shows the database and what it holds of settings.
+  void PrzejmijBaze();
   void WczytajUstawienia();
   void WypelnijPozycjeStanow();
   void Pokaz();
@@ -58,6 +68,7 @@ class Tfrm_main final : public QMainWindow {
   void ZapisDoBazyClick();
   void EksportDoPlikuZorvikClick();
   void ImportZPlikuZorvikClick();
+  void ZmienBazeClick();
   void OProgramieClick();
 
   StartOkna m_start;
@@ -65,4 +76,5 @@ class Tfrm_main final : public QMainWindow {
   std::unique_ptr<Ui::Tfrm_main> m_ui;
   QString m_tytul;
   std::unique_ptr<Powiazania> m_powiazania;
+  bool m_pytajPrzyZamykaniu = true;
 };

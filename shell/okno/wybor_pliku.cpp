@@ -8,15 +8,15 @@
 #include "shell/rozmowa.h"
 #include "ustawienia/magazyn_ustawien.h"
 #include "ustawienia/rodzaje_przebiegow.h"
+#include "ustawienia/tabela_ustawien.h"
 #include "ustawienia/ustawienia.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::u16string_view kEksportu = u"pliki tekstowe (*.txt) (*.txt);;Wszystkie pliki (*.*) (*)";
-constexpr std::u16string_view kKonfiguracji =
-    u"Pliki konfiguracji Zorvika (Zorvik*.cfg) (*.cfg);;Wszystkie pliki (*.*) (*)";
+constexpr PlikiFiltru kEksportu{u"pliki tekstowe (*.txt)", u"txt"};
+constexpr PlikiFiltru kKonfiguracji{u"Pliki konfiguracji Zorvika (Zorvik*.cfg)", u"cfg"};
 
 QString Napis(std::u16string_view tekst) {
   return QStringView(tekst).toString();
@@ -32,10 +32,14 @@ QString WIstniejacymFolderze(const QString& plik) {
   return opis.dir().exists() ? opis.absoluteFilePath() : QDir::home().filePath(opis.fileName());
 }
 
-QString Proponowany(const RodzajPrzebiegu& rodzaj, const QString& plik) {
+// A path that somebody has chosen counts whole; the folder used last is better than the one the program was
+// started in, and than one that is gone.
+QString Proponowany(const RodzajPrzebiegu& rodzaj, const QString& plik, const QString& domyslny) {
+  const QFileInfo opis(QDir::fromNativeSeparators(plik));
+  if (plik != domyslny && opis.dir().exists()) return opis.absoluteFilePath();
   const QString folder = PamiecOkien().value(KluczFolderu(rodzaj)).toString();
   if (folder.isEmpty() || !QDir(folder).exists()) return WIstniejacymFolderze(plik);
-  return QDir(folder).filePath(QFileInfo(QDir::fromNativeSeparators(plik)).fileName());
+  return QDir(folder).filePath(opis.fileName());
 }
 
 std::optional<QString> Wybierz(QWidget* okno, Rozmowa& rozmowa, Kierunek kierunek,
@@ -50,14 +54,16 @@ std::optional<QString> Wybierz(QWidget* okno, Rozmowa& rozmowa, Kierunek kierune
 }  // namespace
 
 std::optional<QString> WybierzPlikPrzebiegu(QWidget* okno, Rozmowa& rozmowa, const RodzajPrzebiegu& rodzaj,
-                                            const Ustawienia& ustawienia) {
+                                            const Ustawienia& ustawienia, const QString& katalogStartowy) {
   const bool import = rodzaj.kierunek == Kierunek::Import;
-  return Wybierz(
-      okno, rozmowa, rodzaj.kierunek,
-      {.tytul = Napis(rodzaj.tytul),
-       .sciezka = Proponowany(rodzaj, ustawienia.*rodzaj.plik),
-       .filtr = import ? FiltrImportu((ustawienia.*rodzaj.struktura).CBTypPliku) : Napis(kEksportu),
-       .rozszerzenie = u"txt"_s});
+  const TypPliku typ = (ustawienia.*rodzaj.struktura).CBTypPliku;
+  Ustawienia domyslne;
+  WypelnijDomyslne(domyslne, katalogStartowy);
+  return Wybierz(okno, rozmowa, rodzaj.kierunek,
+                 {.tytul = Napis(rodzaj.tytul),
+                  .sciezka = Proponowany(rodzaj, ustawienia.*rodzaj.plik, domyslne.*rodzaj.plik),
+                  .filtr = import ? FiltrImportu(typ) : Filtr({kEksportu}),
+                  .rozszerzenie = import ? RozszerzenieImportu(typ) : u"txt"_s});
 }
 
 void ZapamietajPlikPrzebiegu(const RodzajPrzebiegu& rodzaj, const QString& plik, Ustawienia& ustawienia) {
@@ -71,6 +77,6 @@ std::optional<QString> WybierzPlikKonfiguracji(QWidget* okno, Rozmowa& rozmowa, 
                  {.tytul = kierunek == Kierunek::Import ? u"Import konfiguracji z pliku"_s
                                                         : u"Eksport konfiguracji do pliku"_s,
                   .sciezka = WIstniejacymFolderze(ustawienia.plikKonfiguracji),
-                  .filtr = Napis(kKonfiguracji),
+                  .filtr = Filtr({kKonfiguracji}),
                   .rozszerzenie = u"cfg"_s});
 }

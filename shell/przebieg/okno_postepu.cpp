@@ -1,5 +1,7 @@
 #include "shell/przebieg/okno_postepu.h"
 
+#include <algorithm>
+
 #include <QShowEvent>
 #include <QTimer>
 
@@ -50,9 +52,9 @@ TLProgressView& Tfrm_progress::Widok() {
 void Tfrm_progress::PokazWynik(const WynikPrzebiegu& wynik) {
   const QString koniec = QStringView(kKonce[static_cast<std::size_t>(wynik.koniec)]).toString();
   const bool zCzasem = wynik.koniec != KoniecPrzebiegu::Odmowa && wynik.sekund > 0;
-  m_zakonczenie = zCzasem
-                      ? u"%1 po %2 s"_s.arg(koniec, QString::number(wynik.sekund, 'f', 1).replace(u'.', u','))
-                      : koniec;
+  const double sekund = std::max(0.0, wynik.sekund - Widok().Czekano());
+  m_zakonczenie =
+      zCzasem ? u"%1 po %2 s"_s.arg(koniec, QString::number(sekund, 'f', 1).replace(u'.', u',')) : koniec;
   m_plikPominietych = wynik.plikPominietych;
   if (m_timer->isActive()) m_timer->start(kOkresPrzedKoncemMs);
   m_uwagi = wynik.uwagi;

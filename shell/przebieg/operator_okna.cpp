@@ -33,12 +33,9 @@ Poprawka OperatorOkna::Popraw(TDmVLTElement& rekord, const OdmowaZapisu& odmowa)
   return Zapytaj([&] { return PoprawWFormularzu(&m_okno, m_rozmowa, rekord, odmowa); });
 }
 
-bool OperatorOkna::CzyTak(const Komunikat& pytanie, bool bezpieczna) {
-  const Rozmowa::Przycisk wybrany = Zapytaj([&] {
-    return m_rozmowa.Zapytaj(&m_okno, pytanie, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No,
-                             bezpieczna ? QMessageBox::Yes : QMessageBox::No);
-  });
-  return wybrany == QMessageBox::Yes;
+// Enter is never an answer that somebody has thought of.
+bool OperatorOkna::CzyTak(const Komunikat& pytanie, bool /*bezpieczna*/) {
+  return Zapytaj([&] { return m_rozmowa.CzyTak(&m_okno, pytanie); });
 }
 
 std::optional<QString> OperatorOkna::PodajTekst(const Komunikat& pytanie) {

@@ -38,13 +38,19 @@ class TLProgressView final : public QWidget {
   class Przerwa {
    public:
     explicit Przerwa(TLProgressView& widok) : m_widok(widok) { m_widok.m_tempo.Wstrzymaj(); }
-    ~Przerwa() { m_widok.m_tempo.Wznow(); }
+    ~Przerwa() {
+      m_widok.m_tempo.Wznow();
+      m_widok.m_czekano += Tempo::Zegar::now() - m_poczatek;
+    }
     Przerwa(const Przerwa&) = delete;
     Przerwa& operator=(const Przerwa&) = delete;
 
    private:
     TLProgressView& m_widok;
+    const Tempo::Chwila m_poczatek = Tempo::Zegar::now();
   };
+  // How long persons have been asked, in seconds.
+  double Czekano() const { return m_czekano.count(); }
 
  private:
   struct Linia {
@@ -67,5 +73,6 @@ class TLProgressView final : public QWidget {
   std::vector<Linia> m_linie;
   std::optional<std::size_t> m_zPaskiem;  // the last line that has a bar
   Tempo m_tempo;                          // of that line
-  std::optional<QString> m_zakonczenie;   // once the run is over
+  std::chrono::duration<double> m_czekano{0};
+  std::optional<QString> m_zakonczenie;  // once the run is over
 };

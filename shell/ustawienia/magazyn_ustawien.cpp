@@ -54,8 +54,8 @@ Komunikaty WczytajDomyslnyPlik(const QString& katalogStartowy, Ustawienia& ustaw
 }
 
 Komunikaty WczytajZBazy(TVLTBazaDanych& baza, Ustawienia& ustawienia) {
+  // Without the state as it is: a choice that was made before must not be made again after the database's.
   TMConfig config;
-  ZapiszUstawienia(ustawienia, config);
   baza.WczytajKonfiguracje(NazwaKonfiguracji(), config);
   return Zastosuj(config, ustawienia);
 }
@@ -115,7 +115,7 @@ WynikWczytania WczytajUstawienia(const Zrodla& zrodla, Ustawienia& ustawienia) {
         break;
     }
   }
-  Dopisz(wynik.komunikaty, wspolzaleznosci::ZastosujWspolzaleznosci(ustawienia));
+  wspolzaleznosci::ZastosujWspolzaleznosci(ustawienia);
   return wynik;
 }
 

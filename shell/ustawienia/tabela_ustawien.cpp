@@ -57,6 +57,29 @@ constexpr Ustawienie Flaga(std::u16string_view klucz, std::u16string_view domysl
           Kontrolka<Kroki...>()};
 }
 
+// Choices stored one by one of which no more than one is made.
+using WyborNip = bool OpcjeImportuKontrahentow::*;
+constexpr WyborNip kBezNipu[] = {&OpcjeImportuKontrahentow::rb_dodajKontrBezNIPu,
+                                 &OpcjeImportuKontrahentow::rb_pominKontrBezNIPu,
+                                 &OpcjeImportuKontrahentow::rb_dodajKontrBezNIPuJesliInnyAdres};
+constexpr WyborNip kNipJuzJest[] = {&OpcjeImportuKontrahentow::rb_PominBoTakiNIPJuzJest,
+                                    &OpcjeImportuKontrahentow::rb_DodajChociazTakiNIPJuzJest,
+                                    &OpcjeImportuKontrahentow::rb_DodajJesliMaInnyAdres};
+
+// Making one choice takes back the others, whoever made them.
+template <const auto& Grupa, WyborNip Wybor>
+constexpr Ustawienie JedenZ(std::u16string_view klucz) {
+  Ustawienie ustawienie = Flaga<&U::importKontr, Wybor>(klucz, u"0");
+  ustawienie.wpisz = [](U& u, const QString& tekst) {
+    const std::optional<bool> wartosc = TMCfgParam({}, tekst).Flaga();
+    if (wartosc && *wartosc)
+      for (const WyborNip inny : Grupa) u.importKontr.*inny = false;
+    if (wartosc) u.importKontr.*Wybor = *wartosc;
+    return wartosc.has_value();
+  };
+  return ustawienie;
+}
+
 template <int Min, int Max, auto... Kroki>
 constexpr Ustawienie Liczba(std::u16string_view klucz, std::u16string_view domyslna) {
   return {klucz,
@@ -270,16 +293,14 @@ constexpr Ustawienie kTabela[] = {
     // contractor import
     Flaga<&U::importKontr, &OpcjeImportuKontrahentow::cb_aktkontr>(u"ParAktualKontr", u"0"),
     Flaga<&U::importKontr, &OpcjeImportuKontrahentow::cb_nowykontr>(u"ParNowyKontr", u"0"),
-    Flaga<&U::importKontr, &OpcjeImportuKontrahentow::rb_dodajKontrBezNIPu>(u"ParDodajKontrBezNIPu", u"0"),
-    Flaga<&U::importKontr, &OpcjeImportuKontrahentow::rb_pominKontrBezNIPu>(u"ParPominKontrBezNIPu", u"0"),
-    Flaga<&U::importKontr, &OpcjeImportuKontrahentow::rb_dodajKontrBezNIPuJesliInnyAdres>(
-        u"ParDodajKontrBezNIPuJesliInnyAdres", u"0"),
-    Flaga<&U::importKontr, &OpcjeImportuKontrahentow::rb_PominBoTakiNIPJuzJest>(u"ParPominBoTakiNIPJuzJest",
-                                                                                u"0"),
-    Flaga<&U::importKontr, &OpcjeImportuKontrahentow::rb_DodajChociazTakiNIPJuzJest>(
-        u"ParDodajChociazTakiNIPJuzJest", u"0"),
-    Flaga<&U::importKontr, &OpcjeImportuKontrahentow::rb_DodajJesliMaInnyAdres>(u"ParDodajJesliMaInnyAdres",
-                                                                                u"0"),
+    JedenZ<kBezNipu, &OpcjeImportuKontrahentow::rb_dodajKontrBezNIPu>(u"ParDodajKontrBezNIPu"),
+    JedenZ<kBezNipu, &OpcjeImportuKontrahentow::rb_pominKontrBezNIPu>(u"ParPominKontrBezNIPu"),
+    JedenZ<kBezNipu, &OpcjeImportuKontrahentow::rb_dodajKontrBezNIPuJesliInnyAdres>(
+        u"ParDodajKontrBezNIPuJesliInnyAdres"),
+    JedenZ<kNipJuzJest, &OpcjeImportuKontrahentow::rb_PominBoTakiNIPJuzJest>(u"ParPominBoTakiNIPJuzJest"),
+    JedenZ<kNipJuzJest, &OpcjeImportuKontrahentow::rb_DodajChociazTakiNIPJuzJest>(
+        u"ParDodajChociazTakiNIPJuzJest"),
+    JedenZ<kNipJuzJest, &OpcjeImportuKontrahentow::rb_DodajJesliMaInnyAdres>(u"ParDodajJesliMaInnyAdres"),
     Flaga<&U::importKontr, &OpcjeImportuKontrahentow::cb_dostawca>(u"ParUstawDostawce", u"0"),
     Flaga<&U::importKontr, &OpcjeImportuKontrahentow::cb_odbiorca>(u"ParUstawOdbiorce", u"0"),
     Flaga<&U::importKontr, &OpcjeImportuKontrahentow::cb_producent>(u"ParUstawProducenta", u"0"),

@@ -108,18 +108,15 @@ const PoleWyboru* ZnajdzPole(QStringView nazwa) {
 
 }  // namespace
 
-std::vector<Komunikat> ZastosujWspolzaleznosci(Ustawienia& ustawienia) {
-  std::vector<Komunikat> komunikaty;
+void ZastosujWspolzaleznosci(Ustawienia& ustawienia) {
   CBImportStanowChange(ustawienia);
   RBPominTowarBezNazwyClick(ustawienia);
-  for (const auto& komunikat : {DopasujTowary(ustawienia, MaStatus(ustawienia.strukturaTow)),
-                                DopasujKontrahentow(ustawienia, MaStatus(ustawienia.strukturaKontr))})
-    if (komunikat) komunikaty.push_back(*komunikat);
+  DopasujTowary(ustawienia, MaStatus(ustawienia.strukturaTow));
+  DopasujKontrahentow(ustawienia, MaStatus(ustawienia.strukturaKontr));
   // Without an update of contractors the tax-number choices stay as they were saved, even while they are
   // disabled.
   if (ustawienia.importKontr.cb_aktkontr) WymusPomijanie(ustawienia.importKontr);
   UpDownMaxDlugoscKoduClick(ustawienia.importTow);
-  return komunikaty;
 }
 
 void PoZmianieStrukturyTow(Ustawienia& ustawienia) {

@@ -3,7 +3,6 @@
 #include <optional>
 #include <span>
 #include <string_view>
-#include <vector>
 
 #include <QString>
 
@@ -19,10 +18,10 @@ struct Ustawienia;
 // settings calls ZastosujWspolzaleznosci afterwards.
 namespace wspolzaleznosci {
 
-// After every load of settings. The messages say which chosen options the structures did not allow. Code
-// texts and header flags stay as loaded even when the file type fixes them: readers ask the structure for the
-// flag in force and know the own layout's texts, and another file type finds its own again.
-std::vector<Komunikat> ZastosujWspolzaleznosci(Ustawienia& ustawienia);
+// After every load of settings; silently, for a message about a choice belongs to the click that made it.
+// Code texts and header flags stay as loaded even when the file type fixes them: readers ask the structure
+// for the flag in force and know the own layout's texts, and another file type finds its own again.
+void ZastosujWspolzaleznosci(Ustawienia& ustawienia);
 
 // After the goods structure has been edited, and after the contractor structure has been: what the accepted
 // file type fixes, then the rules above.

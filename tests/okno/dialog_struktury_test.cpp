@@ -132,6 +132,7 @@ TEST_F(DialogStrukturyTest, ZaakceptowanePrzechodziDoStruktury) {
 }
 
 TEST_F(DialogStrukturyTest, RowneSlowaStatusuZatrzymuja) {
+  rozmowa.odpowiedzi = {QMessageBox::Yes};
   EXPECT_FALSE(Edytuj(
       towary,
       [](QDialog& dialog) {
@@ -141,13 +142,14 @@ TEST_F(DialogStrukturyTest, RowneSlowaStatusuZatrzymuja) {
         EXPECT_TRUE(dialog.isVisible());
       },
       "Wyjscie"));
-  ASSERT_EQ(rozmowa.pytania.size(), 1U);
+  ASSERT_EQ(rozmowa.pytania.size(), 2U);
   EXPECT_EQ(rozmowa.pytania[0].komunikat.naglowek, u"BŁĄD"_s);
   EXPECT_EQ(rozmowa.pytania[0].komunikat.tekst, u"Pola 'Aktywny' i 'Usunięty' nie mogą być takie same"_s);
 }
 
 TEST_F(DialogStrukturyTest, PorzuconyDialogZostawiaWszystko) {
   const StrukturaPliku przedtem = towary;
+  rozmowa.odpowiedzi = {QMessageBox::Yes, QMessageBox::Yes};
   EXPECT_FALSE(Edytuj(
       towary,
       [this](QDialog& dialog) {
@@ -175,6 +177,7 @@ TEST_F(DialogStrukturyTest, PodgladIdzieZaTymCoWpisano) {
   const PlikProbny plik("1;Chleb\n2\n");
   const PlikProbny inny("3\tMleko\n");
   rozmowa.pliki = {std::nullopt, inny.Sciezka()};
+  rozmowa.odpowiedzi = {QMessageBox::Yes};
   Edytuj(
       towary,
       [&](QDialog& dialog) {
@@ -201,12 +204,47 @@ TEST_F(DialogStrukturyTest, PodgladIdzieZaTymCoWpisano) {
   EXPECT_FALSE(Znajdz<QWidget>(bezPliku, "TabelaPodgladu").isVisible());
 }
 
+TEST_F(DialogStrukturyTest, ZmianySaPorzucaneDopieroPoPytaniu) {
+  DialogStruktury struktura(nullptr, kontekst, towary, {});
+  DialogListyPol lista(nullptr, kontekst, towary, {});
+  DialogPolStandardowych pola(nullptr, rozmowa, towary);
+  DialogOpisowVat opisy(nullptr, kontekst, {});
+  TFmVLTStawkiVat stawki(nullptr, kontekst);
+  const std::pair<QDialog*, std::function<void()>> kDialogi[] = {
+      {&struktura, [&] { Wpisz(struktura, "EdPoleAktywny", "x"); }},
+      {&lista, [&] { Kliknij(lista, "Usun"); }},
+      {&pola, [&] { Q_EMIT Znajdz<QTableWidget>(pola, "Pola").cellDoubleClicked(0, 0); }},
+      {&opisy,
+       [&] {
+         auto& tabela = Znajdz<QTableWidget>(opisy, "Opisy");
+         tabela.editItem(tabela.item(0, 0));
+         tabela.viewport()->findChild<QLineEdit*>()->insert(u"A"_s);  // not left yet
+       }},
+      {&stawki, [&] { Kliknij(stawki, "Usun"); }}};
+  for (const auto& [dialog, zmien] : kDialogi) {
+    SCOPED_TRACE(dialog->windowTitle().toStdString());
+    rozmowa.pytania.clear();
+    dialog->show();
+    dialog->close();
+    EXPECT_FALSE(dialog->isVisible());
+    dialog->show();
+    zmien();
+    rozmowa.odpowiedzi = {QMessageBox::No, QMessageBox::Yes};
+    dialog->close();
+    EXPECT_TRUE(dialog->isVisible());
+    Kliknij(*dialog, "Wyjscie");
+    EXPECT_FALSE(dialog->isVisible());
+    ASSERT_EQ(rozmowa.pytania.size(), 2U);
+    EXPECT_EQ(rozmowa.pytania[0].domyslny, QMessageBox::No);
+  }
+}
+
 // Every dialog: its bar, the button Enter presses, and a name for everything the focus can reach.
 TEST_F(DialogStrukturyTest, KlawiaturaINazwyKontrolek) {
   DialogStruktury struktura(nullptr, kontekst, towary, {});
   DialogStruktury strukturaKontr(nullptr, kontekst, kontrahenci, {});
   DialogListyPol lista(nullptr, kontekst, towary, {});
-  DialogPolStandardowych pola(nullptr, towary);
+  DialogPolStandardowych pola(nullptr, rozmowa, towary);
   DialogOpisowVat opisy(nullptr, kontekst, {});
   TFmVLTStawkiVat stawki(nullptr, kontekst);
   const struct {

@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -185,6 +186,28 @@ TEST_F(TabelaPol, KazdaOdmowaStoiPrzySwoimPoluNaWidocznejStronie) {
     });
     PoprawWFormularzu(nullptr, rozmowa, towar, {u"Odmowa"_s, blad});
   }
+}
+
+TEST_F(Formularze, ZmianySaPorzucaneDopieroPoPytaniu) {
+  const auto porzuc = [this](TDmVLTElement& rekord, const std::function<void(QDialog&)>& zmien) {
+    rozmowa.pytania.clear();
+    rozmowa.odpowiedzi = {QMessageBox::No, QMessageBox::Yes};
+    EXPECT_FALSE(Edytuj(rekord, [&](QDialog& okno) {
+      okno.show();
+      zmien(okno);
+      okno.close();
+      EXPECT_TRUE(okno.isVisible());
+      return Kliknij(okno, u"Rezygnuj"_s);
+    }));
+    ASSERT_EQ(rozmowa.pytania.size(), 2U);
+    EXPECT_EQ(rozmowa.pytania[0].domyslny, QMessageBox::No);
+  };
+  porzuc(towar, [](QDialog& okno) { Wpisz(okno, u"CenaDet"_s, u"5"_s); });
+  porzuc(towar, [](QDialog& okno) { Znajdz<QComboBox>(okno, u"AsId"_s).setCurrentIndex(1); });
+  porzuc(towar, [](QDialog& okno) { Kliknij(okno, u"DodajKod"_s); });
+  porzuc(kontrahent, [](QDialog& okno) { Znajdz<QGroupBox>(okno, u"gbSklep"_s).setChecked(false); });
+  porzuc(kontrahent,
+         [](QDialog& okno) { Znajdz<QPlainTextEdit>(okno, u"osoby"_s).appendPlainText("Nowak"); });
 }
 
 TEST_F(Formularze, OdmowaBezPolaStoiNadFormularzemZPrzyczyna) {

@@ -133,10 +133,24 @@ TEST_F(ListaPolTest, BezKoduTowaruNieMaListy) {
   EXPECT_EQ(kontrahenci.result(), QDialog::Accepted);
 }
 
+TEST_F(ListaPolTest, NajwyzejTylePolIleMiesciKonfiguracja) {
+  StrukturaPliku struktura(RodzajRekordu::Kontrahenci);
+  for (const std::size_t ile : {1001U, 1000U}) {
+    struktura.pola.assign(ile, WpisPola(u"00"_s));
+    DialogListyPol dialog(nullptr, kontekst, struktura, {});
+    Kliknij(dialog, "Zapisz");
+    EXPECT_EQ(dialog.result() == QDialog::Accepted, ile == 1000);
+  }
+  ASSERT_EQ(rozmowa.pytania.size(), 1U);
+  EXPECT_EQ(rozmowa.pytania[0].komunikat.tekst,
+            u"Lista ma 1001 pól, a zapisać można najwyżej 1000. Usuń z niej zbędne pola."_s);
+}
+
 TEST_F(ListaPolTest, PolaStandardoweDecydujaCoMoznaWybrac) {
   DialogListyPol dialog(nullptr, kontekst, rozdzielany, {});
   for (const char* const przycisk : {"Wyjscie", "Zapisz"}) {
     Osoba([](QDialog& pola) { Q_EMIT Znajdz<QTableWidget>(pola, "Pola").cellDoubleClicked(0, 0); }, przycisk);
+    rozmowa.odpowiedzi = {QMessageBox::Yes};  // to what is thrown away
     Kliknij(dialog, "PolaStandardowe");
     const bool zostala = QString(przycisk) == "Wyjscie";
     const QListWidgetItem& nazwa = *Znajdz<QListWidget>(dialog, "Katalog").item(PoleTowaru::Nazwa);

@@ -1,5 +1,8 @@
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
 
@@ -37,7 +40,7 @@ TEST_F(OknoGlowne, UruchomienieBierzeUstawieniaWKolejnosci) {
   // status.
   EXPECT_TRUE(Zaznaczony(u"RBDodajTowarZNazwaAuto"_s) && Zaznaczony(u"RBTowaryWszystkie"_s));
   EXPECT_TRUE(Znajdz(u"cb_importStanowUjemnych"_s).isEnabled());
-  EXPECT_EQ(Komunikaty().size(), 1);
+  EXPECT_TRUE(Komunikaty().isEmpty());
   // Import: the list in its order; export: all identifiers up to the highest.
   const auto pozycje = [&](const QString& nazwa) {
     QStringList teksty;
@@ -168,6 +171,25 @@ TEST_F(OknoGlowne, PaskiDzialajaTylkoNaSwojejStronie) {
     wyjscie->click();
     EXPECT_FALSE(okno->isVisible());
   }
+  // The close box asks on every page.
+  rozmowa.odpowiedzi = {QMessageBox::No, QMessageBox::Yes};
+  okno->show();
+  EXPECT_FALSE(okno->close());
+  EXPECT_EQ(rozmowa.pytania.back().komunikat.tekst, u"Czy rzeczywiście chcesz opuścić program"_s);
+  EXPECT_TRUE(okno->close());
+}
+
+TEST_F(OknoGlowne, NieczytelneMagazynyNieZabierajaUstawien) {
+  b.baza.ZapiszKonfiguracje(magazyn_ustawien::NazwaKonfiguracji(),
+                            Config({{"ParMaxDlKodu", "9"}, {"ParImportStanow", "2"}}));
+  b.baza.ExecSQL("drop table Magazyn");
+  ASSERT_TRUE(Otworz());
+  EXPECT_EQ(Komunikaty().size(), 1);
+  EXPECT_EQ(Znajdz<QSpinBox>(u"UpDownMaxDlugoscKodu"_s).value(), 9);
+  Polecenie(u"ZapisDoBazy"_s);
+  EXPECT_EQ(b.Kolumna("select Wartosc from Konfiguracja where Nazwa = 'ZORVIK' and Parametr in "
+                      "('ParMaxDlKodu', 'ParImportStanow') order by Parametr"),
+            u"2,9"_s);
 }
 
 TEST_F(OknoGlowne, KonfiguracjaWBazieIWPliku) {
@@ -187,7 +209,7 @@ TEST_F(OknoGlowne, KonfiguracjaWBazieIWPliku) {
     EXPECT_EQ(QFileInfo(plik).size() > 1000, odpowiedz == QMessageBox::Yes);
   }
   EXPECT_EQ(rozmowa.wybory[0].filtr,
-            u"Pliki konfiguracji Zorvika (Zorvik*.cfg) (*.cfg);;Wszystkie pliki (*.*) (*)"_s);
+            u"Pliki konfiguracji Zorvika (Zorvik*.cfg) (*.cfg *.CFG);;Wszystkie pliki (*.*) (*)"_s);
   EXPECT_EQ(rozmowa.wybory[0].sciezka, Sciezka(u"Zorvik.cfg"_s));
   // Back from it.
   Kliknij(u"cb_formatujJM"_s);
@@ -214,54 +236,154 @@ TEST_F(OknoGlowne, BladPoleceniaJestPokazany) {
   EXPECT_TRUE(rozmowa.pytania[1].komunikat.tekst.startsWith(u"Zorvik, wersja "));
 }
 
-TEST_F(OknoGlowne, PierwszeUruchomienie) {
+// The dialog that asks for a database, and a person in front of it.
+struct Polaczenie {
+  QDialog& dialog;
+  QLineEdit& baza = *dialog.findChild<QLineEdit*>("EdBaza");
+  QLabel& powod = *dialog.findChild<QLabel*>("lbPowod");
+  QPushButton& polacz = *dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+
+  explicit Polaczenie(QDialog& okno) : dialog(okno) {
+    okno.show();
+    EXPECT_TRUE(polacz.isDefault());
+  }
+  void Wybierz(const char* rodzaj) { dialog.findChild<QAbstractButton*>(rodzaj)->click(); }
+  // The attempt fails: the reason stands in the dialog, which stays as it was.
+  void Nieudane(const QString& adres, const QString& przyczyna) {
+    baza.setText(adres);
+    polacz.click();
+    EXPECT_TRUE(dialog.isVisible() && powod.isVisible());
+    EXPECT_TRUE(powod.text().contains(przyczyna)) << powod.text().toStdString();
+    EXPECT_EQ(baza.text(), adres);
+  }
+};
+
+struct OknoIBazy : OknoTestowe {
+  void Osoba(std::function<void(Polaczenie)> czynnosci) {
+    rozmowa.dialogi.push_back([=](QDialog& dialog) {
+      czynnosci(Polaczenie(dialog));
+      return dialog.result();
+    });
+  }
+  static QString Zapamietana() {
+    QFile plik(ParametryPolaczenia::PlikDomyslnych());
+    return plik.open(QIODevice::ReadOnly) ? QString::fromUtf8(plik.readAll()) : QString();
+  }
+  QString Adres() const { return Znajdz<QLineEdit>(u"EdAdresBazy"_s).text(); }
+
+  const QString nowa = Sciezka(u"nowa.db"_s);
+};
+
+TEST_F(OknoIBazy, PierwszeUruchomienie) {
   StartOkna start = Start();
   start.baza.reset();
-  QStringList tworzone;
+  int tworzonych = 0;
   start.utworzBaze = [&](const ParametryPolaczenia& parametry) -> std::optional<Komunikat> {
-    tworzone << parametry.cel;
-    if (tworzone.size() == 1) return Komunikat{u"UWAGA"_s, u"zajęta"_s};
+    if (++tworzonych == 1) return Komunikat{u"UWAGA"_s, u"zajęta"_s};
     EXPECT_TRUE(QFile::copy(b.Sciezka(), parametry.cel));
     return std::nullopt;
   };
-  const QString nowa = Sciezka(u"nowa.db"_s);
-  const auto osoba = [&](const char* wybor, const QString& baza, int wynik) {
-    rozmowa.dialogi.push_back([=](QDialog& dialog) {
-      dialog.findChild<QAbstractButton*>(wybor)->click();
-      dialog.findChild<QLineEdit*>("EdBaza")->setText(baza);
-      return wynik;
-    });
-  };
-  osoba("rbNowaBaza", nowa, QDialog::Rejected);
+  Osoba([](Polaczenie p) {
+    EXPECT_FALSE(p.polacz.isEnabled() || p.powod.isVisible());  // Enter makes no database
+    p.dialog.reject();
+  });
   EXPECT_FALSE(Otworz(start));
   EXPECT_FALSE(okno->isVisible());
 
   b.baza.Odlacz();  // all of it is in its file now
-  osoba("rbInnaBaza", u"odbc:DSN=x"_s, QDialog::Accepted);
-  osoba("rbInnaBaza", Sciezka(u"brak.db"_s), QDialog::Accepted);
-  osoba("rbNowaBaza", nowa, QDialog::Accepted);
-  osoba("rbNowaBaza", nowa, QDialog::Accepted);
+  Osoba([&](Polaczenie p) {
+    p.Nieudane(u"odbc:DSN=x"_s, u"ODBC"_s);
+    p.Nieudane(Sciezka(u"brak.db"_s), u"brak.db"_s);
+    EXPECT_EQ(p.polacz.text(), u"&Spróbuj ponownie"_s);
+    p.Wybierz("rbNowaBaza");
+    p.Nieudane(nowa, u"zajęta"_s);
+    p.Wybierz("rbInnaBaza");
+    EXPECT_EQ(p.baza.text(), Sciezka(u"brak.db"_s));
+    p.Wybierz("rbNowaBaza");
+    EXPECT_EQ(p.baza.text(), nowa);
+    p.polacz.click();
+  });
   EXPECT_TRUE(Otworz(start));
-  EXPECT_EQ(tworzone, (QStringList{nowa, nowa}));
-  EXPECT_EQ(rozmowa.pytania.size(), 3U);
-  QFile zapamietane(ParametryPolaczenia::PlikDomyslnych());
-  ASSERT_TRUE(zapamietane.open(QIODevice::ReadOnly));
-  EXPECT_EQ(QString::fromUtf8(zapamietane.readAll()), u"sqlite:"_s + nowa + u'\n');
+  EXPECT_EQ(tworzonych, 2);
+  EXPECT_TRUE(rozmowa.pytania.empty());
+  EXPECT_EQ(Zapamietana(), u"sqlite:"_s + nowa + u'\n');
   const auto prawa = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-  EXPECT_EQ(zapamietane.permissions(), prawa);
+  EXPECT_EQ(QFile(ParametryPolaczenia::PlikDomyslnych()).permissions(), prawa);
+}
 
-  // Remembered; another one may be named when it has gone.
+TEST_F(OknoIBazy, NieosiagalnaBazaJestProponowanaJeszczeRaz) {
+  b.baza.Odlacz();
+  ASSERT_TRUE(QFile::copy(b.Sciezka(), nowa));
+  ASSERT_FALSE(ParametryPolaczenia::ZTekstu(nowa)->Zapamietaj());
+  StartOkna start = Start();
+  start.baza.reset();
+  start.utworzBaze = [](const ParametryPolaczenia&) { return Komunikat{{}, u"nie teraz"_s}; };
   EXPECT_TRUE(Otworz(start));
   okno.reset();
-  ASSERT_TRUE(QFile::remove(nowa));
-  rozmowa.pytania.clear();
-  osoba("rbNowaBaza", nowa, QDialog::Rejected);
+  const QString gdzieIndziej = Sciezka(u"schowana.db"_s);
+  ASSERT_TRUE(QFile::rename(nowa, gdzieIndziej));
+  rozmowa.odpowiedzi = {QMessageBox::No};
+  Osoba([&](Polaczenie p) {
+    EXPECT_EQ(p.baza.text(), nowa);
+    EXPECT_EQ(p.polacz.text(), u"&Spróbuj ponownie"_s);
+    EXPECT_TRUE(p.powod.text().contains(nowa));
+    p.Wybierz("rbNowaBaza");
+    p.baza.setText(Sciezka(u"pusta.db"_s));
+    p.polacz.click();  // asks, with "Nie" as the default, and goes no further
+    EXPECT_FALSE(p.powod.text().contains(u"nie teraz"_s));
+    p.Wybierz("rbInnaBaza");
+    ASSERT_TRUE(QFile::rename(gdzieIndziej, nowa));
+    p.polacz.click();
+  });
+  EXPECT_TRUE(Otworz(start));
+  ASSERT_EQ(rozmowa.pytania.size(), 1U);
+  EXPECT_EQ(rozmowa.pytania[0].domyslny, QMessageBox::No);
+  EXPECT_EQ(Zapamietana(), u"sqlite:"_s + nowa + u'\n');
+  // A password is not shown.
+  ASSERT_FALSE(ParametryPolaczenia::ZTekstu(u"odbc:DSN=x;UID=u;PWD=tajne"_s)->Zapamietaj());
+  Osoba([](Polaczenie p) {
+    EXPECT_EQ(p.baza.text(), u"odbc:DSN=x;UID=u;"_s);
+    EXPECT_EQ(p.dialog.findChild<QLineEdit*>("EdHaslo")->text(), QString());
+    p.dialog.reject();
+  });
   EXPECT_FALSE(Otworz(start));
-  EXPECT_EQ(rozmowa.pytania.size(), 1U);
   // A database named by the person is not argued about.
-  start.baza = ParametryPolaczenia::ZTekstu(nowa);
+  start.baza = ParametryPolaczenia::ZTekstu(gdzieIndziej);
   EXPECT_FALSE(Otworz(start));
   EXPECT_EQ(rozmowa.pytania.size(), 2U);
+}
+
+TEST_F(OknoIBazy, ZmianaBazyWczytujeJejUstawienia) {
+  BazaTestowa druga;
+  UtworzBaze(druga.baza, {});
+  druga.baza.ZapiszKonfiguracje(magazyn_ustawien::NazwaKonfiguracji(), Config({{"ParMaxDlKodu", "9"}}));
+  druga.baza.ExecSQL("insert into Magazyn (MagId, Nazwa) values (5, 'Hala')");
+  ASSERT_TRUE(Otworz());
+  EXPECT_EQ(Adres(), b.Sciezka());
+  Kliknij(u"cb_formatujJM"_s);
+  Osoba([&](Polaczenie p) {
+    EXPECT_EQ(p.baza.text(), b.Sciezka());
+    EXPECT_EQ(p.polacz.text(), u"&Połącz"_s);
+    p.Nieudane(Sciezka(u"brak.db"_s), u"brak.db"_s);
+    // The one worked with so far is still there.
+    EXPECT_EQ(okno->Kontekst().baza.Parametry().cel, b.Sciezka());
+    EXPECT_TRUE(okno->Kontekst().baza.Polaczona());
+    p.baza.setText(druga.Sciezka());
+    p.polacz.click();
+  });
+  Polecenie(u"ZmienBaze"_s);
+  EXPECT_EQ(Adres(), druga.Sciezka());
+  EXPECT_EQ(okno->windowTitle(), u"Import/Eksport bazy towarów/kontrahentów ("_s + druga.baza.Nazwa() + u')');
+  EXPECT_EQ(Znajdz<QSpinBox>(u"UpDownMaxDlugoscKodu"_s).value(), 9);
+  EXPECT_FALSE(Zaznaczony(u"cb_formatujJM"_s));
+  EXPECT_EQ(Znajdz<QComboBox>(u"CBImportStanow"_s).itemText(1), u"Magazyn 5 – Hala"_s);
+  EXPECT_EQ(Zapamietana(), u"sqlite:"_s + druga.Sciezka() + u'\n');
+  Kliknij(u"cb_formatujJM"_s);
+  Polecenie(u"ZapisDoBazy"_s);
+  EXPECT_EQ(
+      druga.Liczba("select count(*) from Konfiguracja where Parametr = 'ParFormatujJM' and Wartosc = '1'"),
+      1);
+  EXPECT_EQ(b.Liczba("select count(*) from Konfiguracja where Nazwa = 'ZORVIK'"), 0);
 }
 
 }  // namespace

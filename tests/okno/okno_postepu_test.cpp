@@ -137,10 +137,40 @@ TEST_F(OknoPostepu, PytaniaIKomunikatyPrzebieguZadajeWatekGlowny) {
   const auto& pytania = rozmowa.pytania;
   ASSERT_EQ(pytania.size(), 7U);
   EXPECT_EQ(pytania[0].przyciski, QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore);
-  EXPECT_EQ(pytania[3].domyslny, QMessageBox::Yes);
-  EXPECT_EQ(pytania[4].domyslny, QMessageBox::No);
+  for (const int pytanie : {3, 4}) EXPECT_EQ(pytania[static_cast<size_t>(pytanie)].domyslny, QMessageBox::No);
   EXPECT_EQ(pytania[5].ikona, QMessageBox::Information);
   EXPECT_EQ(pytania[6].ikona, QMessageBox::Warning);
+}
+
+// Takes a quarter of a second for each box.
+struct Zamyslony final : Rozmowa {
+  QString zakonczenie;
+
+  int Pokaz(QDialog& okno) override {
+    if (qobject_cast<QMessageBox*>(&okno)) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(250));
+      return QMessageBox::Ok;
+    }
+    return CzekajIZamknij(okno,
+                          {{[&] { return okno.findChild<QPushButton*>("button")->text() == u"Zamknij"; },
+                            [&] { zakonczenie = okno.findChild<QLabel*>("tempo")->text(); }}});
+  }
+};
+
+TEST_F(OknoPostepu, CzasPrzebieguNieLiczyCzekaniaNaOsobe) {
+  Zamyslony osoba;
+  WykonajZOknemPostepu(nullptr, osoba, {{}, [](const Otoczenie& o) {
+                                          o.postep.Pokaz("Koniec", "Aktualizację zakończono");
+                                          o.oper.CzyTak({"Uwaga", "Nie poprawiasz?"}, true);
+                                          WynikPrzebiegu wynik;
+                                          wynik.koniec = KoniecPrzebiegu::Zakonczono;
+                                          wynik.sekund = 60;
+                                          return wynik;
+                                        }});
+  const QStringList slowa = osoba.zakonczenie.split(u' ');
+  ASSERT_EQ(slowa.size(), 4) << osoba.zakonczenie.toStdString();
+  const double sekund = QString(slowa[2]).replace(u',', u'.').toDouble();
+  EXPECT_TRUE(sekund > 50 && sekund <= 59.5) << sekund;
 }
 
 TEST_F(OknoPostepu, OknoZamknieteOdGoryKonczyPrzebieg) {

@@ -102,6 +102,7 @@ TEST(Poprawianie, RezygnacjaPytaDwaRazyINiczegoNieZmienia) {
     Wpisz(okno, u"Nazwa"_s, u"Wpisana"_s);
     return Kliknij(okno, u"Rezygnuj"_s);
   });
+  i.rozmowa.odpowiedzi = {QMessageBox::Yes};  // to what is thrown away
   const WynikPrzebiegu wynik = i.Importuj("5900000000015;;S\n5900000000022;Po;P2\n");
   EXPECT_THAT(i.osoba.pytania,
               ElementsAre(u"Podaj nazwę towaru o kodzie 5900000000015"_s, u"Brak nazwy towaru"_s,

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "shell/kontrolki/pamiec_okien.h"
 #include "shell/kontrolki/pasek_przyciskow.h"
 #include "tests/okno/okno_testowe.h"
 #include "tests/okno/osoba_przy_oknie.h"
@@ -99,8 +100,30 @@ TEST_F(PrzebiegiOkna, OdmowyPrzedImportemWKolejnosci) {
   s.pola = {WpisPola(0, u"KOD"_s)};
   rozmowa.pliki.push_back(std::nullopt);
   Polecenie(u"ImportTowMenu"_s);
-  EXPECT_EQ(rozmowa.wybory.front().filtr, u"Pliki tekstowe (*.txt) (*.txt);;Wszystkie pliki (*.*) (*)"_s);
-  EXPECT_EQ(rozmowa.wybory.back().filtr, u"Pliki DBF (*.dbf) (*.dbf);;Wszystkie pliki (*.*) (*)"_s);
+  EXPECT_EQ(
+      rozmowa.wybory.front().filtr,
+      u"Pliki tekstowe (*.txt) (*.txt *.TXT);;Pliki CSV (*.csv) (*.csv *.CSV);;Wszystkie pliki (*.*) (*)"_s);
+  EXPECT_EQ(rozmowa.wybory.back().filtr, u"Pliki DBF (*.dbf) (*.dbf *.DBF);;Wszystkie pliki (*.*) (*)"_s);
+  EXPECT_EQ(rozmowa.wybory.front().rozszerzenie + rozmowa.wybory.back().rozszerzenie, u"txtdbf"_s);
+}
+
+TEST_F(PrzebiegiOkna, ZmienionaSciezkaJestProponowanaWCalosci) {
+  UstawStrukture();
+  const QDir tutaj(folder.path());
+  ASSERT_TRUE(tutaj.mkpath(u"ostatni"_s) && tutaj.mkpath(u"dostawca"_s));
+  PamiecOkien().setValue(u"foldery/import-towarow"_s, Sciezka(u"ostatni"_s));
+  const QString bylo = U().plikImportuTow;
+  const std::pair<QString, QString> przypadki[] = {
+      {bylo, u"ostatni/TOWARY_I.txt"_s},
+      {Sciezka(u"dostawca/cennik.csv"_s), u"dostawca/cennik.csv"_s},
+      {Sciezka(u"nie ma/cennik.csv"_s), u"ostatni/cennik.csv"_s},
+  };
+  for (const auto& [ustawiona, proponowana] : przypadki) {
+    U().plikImportuTow = QDir::toNativeSeparators(ustawiona);
+    rozmowa.pliki.push_back(std::nullopt);
+    Polecenie(u"ImportTowMenu"_s);
+    EXPECT_EQ(rozmowa.wybory.back().sciezka, Sciezka(proponowana));
+  }
 }
 
 TEST_F(PrzebiegiOkna, PytanieOLiczbePolKazdymPrzyciskiem) {
@@ -186,6 +209,7 @@ TEST_F(PrzebiegiOkna, EdycjaStruktury) {
       });
       Znajdz<TMStatusButtonBar>(p.pasek).findChild<QAbstractButton*>(p.przycisk)->click();
     };
+    rozmowa.odpowiedzi = {QMessageBox::Yes};  // to what is thrown away
     osoba(3, "Wyjscie");
     EXPECT_EQ((U().*p.struktura).CBTypPliku, TypPliku::Zorvik);
     EXPECT_TRUE(Zaznaczony(p.aktywne));

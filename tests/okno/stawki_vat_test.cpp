@@ -76,10 +76,12 @@ TEST_F(StawkiVatTest, ZapisZmienionegoZestawuPoPotwierdzeniu) {
   Kliknij(edytor, "Zapisz");
   EXPECT_TRUE(edytor.isVisible());
   EXPECT_EQ(WBazie(), "2300,800,550,-1");
+  b.baza.ExecSQL("insert into Vat (Stawka) values (700)");  // another person's
   Kliknij(edytor, "Zapisz");
   EXPECT_EQ(edytor.result(), QDialog::Accepted);
-  EXPECT_EQ(WBazie(), "800,550,-1");
-  EXPECT_EQ(b.Tekst("select Opis from DziennikZmian"), u"Nowe stawki: 800, 550, -1"_s);
+  EXPECT_EQ(WBazie(), "800,700,550,-1");
+  EXPECT_EQ(edytor.Stawki().Ilosc(), 4);
+  EXPECT_EQ(b.Tekst("select Opis from DziennikZmian"), u"Nowe stawki: 800, 700, 550, -1"_s);
   const auto& pytanie = rozmowa.pytania[0];
   EXPECT_EQ(pytanie.komunikat.naglowek, u"UWAGA: zmiana stawek VAT"_s);
   EXPECT_EQ(pytanie.komunikat.tekst, u"Czy na pewno chcesz zmienić aktualny zestaw stawek VAT ?"_s);

@@ -265,8 +265,8 @@ TEST_F(Zrodla, PozniejszeZrodloMaPierwszenstwo) {
   EXPECT_EQ(wynik.bledneKlucze, std::vector{QStringLiteral("ParNieMa")});
   EXPECT_EQ(wynik.bledneWartosci, std::vector{QStringLiteral("ParAktualTow")});
   EXPECT_FALSE(wynik.brakPliku);
-  // The unreadable flag of the database, then the status choice that the structure does not allow.
-  ASSERT_EQ(wynik.komunikaty.size(), 2U);
+  // The unreadable flag of the database; the status choice that the structure does not allow goes silently.
+  ASSERT_EQ(wynik.komunikaty.size(), 1U);
   EXPECT_TRUE(wynik.komunikaty[0].tekst.contains(QStringLiteral("ParAktualTow")));
   EXPECT_TRUE(u.importTow.cb_akttow);
   EXPECT_EQ(u.importTow.jakieTowary, JakieTowary::RBTowaryWszystkie);
@@ -279,6 +279,37 @@ TEST_F(Zrodla, PozniejszeZrodloMaPierwszenstwo) {
   // Nothing is told as saved in a file that is gone.
   ASSERT_TRUE(QFile::remove(test.Sciezka()));
   EXPECT_THROW(magazyn_ustawien::ZapiszDoBazy(test.baza, u), EBladBazy);
+}
+
+TEST_F(Zrodla, WyborNipJestJedenIPochodziZPozniejszegoZrodla) {
+  BazaTestowa test;
+  test.baza.ExecSQL("create table Konfiguracja (Nazwa text, Kolejnosc integer, Parametr text, Wartosc text)");
+  const auto wybrane = [this] {
+    QStringList klucze;
+    for (const auto& [klucz, tekst] : Teksty(u))
+      if (klucz.contains(QLatin1String("NIP")) && klucz.size() > 10 && tekst == u"1") klucze << klucz;
+    return klucze.join(u' ');
+  };
+  magazyn_ustawien::Zrodla zrodla{.katalogStartowy = m_folder.path(), .baza = &test.baza};
+  Plik("ZorvikDef.cfg", {{"ParPominKontrBezNIPu", "1"}, {"ParDodajChociazTakiNIPJuzJest", "1"}});
+  WczytajUstawienia(zrodla, u);
+  EXPECT_EQ(wybrane(), u"ParDodajChociazTakiNIPJuzJest ParPominKontrBezNIPu");
+  // The database names one group only, and another choice of it.
+  TMConfig wBazie;
+  wBazie.Ustaw(QStringLiteral("ParDodajKontrBezNIPu"), QStringLiteral("1"));
+  test.baza.ZapiszKonfiguracje(magazyn_ustawien::NazwaKonfiguracji(), wBazie);
+  WczytajUstawienia(zrodla, u);
+  EXPECT_EQ(wybrane(), u"ParDodajChociazTakiNIPJuzJest ParDodajKontrBezNIPu");
+  zrodla.plikKonfiguracji =
+      Plik("inny.cfg", {{"ParPominBoTakiNIPJuzJest", "1"}, {"ParPominKontrBezNIPu", "0"}});
+  WczytajUstawienia(zrodla, u);
+  EXPECT_EQ(wybrane(), u"ParDodajKontrBezNIPu ParPominBoTakiNIPJuzJest");
+  for (const char* klucz :
+       {"ParPominKontrBezNIPu", "ParDodajKontrBezNIPuJesliInnyAdres", "ParDodajJesliMaInnyAdres"})
+    zrodla.pojedyncze.emplace_back(QLatin1String(klucz), QStringLiteral("1"));
+  WczytajUstawienia(zrodla, u);
+  EXPECT_EQ(wybrane(), u"ParDodajKontrBezNIPuJesliInnyAdres");
+  EXPECT_TRUE(u.importKontr.rb_DodajJesliMaInnyAdres && !u.importKontr.rb_PominBoTakiNIPJuzJest);
 }
 
 TEST_F(Zrodla, PlikiNieDoOdczytaniaNiczegoNieZmieniaja) {

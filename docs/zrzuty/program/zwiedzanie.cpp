@@ -26,6 +26,9 @@ namespace {
 constexpr int kOdswiezeniePodgladuMs = 300;  // longer than the preview waits for the next change
 constexpr int kOdswiezeniePostepuMs = 300;   // longer than the progress window sleeps
 
+// In place of where the pictures are taken.
+const QString kAdresBazy = u"/home/sklep/sklep.db"_s;
+
 QByteArray Tresc(const QString& sciezka) {
   QFile plik(sciezka);
   if (!plik.open(QIODevice::ReadOnly)) qFatal("cannot read %s", qPrintable(sciezka));
@@ -127,6 +130,16 @@ void Zwiedzanie::PierwszyStart() {
   }};
   if (Tfrm_main(m_f, {.katalogStartowy = u"."_s, .utworzBaze = {}}).FormShow())
     qFatal("a database was found");
+  // A remembered one that is not there any more.
+  ParametryPolaczenia nieobecna;
+  nieobecna.cel = u"/mnt/sklep/zorvik.db"_s;
+  nieobecna.Zapamietaj();
+  m_f.osoba = {[this](QDialog& dialog) {
+    m_f.Zdjecie(dialog, u"baza-nieosiagalna"_s);
+    dialog.reject();
+  }};
+  if (Tfrm_main(m_f, {.katalogStartowy = u"."_s, .utworzBaze = {}}).FormShow())
+    qFatal("the database was found");
 }
 
 void Zwiedzanie::Otworz() {
@@ -140,6 +153,7 @@ void Zwiedzanie::Otworz() {
                                                       .plikKonfiguracji = m_demo.filePath(u"towary.cfg"_s),
                                                       .katalogPominietych = u"."_s});
   if (!m_okno->FormShow()) qFatal("the window does not open");
+  Znajdz<QLineEdit>(*m_okno, "EdAdresBazy").setText(kAdresBazy);
   m_f.pliki = {m_demo.filePath(u"kontrahenci.cfg"_s)};
   Polecenie("ImportZPlikuZorvik");
   for (const char* opcja : {"cb_gdyOdbiorca", "cb_gdyDostawca", "cb_gdyStale", "cb_gdyZnamyNIP",
@@ -161,6 +175,12 @@ void Zwiedzanie::Strony() {
   Polecenie("OProgramie");
   m_f.osoba = {Odpowiedz(u"zapis-do-bazy"_s, QMessageBox::Ok)};
   Polecenie("ZapisDoBazy");
+  m_f.osoba = {[this](QDialog& dialog) {
+    Znajdz<QLineEdit>(dialog, "EdBaza").setText(kAdresBazy);
+    m_f.Zdjecie(dialog, u"zmiana-bazy"_s);
+    dialog.reject();
+  }};
+  Polecenie("ZmienBaze");
 }
 
 void Zwiedzanie::Eksport() {
@@ -242,7 +262,8 @@ void Zwiedzanie::Dialogi() {
                  m_f.Zdjecie(stawka, u"stawka"_s);
                  stawka.reject();
                },
-               Odpowiedz(u"zmiana-stawek"_s, QMessageBox::Cancel)};
+               Odpowiedz(u"zmiana-stawek"_s, QMessageBox::Cancel),
+               Odpowiedz(u"porzucenie-zmian"_s, QMessageBox::Yes)};
   Polecenie("StrukturaplikuimportuTowMenu");
 }
 
