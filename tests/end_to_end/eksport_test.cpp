@@ -68,7 +68,7 @@ TEST_P(EksportCaly, PlikIWynik) {
     EXPECT_EQ(wynik.Koniec(), u"zakonczono"_s);
     EXPECT_EQ(wynik.Json()[u"operacja"_s].toString(), GetParam()->polecenie);
     EXPECT_EQ(QStringList(wynik.Json().keys()).join(u' '),
-              u"czasSekund komunikaty koniec operacja plikPominietych rekordow"_s);
+              u"czasSekund komunikaty koniec operacja plikPominietych rekordow uwagi"_s);
     EXPECT_EQ(wynik.Liczba(u"rekordow"_s), rekordow);
     EXPECT_TRUE(wynik.MaKomunikat(u"Koniec"_s, u"Eksport zakończono"_s));
     const QByteArray plik = s.Odczytaj(u"plik.txt"_s);
