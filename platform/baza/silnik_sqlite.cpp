@@ -130,11 +130,12 @@ class SilnikSqlite final : public Silnik {
     return m_numer * kNaPolaczenie + Zapytaj("pragma data_version").AsInteger();
   }
 
-  // Others who read keep the log from being moved: then it is the log that the disk has to confirm.
+  // Others who read keep the log from being moved, and so does a transaction of our own: then it is the log
+  // that the disk has to confirm.
   void Utrwal() override {
     WymagajCalosci();
     if (!m_doUtrwalenia) return;
-    if (!PrzeniesDziennik())
+    if (WTransakcji() || !PrzeniesDziennik())
       if (const auto powod = UtrwalPlik(m_dziennik)) Nietrwaly(*powod);
     WymagajCalosci();
     m_doUtrwalenia = false;

@@ -110,8 +110,8 @@ TEST_P(Awarie, CtrlCZostawiaToCoZapisano) {
   ZapiszPlik();
   const auto proces = s.Zacznij(Slowa());
   PoczekajNaZapisane(*proces, 1);
-  kill(static_cast<pid_t>(proces->processId()), SIGINT);
-  kill(static_cast<pid_t>(proces->processId()), SIGINT);
+  for (const int sygnal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE, SIGXFSZ})
+    kill(static_cast<pid_t>(proces->processId()), sygnal);
   const Wynik wynik = Stanowisko::Zakoncz(*proces);
   EXPECT_EQ(wynik.status, 5);
   EXPECT_EQ(wynik.Koniec(), u"przerwano"_s);

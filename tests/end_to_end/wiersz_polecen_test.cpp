@@ -78,6 +78,7 @@ TEST(WierszPolecen, KazdyKoniecMaStatusIObiekt) {
       {"dobry", 0, "zakonczono", 2, 2, 0, u"Koniec"_s, u"Aktualizację zakończono"_s},
       {"krotki", 5, "przerwano", 2, 0, 2, u"Uwaga"_s, liczbaPol},
       {"krotki --liczba-pol pomin", 0, "zakonczono", 4, 0, 4, u"Uwaga"_s, liczbaPol},
+      {"krotki --liczba-pol pomiń", 0, "zakonczono", 4, 0, 4, u"Uwaga"_s, liczbaPol},
       {"krotki --liczba-pol=ignoruj", 0, "zakonczono", 4, 2, 2, u"Uwaga"_s, liczbaPol},
   };
   for (const auto& p : kPrzypadki) {
@@ -143,9 +144,9 @@ TEST(WierszPolecen, KolejnoscUstawien) {
   EXPECT_EQ(wartosc("--baza baza.db --konfiguracja inna.cfg"), u"4"_s);
   EXPECT_EQ(wartosc("--ustaw ParMinDlKodu=5 --baza baza.db --konfiguracja inna.cfg"), u"5"_s);
 
-  // Last of all the rules between options, with their messages.
+  // Last of all the rules between options; they switch silently, as for every load.
   const Wynik wynik = s.Uruchom(Slowa("ustawienia --ustaw ParTypPlikuTow=1 --ustaw ParJakieTowary=2"));
-  EXPECT_TRUE(wynik.bledy.contains(u"BŁĄD: Struktura pliku importu towarów nie pozwala"_s));
+  EXPECT_EQ(wynik.bledy, u""_s);
   TMConfig poRegulach;
   plik_konfiguracji::Czytaj(wynik.wyjscie.toStdString(), poRegulach);
   EXPECT_EQ(poRegulach.Tekst(u"ParJakieTowary"_s), u"1"_s);
@@ -196,6 +197,11 @@ TEST(WierszPolecen, NowaBazaNieNadpisuje) {
       wynik.bledy.contains(NaSerwerze() ? u"nie jest pusta"_s : u"UWAGA: Plik baza.db już istnieje"_s));
   EXPECT_EQ(s.Odczytaj(u"baza.db"_s), przed);
   EXPECT_EQ(s.Uruchom(Slowa("nowa-baza nie/ma/x.db")).status, 3);
+  EXPECT_EQ(s.Uruchom(Slowa("sprawdz-baze --baza baza.db")).status, 0);
+  TVLTBazaDanych baza;
+  s.Polacz(baza);
+  baza.ExecSQL("drop index TowarNazwa");
+  EXPECT_EQ(s.Uruchom(Slowa("sprawdz-baze --baza baza.db")).status, 3);
   EXPECT_EQ(s.Zapytaj(NaSerwerze() ? "select 'wal'" : "pragma journal_mode"), QStringList{u"wal"_s});
   EXPECT_EQ(s.Zapytaj("select cast(Stawka as text) from Vat order by Vat.Stawka"),
             (QStringList{u"-1"_s, u"0"_s, u"500"_s, u"800"_s, u"2300"_s}));
