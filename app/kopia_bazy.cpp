@@ -31,7 +31,9 @@ StatusWyjscia Kopiuj(TVLTBazaDanych& baza, const QString& plik, PostepTerminala&
   PlikObok kopia;
   const auto odmowa = kopia.Zacznij(plik);
   if (odmowa || !kopia.Obok())
-    return zakoncz(StatusWyjscia::Odmowa, NieMoznaUtworzyc(plik, odmowa.value_or(kopia.DlaczegoWMiejscu())));
+    return zakoncz(
+        StatusWyjscia::Odmowa,
+        NieMoznaUtworzyc(plik, odmowa.value_or(u"Folder nie istnieje albo nie przyjmuje nowych plików"_s)));
 
   bool zaczeta = false;
   const bool cala = baza.KopiujDo(kopia.Sciezka(), [&](long long zrobionych, long long wszystkich) {

@@ -32,10 +32,12 @@ QString Podpis(const OpisPolaFormularza& pole, RodzajRekordu katalog) {
   return QStringView(podpis).toString();
 }
 
-// What a person sees in the controls.
-QString Tresc(const QWidget& okno) {
-  QStringList tresc;
+// What a person sees in the controls. By control: one that is looked at comes to the end of its parent's
+// list.
+std::map<const QWidget*, QStringList> Tresc(const QWidget& okno) {
+  std::map<const QWidget*, QStringList> tresci;
   for (const QWidget* const kontrolka : okno.findChildren<QWidget*>()) {
+    QStringList tresc;
     if (const auto* const tabela = qobject_cast<const QTableWidget*>(kontrolka))
       for (int i = 0; i < tabela->rowCount() * tabela->columnCount(); ++i)
         if (const auto* const komorka = tabela->item(i / tabela->columnCount(), i % tabela->columnCount()))
@@ -43,8 +45,9 @@ QString Tresc(const QWidget& okno) {
     const QMetaProperty wartosc = kontrolka->metaObject()->userProperty();
     const bool przesuwa = qobject_cast<const QAbstractSlider*>(kontrolka);
     if (wartosc.isValid() && !przesuwa) tresc << wartosc.read(kontrolka).toString();
+    if (!tresc.isEmpty()) tresci.emplace(kontrolka, tresc);
   }
-  return tresc.join(u'\n');
+  return tresci;
 }
 
 }  // namespace

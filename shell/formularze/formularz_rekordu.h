@@ -1,10 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <span>
 #include <vector>
 
-#include <QString>
+#include <QStringList>
 
 #include "exchange/katalog_pol.h"
 #include "model/kontekst.h"
@@ -82,5 +83,5 @@ class TFmVLTFormularzRekordu : public DialogEdycji, public TFmVLTFormularzElemen
   TDmVLTElement& m_rekord;
   OpisFormularza m_opis{};
   std::vector<PoleFormularza*> m_pola;
-  QString m_poczatkowaTresc;
+  std::map<const QWidget*, QStringList> m_poczatkowaTresc;
 };

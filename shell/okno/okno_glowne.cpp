@@ -69,6 +69,10 @@ Tfrm_main::Tfrm_main(Rozmowa& rozmowa, StartOkna start)
     : m_start(std::move(start)), m_kontekst{rozmowa}, m_ui(std::make_unique<Ui::Tfrm_main>()) {
   m_ui->setupUi(this);
   m_tytul = windowTitle();
+  // To be read, not filled in: it stands on the window itself.
+  QPalette tlo;
+  tlo.setBrush(QPalette::Base, Qt::transparent);
+  m_ui->EdAdresBazy->setPalette(tlo);
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
   layout()->setSizeConstraint(QLayout::SetFixedSize);

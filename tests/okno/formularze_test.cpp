@@ -208,6 +208,14 @@ TEST_F(Formularze, ZmianySaPorzucaneDopieroPoPytaniu) {
   porzuc(kontrahent, [](QDialog& okno) { Znajdz<QGroupBox>(okno, u"gbSklep"_s).setChecked(false); });
   porzuc(kontrahent,
          [](QDialog& okno) { Znajdz<QPlainTextEdit>(okno, u"osoby"_s).appendPlainText("Nowak"); });
+  // To look through the pages is no change.
+  rozmowa.pytania.clear();
+  EXPECT_FALSE(Edytuj(kontrahent, [](QDialog& okno) {
+    okno.show();
+    for (const int strona : {1, 0}) Znajdz<QTabWidget>(okno, u"zakladki"_s).setCurrentIndex(strona);
+    return Kliknij(okno, u"Rezygnuj"_s);
+  }));
+  EXPECT_TRUE(rozmowa.pytania.empty());
 }
 
 TEST_F(Formularze, OdmowaBezPolaStoiNadFormularzemZPrzyczyna) {

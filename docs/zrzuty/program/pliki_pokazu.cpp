@@ -69,7 +69,9 @@ QByteArray CennikDBase(const QByteArray& cennik) {
   Tabela tabela{.pola = {{"KOD", kSzerokosci[0]}, {"NAZWA", kSzerokosci[1]}, {"CENA", kSzerokosci[2]}}};
   for (const QByteArray& linia : CennikStalejSzerokosci(cennik).split('\n'))
     if (!linia.isEmpty()) tabela.rekordy.push_back(' ' + linia.chopped(1).toStdString());
-  return QByteArray::fromStdString(tabela.Bajty());
+  QByteArray bajty = QByteArray::fromStdString(tabela.Bajty());
+  bajty[4] = kPierwszych;  // how many records its header tells of
+  return bajty;
 }
 
 QByteArray CennikZPytaniami(const QByteArray& cennik) {
@@ -85,5 +87,26 @@ QByteArray CennikZPytaniami(const QByteArray& cennik) {
   dopisz(kPrzedUbytkiem);
   linie << Urwana(Towar(++numer, "Zapa\xB3ki"));
   dopisz(kPoUbytku);
+  return linie.join("\r\n") + "\r\n";
+}
+
+QByteArray CennikZUwagami() {
+  constexpr const char* kNazwy[] = {
+      "D\xA7"
+      "em truskawkowy 280 g",
+      "Mi\xA2"
+      "d wielokwiatowy 400 g",
+      "Ketchup \x88"
+      "agodny 450 g",
+      "Musztarda sarepska 180 g", "Chrzan tarty 180 g"};
+  constexpr const char* kCeny[] = {"4.29", "18.99", "\"5,49\"", "2.79", "3.19"};
+  constexpr const char* kStawki[] = {"5%", "\"5%\"", "8%", "7%", "8%"};
+  QByteArrayList linie{"kod,nazwa,cena,VAT,jm,grupa"};
+  for (int i = 0; i < kPierwszych; ++i) {
+    const int w = i % static_cast<int>(std::size(kNazwy));
+    linie << KodKreskowy(90'000'000 + i) + ',' + kNazwy[w] +
+                 (i < 5 ? "" : " nr " + QByteArray::number(i / 5 + 1)) + ',' + kCeny[w] + ',' + kStawki[w] +
+                 ",szt.,Przetwory";
+  }
   return linie.join("\r\n") + "\r\n";
 }

@@ -13,3 +13,6 @@ QByteArray CennikDBase(const QByteArray& cennik);
 // The whole list, where a good without a name waits, with a good whose additional code has a taken short
 // name, a record cut short, and so many more that the run takes a while.
 QByteArray CennikZPytaniami(const QByteArray& cennik);
+// Code, name, price, rate, unit and group behind commas, as a supplier sends them: Latin II letters, a price
+// that holds a comma, rates that nobody described, one in quotes.
+QByteArray CennikZUwagami();

@@ -67,6 +67,7 @@ class Zwiedzanie {
   void Odmowa();
   void ImportKontrahentow();
   void ImportTowarow();
+  void Uwagi();
   void FormularzKontrahenta();
 
  private:
@@ -315,6 +316,24 @@ void Zwiedzanie::ImportTowarow() {
   Polecenie("ImportTowMenu");
 }
 
+void Zwiedzanie::Uwagi() {
+  StrukturaPliku& s = U().strukturaTow;
+  const StrukturaPliku byla = s;
+  s.separator = u","_s;
+  s.pola.clear();
+  for (const int pole : {PoleTowaru::Kod, PoleTowaru::Nazwa, PoleTowaru::CenaDet, PoleTowaru::StawkaVat,
+                         PoleTowaru::JednostkaMiary, PoleTowaru::Asortyment})
+    s.pola.emplace_back(pole, QString());
+  U().plikImportuTow = Zapisz(u"cenniki/hurtownia.txt"_s, CennikZUwagami());
+  Struktura(u"struktura-uwagi"_s);
+  Kliknij(*m_okno, "cb_nowestawki");
+  m_f.pliki = {U().plikImportuTow};
+  m_f.osoba = {DoKonca(u"koniec-z-uwagami"_s, "uwagi"), Odpowiedz({}, QMessageBox::Ok),
+               Obejrzyj(u"uwagi"_s, "zamknij")};
+  Polecenie("ImportTowMenu");
+  U().strukturaTow = byla;
+}
+
 void Zwiedzanie::FormularzKontrahenta() {
   KontekstSesji sesja{m_okno->Kontekst().baza, m_okno->Kontekst().parametry};
   TDmVLTKontrahent kontrahent(sesja);
@@ -341,5 +360,6 @@ void Zwiedz(Fotograf& fotograf, const QDir& demo) {
   z.Odmowa();
   z.ImportKontrahentow();
   z.ImportTowarow();
+  z.Uwagi();
   z.FormularzKontrahenta();
 }
