@@ -107,20 +107,26 @@ std::vector<std::string_view> PierwszeLinie(std::string_view tekst) {
   return linie;
 }
 
-// By the characters that stand equally often in the first lines.
+// By the characters that stand equally often in the first lines; a price or a quoted text may hold one more,
+// and a comma stands in prices of any width.
 QString UkladTekstu(std::string_view tekst) {
   const std::vector<std::string_view> linie = PierwszeLinie(tekst);
-  const auto ile = [&](size_t linia, char znak) {
-    return std::count(linie[linia].begin(), linie[linia].end(), znak);
+  const auto ile = [](std::string_view linia, char znak) {
+    return std::count(linia.begin(), linia.end(), znak);
   };
-  if (!linie.empty() && ile(0, '\t') >= PoleTowaru::Status - 1)
+  if (!linie.empty() && ile(linie[0], '\t') >= PoleTowaru::Status - 1)
     return QStringLiteral("plik w formacie programu Zorvik");
+  const auto wKazdej = [&](const auto& warunek) {
+    return !linie.empty() && std::all_of(linie.begin(), linie.end(), warunek);
+  };
+  const bool rownej = linie.size() > 1 && wKazdej([&](auto l) { return l.size() == linie[0].size(); });
   constexpr std::pair<char, const char*> kSeparatory[] = {
       {'\t', "tabulator"}, {';', "średnik"}, {'|', "kreska |"}, {',', "przecinek"}};
   for (const auto& [znak, nazwa] : kSeparatory) {
-    bool wszedzie = !linie.empty() && ile(0, znak) > 0;
-    for (size_t i = 1; i < linie.size() && wszedzie; ++i) wszedzie = ile(i, znak) == ile(0, znak);
-    if (wszedzie) return QStringLiteral("plik tekstowy z separatorem pól (%1)").arg(QString::fromUtf8(nazwa));
+    const bool poTyle = wKazdej([&, z = znak](auto l) { return ile(l, z) == ile(linie[0], z); });
+    const bool wystarczy = rownej ? poTyle && znak != ',' : true;
+    if (wystarczy && wKazdej([&, z = znak](auto l) { return ile(l, z) > 0; }))
+      return QStringLiteral("plik tekstowy z separatorem pól (%1)").arg(QString::fromUtf8(nazwa));
   }
   return QStringLiteral("plik tekstowy ze stałą szerokością kolumn");
 }
