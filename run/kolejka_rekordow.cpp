@@ -15,9 +15,11 @@ std::span<const RekordPliku> KolejkaRekordow::NowyBlok() {
   return std::span(m_rekordy).subspan(m_biezacy, m_koniecBloku - m_biezacy);
 }
 
-void KolejkaRekordow::Zapomnij() {
+bool KolejkaRekordow::Zapomnij() {
+  const bool byly = m_biezacy > 0;
   m_rekordy.erase(m_rekordy.begin(), m_rekordy.begin() + static_cast<std::ptrdiff_t>(m_biezacy));
   m_biezacy = m_koniecBloku = 0;
+  return byly;
 }
 
 void KolejkaRekordow::Wroc() {

@@ -35,8 +35,8 @@ class KolejkaRekordow {
   // The one in hand and those behind it, at most kBlok, when they were not given before; nothing otherwise.
   std::span<const RekordPliku> NowyBlok();
 
-  // The records before the one in hand are not needed any more.
-  void Zapomnij();
+  // The records before the one in hand are not needed any more. False: there was none.
+  bool Zapomnij();
   // Goes back to before the first record that is still kept.
   void Wroc();
 

@@ -113,16 +113,16 @@ KoniecPrzebiegu PrzebiegImportu::Cialo() {
 
 void PrzebiegImportu::OtworzPaczke(KolejkaRekordow& kolejka) {
   m_paczka.PrzedRekordem();
-  if (ZapomnijZatwierdzone(kolejka)) m_powtorzen = 0;
+  ZapomnijZatwierdzone(kolejka);
   if (const auto blok = kolejka.NowyBlok(); !blok.empty()) CzytajZWyprzedzeniem(blok);
 }
 
-// To be called wherever a batch may have been committed: the record in hand belongs to the next one.
-bool PrzebiegImportu::ZapomnijZatwierdzone(KolejkaRekordow& kolejka) {
-  if (m_zakonczonychPaczek == m_paczka.Zakonczonych()) return false;
+// To be called wherever a batch may have been committed: the record in hand belongs to the next one. One that
+// held no record before it brings nothing forward: a record that asks and collides would come again for ever.
+void PrzebiegImportu::ZapomnijZatwierdzone(KolejkaRekordow& kolejka) {
+  if (m_zakonczonychPaczek == m_paczka.Zakonczonych()) return;
   m_zakonczonychPaczek = m_paczka.Zakonczonych();
-  kolejka.Zapomnij();
-  return true;
+  if (kolejka.Zapomnij()) m_powtorzen = 0;
 }
 
 PrzebiegImportu::Krok PrzebiegImportu::Rozpatrz(const RekordPliku& rekord, PytanieOLiczbePol& pytanie) {
@@ -142,13 +142,13 @@ PrzebiegImportu::Krok PrzebiegImportu::Rozpatrz(const RekordPliku& rekord, Pytan
 
 // The records of the batch come again.
 bool PrzebiegImportu::PowtorzPaczke(const EBladBazy& blad, KolejkaRekordow& kolejka) {
+  ZapomnijZatwierdzone(kolejka);
   if (blad.Rodzaj() == RodzajBleduBazy::Grupa)
     m_paczka.PiszPojedynczo();
   else if (blad.Rodzaj() == RodzajBleduBazy::Kolizja && m_powtorzen < kNajwiecejPowtorzen)
     ++m_powtorzen;
   else
     return false;
-  ZapomnijZatwierdzone(kolejka);
   m_paczka.Wycofaj();
   PoWycofaniuPaczki();
   kolejka.Wroc();

@@ -56,7 +56,7 @@ class PrzebiegImportu : public Przebieg {
     Zatrzymany,  // by the operator
   };
   void OtworzPaczke(KolejkaRekordow& kolejka);
-  bool ZapomnijZatwierdzone(KolejkaRekordow& kolejka);
+  void ZapomnijZatwierdzone(KolejkaRekordow& kolejka);
   Krok Rozpatrz(const RekordPliku& rekord, PytanieOLiczbePol& pytanie);
   bool PowtorzPaczke(const EBladBazy& blad, KolejkaRekordow& kolejka);
   KoniecPrzebiegu PoOstatnimRekordzie(WynikCzytania wynik);

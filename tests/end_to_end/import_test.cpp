@@ -39,7 +39,7 @@ const std::vector<Rekord> kTowary = Rekordy(
     u"0:5901234567893~1:Żurek śląski z kiełbasą~3:0~4:10.85~6:Gęsty, źródlana "
     u"woda~10:12~12:30~14:12,5~17:7,10"
     "~18:9.99~23:8~24:Zupy próbne~25:słoik~26:(5901234567909|Żurek|7);(5901234567916||)"
-    "~27:Gotowe: ostrość(2:łagodna|ostra)~28:12,5~29:9990000126~30:(9990000126)~31:1\n"
+    "~27:Gotowe: ostrość(2:łagodna|ostra);ile(4:1..9)~28:12,5~29:9990000126~30:(9990000126)~31:1\n"
     "0:5901234567923~1:Ćwiczenia z fizjoterapeutą~3:2~18:150~22:1~23:ZW~24:Usługi próbne~31:1\n"
     "0:5901234567930~1:Dawny łosoś~23:5~31:0\n"
     "0:123~1:Krótki, źle~23:23~31:1\n"
@@ -73,6 +73,8 @@ TEST(ImportCaly, CzteryUkladyDajaTeSamaBaze) {
     EXPECT_EQ(wynik.Liczba(u"dodanych"_s), 3);
     EXPECT_EQ(wynik.Liczba(u"pominietych"_s), 3);
     EXPECT_EQ(wynik.Liczba(u"asortymentow"_s), 3);  // two of the file and "Pomocniczy"
+    EXPECT_EQ(wynik.Liczba(u"kategorii"_s), 1);
+    EXPECT_EQ(wynik.Liczba(u"parametrow"_s), 2);
     EXPECT_EQ(s.Towarow(), bylo + 3);
     EXPECT_EQ(s.Odczytaj(u"POMINIETE.TXT"_s).toStdString(), windows1250::ZUnicode(kPominiete));
 

@@ -68,8 +68,11 @@ TEST_F(SterownikTest, UwagiOStawkachVat) {
       ElementsAre(u"vat-domyslny Plik nie zawiera stawki VAT; nowe towary dostają stawkę 22 % 1: 2"_s));
   struktura.CBTypPliku = TypPliku::Zorvik;
   const QString linia = u"naglowek\n590010\ti"_s + QString(22, u'\t') + u"x%"_s + QString(8, u'\t') +
-                        u"1\n590011\tj"_s + QString(22, u'\t') + u"2300"_s + QString(8, u'\t') + u"1\n"_s;
+                        u"1\n590011\tj"_s + QString(22, u'\t') + u"10000"_s + QString(8, u'\t') +
+                        u"1\n590012\tk"_s + QString(22, u'\t') + u"10001"_s + QString(8, u'\t') + u"1\n"_s;
   EXPECT_THAT(Uwagi(Importuj(linia)), ElementsAre(nieznana("x%", "1: 1")));
+  EXPECT_EQ(b.Kolumna("select Kod from Towar where Stawka = 10000"), u"590011"_s);
+  EXPECT_EQ(Pominiete(), QStringList{u"590012 | k | Błąd w polu 'stawka'"_s});
 }
 
 TEST_F(SterownikTest, BuforNipTylkoGdyPotrzebny) {

@@ -203,16 +203,19 @@ TEST_F(Kontrahenci, CudzeZmianyPrzezywajaZapis) {
 
   // Somebody has made the same change already: nothing is left to be written.
   const auto taki = Wczytany(id);
-  zmien({"delete from Osoba", "insert into Osoba (KontrId, Nazwisko) values (1, 'Wilk')"});
+  zmien({"delete from Osoba", "insert into Osoba (KontrId, Nazwisko) values (1, 'Wilk')",
+         "update Kontrahent set Nazwa = 'Cudzy'"});
   const QString wilk[] = {u"Wilk"_s};
   taki->UstawOsoby(wilk);
   taki->UstawTelefon(u"13"_s);
+  taki->UstawNazwa(u"Nasz"_s);
   b.baza.UstawPodsluch([](std::string_view sql) {
     EXPECT_FALSE(sql.starts_with("delete from Osoba") || sql.starts_with("update Sklep")) << sql;
   });
   taki->Zapisz();
   b.baza.UstawPodsluch({});
-  EXPECT_EQ(stan(), u"Inny 13 5 S2 0 Wilk");
+  EXPECT_EQ(stan(), u"Nasz 13 5 S2 0 Wilk");
+  EXPECT_TRUE(OstatniWpis().contains(u"nazwa z 'Cudzy' na 'Nasz'"_s)) << OstatniWpis().toStdString();
 
   // No longer a shop, a shop again with the row that somebody has made meanwhile.
   const auto bezSklepu = Wczytany(id);
@@ -221,7 +224,7 @@ TEST_F(Kontrahenci, CudzeZmianyPrzezywajaZapis) {
   bezSklepu->UstawSklep(true);
   zmien({"insert into Sklep (SklepId, NrSklepu, NrSeryjny) values (1, 9, 'S3')"});
   bezSklepu->Zapisz();
-  EXPECT_EQ(stan(), u"Inny 13 9 S3 0 Wilk");
+  EXPECT_EQ(stan(), u"Nasz 13 9 S3 0 Wilk");
 }
 
 // An update asks and says no more than it must: the first word of every statement of a reading and a save.

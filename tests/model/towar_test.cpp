@@ -1,6 +1,7 @@
 #include "model/towar.h"
 
 #include "model/lista_towarow.h"
+#include "model/zapas_towarow.h"
 #include "tests/model/towary_probne.h"
 
 namespace {
@@ -486,12 +487,34 @@ TEST_F(Towary, CudzeZmianyPrzezywajaZapis) {
     auto towar = Wczytany(id);
     inny.ExecSQL("update Towar set CenaDet = CenaDet + 5, Opis1 = 'cudzy', Opis2 = 'cudzy'");
     towar->UstawOpis1(wPaczce ? u"inny"_s : u"swój"_s);
-    if (wPaczce) b.baza.StartTransakcji();
+    if (wPaczce) {
+      b.baza.StartTransakcji();
+      b.baza.UstawPodsluch([&](std::string_view sql) {
+        if (!sql.starts_with("update Towar")) return;
+        EXPECT_THROW(inny.ExecSQL("update Towar set Opis2 = 'za późno'"), EBladBazy);
+      });
+    }
     towar->Zapisz();
+    b.baza.UstawPodsluch({});
     if (wPaczce) b.baza.KoniecTransakcji();
     EXPECT_EQ(b.Tekst("select Opis1 || ' ' || Opis2 || ' ' || cast(CenaDet as integer) from Towar"),
               wPaczce ? u"inny cudzy 10" : u"swój cudzy 5");
   }
+}
+
+// Goods read ahead are locked together, once a block.
+TEST_F(Towary, KazdyBlokJestBlokowanyRaz) {
+  const int towary[] = {Zapisany(u"900"_s, u"Jeden"_s), Zapisany(u"901"_s, u"Dwa"_s)};
+  int blokad = 0;
+  ZapasTowarow zapas;
+  b.baza.StartTransakcji();
+  b.baza.UstawPodsluch([&](std::string_view sql) { blokad += sql.ends_with("for update of T") ? 1 : 0; });
+  for (const int id : towary) {
+    zapas.Wczytaj(b.baza, {id});
+    for (int razy = 0; razy < 2; ++razy) zapas.Zablokuj(b.baza, id);
+  }
+  b.baza.UstawPodsluch({});
+  EXPECT_EQ(blokad, NaSerwerze() ? 2 : 0);
 }
 
 TEST_F(Towary, SkrotPowstajeZNazwyTylkoGdyJestPusty) {

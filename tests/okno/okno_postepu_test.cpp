@@ -132,14 +132,15 @@ TEST_F(OknoPostepu, PytaniaIKomunikatyPrzebieguZadajeWatekGlowny) {
     EXPECT_EQ(o.oper.PodajTekst({"Uwaga", "Nazwa"}), "Mleko");
     EXPECT_EQ(o.oper.PodajTekst({"Uwaga", "Nazwa"}), std::nullopt);
     o.postep.Pokaz("Koniec", "Aktualizację zakończono");
-    o.postep.Pokaz("UWAGA", "Plik");
+    for (const char* tytul : {"UWAGA", "Błąd", "BŁĄD", "Wystąpił błąd"}) o.postep.Pokaz(tytul, "Plik");
   });
   const auto& pytania = rozmowa.pytania;
-  ASSERT_EQ(pytania.size(), 7U);
+  ASSERT_EQ(pytania.size(), 10U);
   EXPECT_EQ(pytania[0].przyciski, QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore);
   for (const int pytanie : {3, 4}) EXPECT_EQ(pytania[static_cast<size_t>(pytanie)].domyslny, QMessageBox::No);
   EXPECT_EQ(pytania[5].ikona, QMessageBox::Information);
   EXPECT_EQ(pytania[6].ikona, QMessageBox::Warning);
+  for (std::size_t i = 7; i < 10; ++i) EXPECT_EQ(pytania[i].ikona, QMessageBox::Critical);
 }
 
 // Takes a quarter of a second for each box.

@@ -196,6 +196,21 @@ TEST_F(Serwer, OdrzuconyRekordNieZabieraSasiadow) {
   }
 }
 
+// Rows that still wait go with the transaction; keys are given upwards, also out of a block taken ahead.
+TEST_F(Serwer, CzekajaceWierszeGinaZTransakcja) {
+  TVLTBazaDanych& baza = b().baza;
+  baza.GrupujZapisy(true);
+  for (const bool zatwierdz : {false, true}) {
+    baza.StartTransakcji();
+    for (int i = 0; i < 6; ++i) {
+      const Parametr nazwa[] = {{"Nazwa", QString::number(i)}};
+      baza.WstawZKluczem("T", "Id", "insert into T (Nazwa) values (:Nazwa)", nazwa);
+    }
+    zatwierdz ? baza.KoniecTransakcji() : baza.WycofTransakcji();
+  }
+  EXPECT_EQ(b().Kolumna("select Nazwa from T order by Id"), u"0,1,2,3,4,5"_s);
+}
+
 TEST_F(Serwer, ZerwanePolaczenieKonczyTransakcje) {
   TVLTBazaDanych inna;
   b().Polacz(inna);
