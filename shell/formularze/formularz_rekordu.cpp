@@ -32,11 +32,17 @@ QString Podpis(const OpisPolaFormularza& pole, RodzajRekordu katalog) {
   return QStringView(podpis).toString();
 }
 
+// An open cell has handed its text over; its editor goes only with the next events.
+bool JestEdytoremKomorki(const QWidget& kontrolka) {
+  return qobject_cast<const QTableWidget*>(kontrolka.parentWidget()->parentWidget());
+}
+
 // What a person sees in the controls. By control: one that is looked at comes to the end of its parent's
 // list.
 std::map<const QWidget*, QStringList> Tresc(const QWidget& okno) {
   std::map<const QWidget*, QStringList> tresci;
   for (const QWidget* const kontrolka : okno.findChildren<QWidget*>()) {
+    if (JestEdytoremKomorki(*kontrolka)) continue;
     QStringList tresc;
     if (const auto* const tabela = qobject_cast<const QTableWidget*>(kontrolka))
       for (int i = 0; i < tabela->rowCount() * tabela->columnCount(); ++i)

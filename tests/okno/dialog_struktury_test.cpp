@@ -205,14 +205,27 @@ TEST_F(DialogStrukturyTest, PodgladIdzieZaTymCoWpisano) {
 }
 
 TEST_F(DialogStrukturyTest, ZmianySaPorzucaneDopieroPoPytaniu) {
+  // What the file type fixes is no change of the person's.
+  kontrahenci.CBTypPliku = TypPliku::Zorvik;
+  kontrahenci.EdPoleAktywny = u"tak"_s;
+  DialogStruktury bezZmian(nullptr, kontekst, kontrahenci, {});
+  bezZmian.show();
+  bezZmian.close();
+  EXPECT_FALSE(bezZmian.isVisible());
+
   DialogStruktury struktura(nullptr, kontekst, towary, {});
-  DialogListyPol lista(nullptr, kontekst, towary, {});
+  DialogListyPol lista(nullptr, kontekst, Struktura(RodzajRekordu::Towary, TypPliku::DBase, {"00x"}), {});
   DialogPolStandardowych pola(nullptr, rozmowa, towary);
   DialogOpisowVat opisy(nullptr, kontekst, {});
   TFmVLTStawkiVat stawki(nullptr, kontekst);
   const std::pair<QDialog*, std::function<void()>> kDialogi[] = {
       {&struktura, [&] { Wpisz(struktura, "EdPoleAktywny", "x"); }},
-      {&lista, [&] { Kliknij(lista, "Usun"); }},
+      {&lista,
+       [&] {
+         auto& wybrane = Znajdz<QTableView>(lista, "Wybrane");
+         wybrane.edit(wybrane.model()->index(0, 1));
+         wybrane.viewport()->findChild<QLineEdit*>()->insert(u"A"_s);
+       }},
       {&pola, [&] { Q_EMIT Znajdz<QTableWidget>(pola, "Pola").cellDoubleClicked(0, 0); }},
       {&opisy,
        [&] {

@@ -202,9 +202,25 @@ TEST_F(Formularze, ZmianySaPorzucaneDopieroPoPytaniu) {
     ASSERT_EQ(rozmowa.pytania.size(), 2U);
     EXPECT_EQ(rozmowa.pytania[0].domyslny, QMessageBox::No);
   };
+  towar.Kody().Dodaj({0, u"777"_s, u"d"_s});
+  const auto otworzKomorke = [](QDialog& okno) -> QLineEdit& {
+    okno.show();
+    okno.activateWindow();
+    QCoreApplication::processEvents();
+    okno.findChild<QTabWidget*>()->setCurrentIndex(1);
+    auto& kody = Znajdz<QTableWidget>(okno, u"tabelaKodow"_s);
+    kody.editItem(kody.item(0, 0));
+    return *kody.viewport()->findChild<QLineEdit*>();
+  };
+  Edytuj(towar, [&](QDialog& okno) {
+    otworzKomorke(okno);
+    okno.close();  // nothing was typed
+    EXPECT_FALSE(okno.isVisible());
+    return okno.result();
+  });
+  porzuc(towar, [&](QDialog& okno) { otworzKomorke(okno).setText(u"778"_s); });
   porzuc(towar, [](QDialog& okno) { Wpisz(okno, u"CenaDet"_s, u"5"_s); });
   porzuc(towar, [](QDialog& okno) { Znajdz<QComboBox>(okno, u"AsId"_s).setCurrentIndex(1); });
-  porzuc(towar, [](QDialog& okno) { Kliknij(okno, u"DodajKod"_s); });
   porzuc(kontrahent, [](QDialog& okno) { Znajdz<QGroupBox>(okno, u"gbSklep"_s).setChecked(false); });
   porzuc(kontrahent,
          [](QDialog& okno) { Znajdz<QPlainTextEdit>(okno, u"osoby"_s).appendPlainText("Nowak"); });

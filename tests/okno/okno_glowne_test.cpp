@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "shell/kontrolki/pasek_przyciskow.h"
+#include "shell/okno/okno_polaczenia.h"
 #include "tests/okno/okno_testowe.h"
 #include "ustawienia/wspolzaleznosci.h"
 
@@ -218,8 +219,14 @@ TEST_F(OknoGlowne, KonfiguracjaWBazieIWPliku) {
   Polecenie(u"ImportZPlikuZorvik"_s);
   EXPECT_TRUE(Zaznaczony(u"cb_formatujJM"_s) && Zaznaczony(u"cb_akttow"_s) && U().importTow.cb_akttow);
   EXPECT_EQ(rozmowa.wybory.back().sciezka, plik);
-  rozmowa.pliki.push_back(Sciezka(u"brak.cfg"_s));
-  Polecenie(u"ImportZPlikuZorvik"_s);
+  // A choice that the loaded structure does not carry goes back without a word.
+  ASSERT_FALSE(
+      plik_konfiguracji::Zapisz(plik, Config({{"ParJakieTowary", "3"}, {"ParTypPlikuTow", "1"}})).blad);
+  for (const QString& nazwa : {plik, Sciezka(u"brak.cfg"_s)}) {
+    rozmowa.pliki.push_back(nazwa);
+    Polecenie(u"ImportZPlikuZorvik"_s);
+  }
+  EXPECT_TRUE(Zaznaczony(u"RBTowaryWszystkie"_s));
   EXPECT_EQ(Komunikaty(), QStringList{u"UWAGA: Plik "_s + Sciezka(u"brak.cfg"_s) + u" nie istnieje"_s});
   // Another session finds what the database was given.
   ASSERT_TRUE(Otworz());
@@ -339,18 +346,32 @@ TEST_F(OknoIBazy, NieosiagalnaBazaJestProponowanaJeszczeRaz) {
   ASSERT_EQ(rozmowa.pytania.size(), 1U);
   EXPECT_EQ(rozmowa.pytania[0].domyslny, QMessageBox::No);
   EXPECT_EQ(Zapamietana(), u"sqlite:"_s + nowa + u'\n');
-  // A password is not shown.
-  ASSERT_FALSE(ParametryPolaczenia::ZTekstu(u"odbc:DSN=x;UID=u;PWD=tajne"_s)->Zapamietaj());
-  Osoba([](Polaczenie p) {
-    EXPECT_EQ(p.baza.text(), u"odbc:DSN=x;UID=u;"_s);
-    EXPECT_EQ(p.dialog.findChild<QLineEdit*>("EdHaslo")->text(), QString());
-    p.dialog.reject();
-  });
-  EXPECT_FALSE(Otworz(start));
   // A database named by the person is not argued about.
   start.baza = ParametryPolaczenia::ZTekstu(gdzieIndziej);
   EXPECT_FALSE(Otworz(start));
   EXPECT_EQ(rozmowa.pytania.size(), 2U);
+}
+
+// It is not shown, and serves the address it was given for until another one is typed.
+TEST_F(OknoIBazy, ZapamietaneHasloZostajePrzySwoimAdresie) {
+  QStringList proby;
+  Tfrm_polaczenie okienko(
+      nullptr, rozmowa,
+      {.adres = ParametryPolaczenia::ZTekstu(u"odbc:DSN=x;UID=u;PWD=tajne"_s), .powod = u"brak"_s},
+      [&](const ParametryPolaczenia& parametry, bool) {
+        proby << parametry.Tekst();
+        return u"nadal brak"_s;
+      });
+  Polaczenie p(okienko);
+  auto& haslo = *okienko.findChild<QLineEdit*>("EdHaslo");
+  EXPECT_EQ(p.baza.text() + haslo.text(), u"odbc:DSN=x;UID=u;"_s);
+  p.polacz.click();
+  haslo.setText(u"nowe"_s);
+  p.polacz.click();
+  haslo.clear();
+  p.Nieudane(u"odbc:DSN=y"_s, u"nadal brak"_s);
+  EXPECT_EQ(proby,
+            (QStringList{u"odbc:DSN=x;UID=u;PWD=tajne"_s, u"odbc:DSN=x;UID=u;PWD=nowe;"_s, u"odbc:DSN=y"_s}));
 }
 
 TEST_F(OknoIBazy, ZmianaBazyWczytujeJejUstawienia) {
@@ -358,7 +379,9 @@ TEST_F(OknoIBazy, ZmianaBazyWczytujeJejUstawienia) {
   UtworzBaze(druga.baza, {});
   druga.baza.ZapiszKonfiguracje(magazyn_ustawien::NazwaKonfiguracji(), Config({{"ParMaxDlKodu", "9"}}));
   druga.baza.ExecSQL("insert into Magazyn (MagId, Nazwa) values (5, 'Hala')");
+  druga.baza.ZapiszKonfiguracje(ParametrySystemu::KonfiguracjaKodow(), Config({{"MinKodKreskowy", "7"}}));
   ASSERT_TRUE(Otworz());
+  ASSERT_TRUE(okno->Kontekst().bufor.Napelnij(b.baza));
   EXPECT_EQ(Adres(), b.Sciezka());
   Kliknij(u"cb_formatujJM"_s);
   Osoba([&](Polaczenie p) {
@@ -368,14 +391,15 @@ TEST_F(OknoIBazy, ZmianaBazyWczytujeJejUstawienia) {
     // The one worked with so far is still there.
     EXPECT_EQ(okno->Kontekst().baza.Parametry().cel, b.Sciezka());
     EXPECT_TRUE(okno->Kontekst().baza.Polaczona());
-    p.baza.setText(druga.Sciezka());
+    p.baza.setText(QDir().relativeFilePath(druga.Sciezka()));
     p.polacz.click();
   });
   Polecenie(u"ZmienBaze"_s);
   EXPECT_EQ(Adres(), druga.Sciezka());
   EXPECT_EQ(okno->windowTitle(), u"Import/Eksport bazy towarów/kontrahentów ("_s + druga.baza.Nazwa() + u')');
   EXPECT_EQ(Znajdz<QSpinBox>(u"UpDownMaxDlugoscKodu"_s).value(), 9);
-  EXPECT_FALSE(Zaznaczony(u"cb_formatujJM"_s));
+  EXPECT_FALSE(Zaznaczony(u"cb_formatujJM"_s) || okno->Kontekst().bufor.Gotowy());
+  EXPECT_EQ(okno->Kontekst().parametry[IdParametru::MinKodKreskowy].AsInteger(), 7);
   EXPECT_EQ(Znajdz<QComboBox>(u"CBImportStanow"_s).itemText(1), u"Magazyn 5 – Hala"_s);
   EXPECT_EQ(Zapamietana(), u"sqlite:"_s + druga.Sciezka() + u'\n');
   Kliknij(u"cb_formatujJM"_s);

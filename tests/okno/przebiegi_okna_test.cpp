@@ -117,8 +117,10 @@ TEST_F(PrzebiegiOkna, ZmienionaSciezkaJestProponowanaWCalosci) {
       {bylo, u"ostatni/TOWARY_I.txt"_s},
       {Sciezka(u"dostawca/cennik.csv"_s), u"dostawca/cennik.csv"_s},
       {Sciezka(u"nie ma/cennik.csv"_s), u"ostatni/cennik.csv"_s},
+      {bylo, u"TOWARY_I.txt"_s},  // the last folder is gone
   };
   for (const auto& [ustawiona, proponowana] : przypadki) {
+    if (!proponowana.contains(u'/')) tutaj.rmdir(u"ostatni"_s);
     U().plikImportuTow = QDir::toNativeSeparators(ustawiona);
     rozmowa.pliki.push_back(std::nullopt);
     Polecenie(u"ImportTowMenu"_s);

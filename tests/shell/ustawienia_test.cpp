@@ -305,10 +305,10 @@ TEST_F(Zrodla, WyborNipJestJedenIPochodziZPozniejszegoZrodla) {
   WczytajUstawienia(zrodla, u);
   EXPECT_EQ(wybrane(), u"ParDodajKontrBezNIPu ParPominBoTakiNIPJuzJest");
   for (const char* klucz :
-       {"ParPominKontrBezNIPu", "ParDodajKontrBezNIPuJesliInnyAdres", "ParDodajJesliMaInnyAdres"})
+       {"ParDodajKontrBezNIPuJesliInnyAdres", "ParPominKontrBezNIPu", "ParDodajJesliMaInnyAdres"})
     zrodla.pojedyncze.emplace_back(QLatin1String(klucz), QStringLiteral("1"));
   WczytajUstawienia(zrodla, u);
-  EXPECT_EQ(wybrane(), u"ParDodajKontrBezNIPuJesliInnyAdres");
+  EXPECT_EQ(wybrane(), u"ParPominKontrBezNIPu");
   EXPECT_TRUE(u.importKontr.rb_DodajJesliMaInnyAdres && !u.importKontr.rb_PominBoTakiNIPJuzJest);
 }
 
