@@ -46,7 +46,7 @@ DialogListyPol::DialogListyPol(QWidget* rodzic, KontekstOkna& kontekst, const St
   const bool towary = struktura.rodzaj == RodzajRekordu::Towary;
   setWindowTitle(towary ? u"Lista pól pliku towarów"_s : u"Lista pól pliku kontrahentów"_s);
   m_ui->lbKatalog->setText(windowTitle());
-  m_podglad = new WidokPodgladu(m_ui->gbPodglad, kontekst.rozmowa);
+  m_podglad = new WidokPodgladu(m_ui->gbPodglad, kontekst);
   m_ui->ukladPodgladu->addWidget(m_podglad);
   UlozKatalog();
   UlozWybrane();

@@ -54,7 +54,7 @@ DialogStruktury::DialogStruktury(QWidget* rodzic, KontekstOkna& kontekst, const 
       m_struktura(struktura),
       m_poczatkowa(struktura) {
   m_ui->setupUi(this);
-  m_podglad = new WidokPodgladu(m_ui->gbPodglad, kontekst.rozmowa);
+  m_podglad = new WidokPodgladu(m_ui->gbPodglad, kontekst);
   m_ui->ukladPodgladu->addWidget(m_podglad);
   UlozKontrolki();
 

@@ -5,7 +5,9 @@
 #include "contractors/transfer_kontrahenta.h"
 #include "exchange/czytnik.h"
 #include "model/stawki_vat.h"
+#include "platform/baza/polaczenie.h"
 #include "platform/liczby.h"
+#include "run/pliki_zastrzezone.h"
 #include "run/uwagi.h"
 #include "ustawienia/kontrola_struktury.h"
 
@@ -42,13 +44,14 @@ QString Pokazana(QString wartosc, bool stawkaVat) {
 
 class CzytaniePodgladu {
  public:
-  CzytaniePodgladu(const StrukturaPliku& struktura, const QString& plik)
+  CzytaniePodgladu(const StrukturaPliku& struktura, const QString& plik, const ParametryPolaczenia& baza)
       : m_rodzaj(struktura.rodzaj), m_strona(struktura.CBPolskieZnaki), m_czytnik(UtworzCzytnik(struktura)) {
     Zanotuj(SprawdzStrukture(struktura));
     m_pola = PolaPliku(struktura, *m_czytnik);
     for (const int pole : m_pola)
       m_podglad.naglowki << QStringView(KatalogPol(m_rodzaj)[static_cast<size_t>(pole)].nazwa).toString();
-    const std::optional<Komunikat> odmowa = m_czytnik->Otworz(plik);
+    std::optional<Komunikat> odmowa = OdmowaPlikuBazy(baza, plik);
+    if (!odmowa) odmowa = m_czytnik->Otworz(plik);
     Zanotuj(odmowa);
     if (odmowa) return;
     Zanotuj(m_czytnik->SprawdzPola());
@@ -162,6 +165,7 @@ class CzytaniePodgladu {
 
 }  // namespace
 
-PodgladPliku CzytajPodglad(const StrukturaPliku& struktura, const QString& plik) {
-  return CzytaniePodgladu(struktura, plik).Wynik();
+PodgladPliku CzytajPodglad(const StrukturaPliku& struktura, const QString& plik,
+                           const ParametryPolaczenia& baza) {
+  return CzytaniePodgladu(struktura, plik, baza).Wynik();
 }

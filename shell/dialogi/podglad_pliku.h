@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+struct ParametryPolaczenia;
 struct StrukturaPliku;
 
 // The beginning of an import file as a run would read it.
@@ -28,6 +29,7 @@ struct PodgladPliku {
   QStringList uwagi;
 };
 
-// Reads no more than the first records of the file, whatever its size. Values longer than a person can see at
-// a glance are cut.
-PodgladPliku CzytajPodglad(const StrukturaPliku& struktura, const QString& plik);
+// Reads no more than the first records of the file, whatever its size, and nothing of a file of the database.
+// Values longer than a person can see at a glance are cut.
+PodgladPliku CzytajPodglad(const StrukturaPliku& struktura, const QString& plik,
+                           const ParametryPolaczenia& baza);

@@ -18,6 +18,7 @@
 
 #include "shell/dialogi/podglad_pliku.h"
 #include "shell/dialogi/siatka.h"
+#include "shell/kontekst_okna.h"
 #include "shell/kontrolki/filtry_plikow.h"
 #include "shell/rozmowa.h"
 
@@ -57,9 +58,9 @@ QString OpisPliku(const QString& plik) {
 
 }  // namespace
 
-WidokPodgladu::WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa)
+WidokPodgladu::WidokPodgladu(QWidget* rodzic, KontekstOkna& kontekst)
     : QWidget(rodzic),
-      m_rozmowa(rozmowa),
+      m_kontekst(kontekst),
       m_nazwaPliku(new QLabel(this)),
       m_uklad(new QStackedLayout),
       m_tabela(new QTableWidget(this)),
@@ -115,11 +116,11 @@ void WidokPodgladu::UstawPlik(const QString& plik) {
 }
 
 void WidokPodgladu::WybierzPlik() {
-  const auto plik =
-      m_rozmowa.WybierzDoOdczytu(this, {.tytul = u"Plik do podglądu"_s,
-                                        .sciezka = m_plik.isEmpty() ? QDir::homePath() : m_plik,
-                                        .filtr = FiltrImportu(m_struktura.CBTypPliku),
-                                        .rozszerzenie = RozszerzenieImportu(m_struktura.CBTypPliku)});
+  const auto plik = m_kontekst.rozmowa.WybierzDoOdczytu(
+      this, {.tytul = u"Plik do podglądu"_s,
+             .sciezka = m_plik.isEmpty() ? QDir::homePath() : m_plik,
+             .filtr = FiltrImportu(m_struktura.CBTypPliku),
+             .rozszerzenie = RozszerzenieImportu(m_struktura.CBTypPliku)});
   if (plik) UstawPlik(*plik);
 }
 
@@ -133,13 +134,14 @@ void WidokPodgladu::Odswiez() {
   if (m_plik.isEmpty()) return PokazPodglad({});
   m_czyta = true;
   // The program object outlives the reading, which the pool finishes before it goes.
-  QThreadPool::globalInstance()->start(
-      [struktura = m_struktura, plik = m_plik, program = qApp, widok = std::weak_ptr(m_jestem)] {
-        const auto pokaz = [podglad = CzytajPodglad(struktura, plik), widok] {
-          if (const auto jest = widok.lock()) (*jest)->Przyjmij(podglad);
-        };
-        QMetaObject::invokeMethod(program, pokaz, Qt::QueuedConnection);
-      });
+  QThreadPool::globalInstance()->start([struktura = m_struktura, plik = m_plik,
+                                        baza = m_kontekst.baza.Parametry(), program = qApp,
+                                        widok = std::weak_ptr(m_jestem)] {
+    const auto pokaz = [podglad = CzytajPodglad(struktura, plik, baza), widok] {
+      if (const auto jest = widok.lock()) (*jest)->Przyjmij(podglad);
+    };
+    QMetaObject::invokeMethod(program, pokaz, Qt::QueuedConnection);
+  });
 }
 
 void WidokPodgladu::Przyjmij(const PodgladPliku& podglad) {

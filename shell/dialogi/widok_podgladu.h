@@ -10,14 +10,14 @@
 class QLabel;
 class QStackedLayout;
 class QTableWidget;
-class Rozmowa;
+struct KontekstOkna;
 struct PodgladPliku;
 
 // Shows the first records of a file as an import would read them, with the reasons why it would not. Reads
 // anew a moment after the last change of the structure, beside the window: a file may lie far away.
 class WidokPodgladu final : public QWidget {
  public:
-  WidokPodgladu(QWidget* rodzic, Rozmowa& rozmowa);
+  WidokPodgladu(QWidget* rodzic, KontekstOkna& kontekst);
 
   void UstawStrukture(const StrukturaPliku& struktura);
   // The file being looked at; another one may have been chosen here.
@@ -31,7 +31,7 @@ class WidokPodgladu final : public QWidget {
   void PokazPodglad(const PodgladPliku& podglad);
   void PokazWiersze(const PodgladPliku& podglad);
 
-  Rozmowa& m_rozmowa;
+  KontekstOkna& m_kontekst;
   QString m_plik;
   StrukturaPliku m_struktura{RodzajRekordu::Towary};
   QTimer m_zwloka;

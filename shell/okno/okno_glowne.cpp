@@ -20,6 +20,7 @@
 #include "platform/liczby.h"
 #include "platform/nazwa_pliku.h"
 #include "platform/wyjatek.h"
+#include "run/pliki_zastrzezone.h"
 #include "shell/dialogi/dialogi.h"
 #include "shell/kontrolki/pasek_przyciskow.h"
 #include "shell/okno/strony.h"
@@ -296,11 +297,19 @@ bool Tfrm_main::SprawdzPrzedImportem(const RodzajPrzebiegu& rodzaj) {
   return !odmowa;
 }
 
+bool Tfrm_main::SprawdzPlik(const QString& plik, KierunekPliku kierunek) {
+  const auto odmowa = OdmowaPlikuBazy(m_kontekst.baza.Parametry(), plik, kierunek);
+  if (odmowa) PokazKomunikaty({*odmowa});
+  return !odmowa;
+}
+
 void Tfrm_main::UruchomPrzebieg(const RodzajPrzebiegu& rodzaj, const QString& plik) {
   Ustawienia& ustawienia = m_kontekst.ustawienia;
   const StrukturaPliku& struktura = ustawienia.*rodzaj.struktura;
-  if (rodzaj.kierunek == Kierunek::Import)
+  if (rodzaj.kierunek == Kierunek::Import) {
+    if (!SprawdzPlik(plik, KierunekPliku::Odczyt)) return;
     if (const auto odmowa = OdmowaPliku(struktura, plik)) return PokazKomunikaty({*odmowa});
+  }
   ZapamietajPlikPrzebiegu(rodzaj, plik, ustawienia);
   m_kontekst.parametry.Wczytaj(m_kontekst.baza);
   const auto wykonaj = [&](const ZadaniePrzebiegu::Otoczenie& otoczenie) {
@@ -342,7 +351,7 @@ void Tfrm_main::ZapisDoBazyClick() {
 void Tfrm_main::EksportDoPlikuZorvikClick() {
   Ustawienia& u = m_kontekst.ustawienia;
   const auto plik = WybierzPlikKonfiguracji(this, m_kontekst.rozmowa, Kierunek::Eksport, u);
-  if (!plik) return;
+  if (!plik || !SprawdzPlik(*plik, KierunekPliku::Zapis)) return;
   u.plikKonfiguracji = *plik;
   PokazKomunikaty(magazyn_ustawien::EksportujDoPliku(*plik, u));
 }
@@ -350,7 +359,7 @@ void Tfrm_main::EksportDoPlikuZorvikClick() {
 void Tfrm_main::ImportZPlikuZorvikClick() {
   Ustawienia& u = m_kontekst.ustawienia;
   const auto plik = WybierzPlikKonfiguracji(this, m_kontekst.rozmowa, Kierunek::Import, u);
-  if (!plik) return;
+  if (!plik || !SprawdzPlik(*plik, KierunekPliku::Odczyt)) return;
   const auto wynik = magazyn_ustawien::ImportujZPliku(*plik, u);
   if (wynik.wczytano) u.plikKonfiguracji = *plik;
   wspolzaleznosci::ZastosujWspolzaleznosci(u);

@@ -10,6 +10,7 @@
 #include "shell/okno/start_okna.h"
 
 class TMStatusButton;
+enum class KierunekPliku;
 enum class KtoryPrzebieg;
 struct RodzajPrzebiegu;
 namespace Ui {
@@ -63,6 +64,8 @@ class Tfrm_main final : public QMainWindow {
   void Przeprowadz(KtoryPrzebieg ktory);
   void ImportujUpuszczony(const QString& plik);
   bool SprawdzPrzedImportem(const RodzajPrzebiegu& rodzaj);
+  // False for a file of the database, which is not even looked into.
+  bool SprawdzPlik(const QString& plik, KierunekPliku kierunek);
   void UruchomPrzebieg(const RodzajPrzebiegu& rodzaj, const QString& plik);
   void EdytujStruktureImportu(KtoryPrzebieg ktory);
   void ZapisDoBazyClick();

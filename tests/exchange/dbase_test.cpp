@@ -47,7 +47,7 @@ TEST(PlikDBase, LiczbaRekordowZRozmiaru) {
       {{.pola = std::vector(100, std::pair<std::string, int>("A", 49)), .rekordy = {std::string(4901, ' ')}},
        1},
       // A file filled up with its last byte; a record that only begins with one.
-      {{.pola = kPola, .rekordy = {" 0001aaaaaa", " 0002bbbbbb"}, .koniec = std::string(40, '\x1A') + "\r\n"},
+      {{.pola = kPola, .rekordy = {" 0001aaaaaa", " 0002bbbbbb"}, .koniec = std::string(43, '\x1A') + "\r\n"},
        2},
       {{.pola = kPola,
         .rekordy = {" 0001aaaaaa",

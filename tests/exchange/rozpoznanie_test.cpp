@@ -40,6 +40,7 @@ TEST(RozpoznanieTresci, Rodzaje) {
       {std::string("K\0o\0d\0", 6), R::BajtyZerowe, R::BajtyZerowe},
       {"\x89PNG\r\n\x1A\n\x01\x02\x03\x04", R::Binarny, R::Binarny},
       {Tabela{.pola = {{"KOD", 4}}}.Bajty(), R::DBase, R::DBase},
+      {'\x83' + Tabela{.pola = {{"KOD", 4}}}.Bajty().substr(1), R::DBase, R::DBase},  // with notes
   };
   for (const auto& p : przypadki) {
     EXPECT_EQ(RozpoznajTresc(p.tresc, true), p.calosc) << p.tresc;

@@ -219,6 +219,9 @@ TEST_F(EksportTest, OdmawiaPlikuKtoregoNieWolnoNadpisac) {
   };
   const QString twarde = folder.filePath(u"twarde"_s);
   EXPECT_EQ(link(pominiete.fileName().toStdString().c_str(), twarde.toStdString().c_str()), 0);
+  qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
+  const QString zapas = RaportProblemow::KatalogZapasowy();
+  EXPECT_TRUE(QDir().mkpath(zapas));
   const std::pair<QString, QString> przypadki[] = {
       {twarde, u"jest plikiem pominiętych rekordów"_s},
       {polacz(b.Sciezka(), b.Sciezka() + u"-kopia"_s), u"jest plikiem bazy danych"_s},
@@ -228,7 +231,8 @@ TEST_F(EksportTest, OdmawiaPlikuKtoregoNieWolnoNadpisac) {
       {folder.filePath(u"dowiązanie"_s), u"jest plikiem pominiętych rekordów"_s},
       {folder.filePath(u"POMINIECI.TXT"_s), u"jest plikiem pominiętych rekordów"_s},
       {b.Sciezka(), u"jest plikiem bazy danych"_s},
-      {b.Sciezka() + u"-wal"_s, u"jest plikiem bazy danych"_s},
+      {b.Sciezka() + u"-journal"_s, u"jest plikiem bazy danych"_s},
+      {zapas + u"/POMINIECI.TXT"_s, u"jest plikiem pominiętych rekordów"_s},
       {folder.path(), u"Błąd otwarcia pliku"_s},
       {QString(), u"Błąd otwarcia pliku"_s}};
   for (const auto& [plik, odmowa] : przypadki) {

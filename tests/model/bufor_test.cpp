@@ -1,5 +1,6 @@
 #include "model/bufor_nip.h"
 #include "model/bufor_towarow.h"
+#include "model/szukanie_kontrahenta.h"
 #include "model/szukanie_towaru.h"
 #include "tests/model/towary_probne.h"
 
@@ -106,6 +107,8 @@ TEST_F(Bufor, NipyPorownujeSiePoCyfrach) {
   EXPECT_EQ(nipy.Znajdz(u"333"), -1);
   EXPECT_EQ(nipy.Znajdz(u"brak"), -1) << "no digits, no number";
   EXPECT_EQ(TVLTBuforNip::IloscKontrahentow(b.baza), 3);
+  b.baza.ExecSQL("insert into Kontrahent (Nazwa, NIP) values ('K4', 'PL 22-2')");
+  EXPECT_EQ(KontrahentZNipem(b.baza, u"2-22")->kontrId, 2) << "of several the first";
 
   TVLTBuforNip zAdresami(TVLTBuforNip::Zawartosc::NipyIAdresy);
   zAdresami.Dodaj(4, u"44", u"Polna 1"_s, u"Radom"_s);

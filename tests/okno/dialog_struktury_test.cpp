@@ -197,6 +197,13 @@ TEST_F(DialogStrukturyTest, PodgladIdzieZaTymCoWpisano) {
         EXPECT_FALSE(Znajdz<QLabel>(dialog, "UwagiPodgladu").isVisible());
       },
       "Wyjscie", plik.Sciezka());
+  Edytuj(
+      towary,
+      [&](QDialog& dialog) {
+        const auto& uwagi = Znajdz<QLabel>(dialog, "UwagiPodgladu");
+        EXPECT_TRUE(Doczekano([&] { return uwagi.text().contains(u" jest plikiem bazy danych\n"_s); }));
+      },
+      "Wyjscie", b.Sciezka() + u"-wal"_s);
   DialogStruktury(nullptr, kontekst, towary, plik.Sciezka());  // gone before it has been read
   DialogStruktury bezPliku(nullptr, kontekst, towary, {});
   bezPliku.show();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "platform/baza/polaczenie.h"
 #include "shell/dialogi/podglad_pliku.h"
 #include "tests/exchange/pliki_probne.h"
 #include "tests/exchange/tabela_dbase.h"
@@ -26,7 +27,7 @@ StrukturaPliku Towary(TypPliku typ, const QString& pola, const QString& separato
 void Sprawdz(const StrukturaPliku& struktura, const std::string& tresc, const QStringList& wiersze,
              const QString& powod = {}, const QString& naglowki = u"Kod kreskowy|Nazwa towaru"_s) {
   SCOPED_TRACE(tresc);
-  const PodgladPliku podglad = CzytajPodglad(struktura, PlikProbny(tresc).Sciezka());
+  const PodgladPliku podglad = CzytajPodglad(struktura, PlikProbny(tresc).Sciezka(), {});
   EXPECT_EQ(podglad.naglowki.join(u'|'), naglowki);
   EXPECT_EQ(Wiersze(podglad), wiersze);
   EXPECT_EQ(podglad.powody.isEmpty(), powod.isEmpty());
@@ -59,7 +60,7 @@ TEST(Podglad, KolumnyStojaJakWPlikuAJednoPoleMaJednaKolumne) {
   struktura.CBNieAnalizujPierwszejLinii = true;
   struktura.opisyVat = {OpisVat(u"8"_s, u"B"_s), OpisVat(u"-1"_s, u"Z"_s)};
   const PlikProbny plik("naglowek\nS\xA2l;x;5901;morska;B\n\"Cukier\";x;5902;;Z\n");
-  const PodgladPliku podglad = CzytajPodglad(struktura, plik.Sciezka());
+  const PodgladPliku podglad = CzytajPodglad(struktura, plik.Sciezka(), {});
   EXPECT_EQ(podglad.naglowki, (QStringList{"Nazwa towaru", "Kod kreskowy", "Stawka VAT"}));
   EXPECT_EQ(Wiersze(podglad), (QStringList{u"Sól morska|5901|8 %"_s, "Cukier|5902|ZW"}));
   EXPECT_EQ(podglad.powody, QStringList());
@@ -68,7 +69,7 @@ TEST(Podglad, KolumnyStojaJakWPlikuAJednoPoleMaJednaKolumne) {
 TEST(Podglad, UkladWlasnyMaWszystkiePolaKatalogu) {
   StrukturaPliku struktura(RodzajRekordu::Kontrahenci);
   const PlikProbny plik("naglowek\nFirma\t123" + std::string(34, '\t') + "1\t\n");
-  const PodgladPliku podglad = CzytajPodglad(struktura, plik.Sciezka());
+  const PodgladPliku podglad = CzytajPodglad(struktura, plik.Sciezka(), {});
   ASSERT_EQ(podglad.naglowki.size(), PoleKontrahenta::LiczbaWartosci);
   EXPECT_EQ(podglad.naglowki.last(), u"Status Kontrahenta (aktywny/usunięty)"_s);
   ASSERT_EQ(Wiersze(podglad), QStringList{u"Firma|123"_s + QString(34, u'|') + u"1"_s});
@@ -79,20 +80,20 @@ TEST(Podglad, CzytaTylkoPoczatekPliku) {
   const StrukturaPliku struktura = Towary(TypPliku::Rozdzielany, "00 01");
   std::string rekordy;
   for (int i = 0; i < 100; ++i) rekordy += std::to_string(i) + ";" + std::string(1000, 'x') + "\n";
-  const PodgladPliku podglad = CzytajPodglad(struktura, PlikProbny(rekordy).Sciezka());
+  const PodgladPliku podglad = CzytajPodglad(struktura, PlikProbny(rekordy).Sciezka(), {});
   ASSERT_EQ(podglad.wiersze.size(), 20U);
   EXPECT_EQ(podglad.wiersze.back().wartosci[0], u"19"_s);
   EXPECT_LT(podglad.wiersze.back().wartosci[1].size(), 300);
 
   std::string komentarze;
   for (int i = 0; i < 20000; ++i) komentarze += "# komentarz\n";
-  EXPECT_EQ(CzytajPodglad(struktura, PlikProbny(komentarze + rekordy).Sciezka()).powody,
+  EXPECT_EQ(CzytajPodglad(struktura, PlikProbny(komentarze + rekordy).Sciezka(), {}).powody,
             QStringList{u"Początek pliku nie zawiera żadnego rekordu"_s});
 }
 
 TEST(Podglad, BrakPlikuJestPowodem) {
   const StrukturaPliku struktura = Towary(TypPliku::DBase, "00KOD");
-  const PodgladPliku podglad = CzytajPodglad(struktura, u"/nie/ma/mnie.dbf"_s);
+  const PodgladPliku podglad = CzytajPodglad(struktura, u"/nie/ma/mnie.dbf"_s, {});
   EXPECT_EQ(podglad.powody, QStringList{u"Plik /nie/ma/mnie.dbf nie istnieje"_s});
   EXPECT_EQ(podglad.naglowki, QStringList{u"Kod kreskowy"_s});
   EXPECT_TRUE(podglad.wiersze.empty());
@@ -100,7 +101,7 @@ TEST(Podglad, BrakPlikuJestPowodem) {
 
 // Marks of the cells, "row.column kind", of lines with the column "-"; then the notices below.
 QStringList Znaki(const StrukturaPliku& struktura, const std::string& tresc, qsizetype* uwag = nullptr) {
-  const PodgladPliku podglad = CzytajPodglad(struktura, PlikProbny(tresc).Sciezka());
+  const PodgladPliku podglad = CzytajPodglad(struktura, PlikProbny(tresc).Sciezka(), {});
   QStringList znaki;
   for (std::size_t w = 0; w < podglad.wiersze.size(); ++w) {
     const PodgladPliku::Wiersz& wiersz = podglad.wiersze[w];

@@ -4,11 +4,15 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTabWidget>
 #include <QTreeWidget>
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "shell/kontrolki/pamiec_okien.h"
 #include "shell/kontrolki/pasek_przyciskow.h"
@@ -105,6 +109,33 @@ TEST_F(PrzebiegiOkna, OdmowyPrzedImportemWKolejnosci) {
       u"Pliki tekstowe (*.txt) (*.txt *.TXT);;Pliki CSV (*.csv) (*.csv *.CSV);;Wszystkie pliki (*.*) (*)"_s);
   EXPECT_EQ(rozmowa.wybory.back().filtr, u"Pliki DBF (*.dbf) (*.dbf *.DBF);;Wszystkie pliki (*.*) (*)"_s);
   EXPECT_EQ(rozmowa.wybory.front().rozszerzenie + rozmowa.wybory.back().rozszerzenie, u"txtdbf"_s);
+}
+
+// Whoever opens and closes the database's file takes away the locks that the engine holds in this process.
+TEST_F(PrzebiegiOkna, PlikBazyNieJestNawetOtwierany) {
+  const auto zablokowana = [this] {
+    const pid_t obcy = fork();
+    if (obcy == 0) {
+      struct flock blokada = {.l_type = F_WRLCK, .l_whence = SEEK_SET, .l_start = 0, .l_len = 0, .l_pid = 0};
+      const int plik = open(b.Sciezka().toLocal8Bit().constData(), O_RDWR);
+      _exit(fcntl(plik, F_GETLK, &blokada) == 0 && blokada.l_type != F_UNLCK ? 0 : 1);
+    }
+    int status = -1;
+    waitpid(obcy, &status, 0);
+    return status == 0;
+  };
+  UstawStrukture();
+  ASSERT_EQ(link(b.Sciezka().toLocal8Bit().constData(), Sciezka(u"dane.txt"_s).toLocal8Bit().constData()), 0);
+  Importuj(Sciezka(u"dane.txt"_s));
+  for (const char* polecenie : {"ImportZPlikuZorvik", "EksportDoPlikuZorvik"}) {
+    rozmowa.pliki.push_back(Sciezka(u"dane.txt"_s));
+    rozmowa.odpowiedzi = {QMessageBox::Yes};
+    Polecenie(QString::fromLatin1(polecenie));
+  }
+  const QStringList odmowy = Komunikaty().filter(u"/dane.txt jest plikiem bazy danych\n"_s);
+  EXPECT_EQ(odmowy.size(), 3);
+  EXPECT_TRUE(zablokowana());
+  EXPECT_EQ(Towarow(), 0);
 }
 
 TEST_F(PrzebiegiOkna, ZmienionaSciezkaJestProponowanaWCalosci) {
@@ -271,6 +302,8 @@ TEST_F(PrzebiegiOkna, PlikUpuszczonyNaStroneImportu) {
   const QByteArray plik = QFile::encodeName(Zapisz(u"upuszczony.txt"_s, Wiersze(3)));
   const QByteArray zmieniony = QByteArray(plik).replace("upuszczony", "upuszczon\xB3");
   ASSERT_EQ(rename(plik.constData(), zmieniony.constData()), 0);
+  // Qt would leave such a name behind, and the folder with it.
+  const auto usun = qScopeGuard([&] { unlink(zmieniony.constData()); });
   dane.setUrls({QUrl::fromEncoded("file://" + zmieniony.toPercentEncoding("/"))});
   const auto upusc = [&] {
     QDragEnterEvent wejscie({}, Qt::CopyAction, &dane, Qt::LeftButton, Qt::NoModifier);

@@ -297,17 +297,22 @@ TEST_F(Baza, ZniknieciePlikuJestZauwazane) {
   EXPECT_NO_THROW(b.baza.StartTransakcji());
 }
 
-// A reader who stays keeps the log from being moved; the disk confirms it all the same, and nobody waits.
+// A reader who stays keeps the log from being moved, and so does a transaction of our own; the disk confirms
+// it all the same, and nobody waits.
 TEST_F(Baza, UtrwalNieCzekaNaCzytajacych) {
   TVLTBazaDanych inna;
   b.Polacz(inna, false, 15);
   const OdczytJednejChwili chwila(inna);
   inna.Otworz("select count(*) from T", {TypPola::Calkowite}).Nastepny();
-  JednostkaZapisu zapis(b.baza);
-  Dodaj(QStringLiteral("a"));
-  zapis.Zatwierdz();
-  EXPECT_NO_THROW(b.baza.Utrwal());
-  EXPECT_EQ(Ile(), 1);
+  for (const bool wTransakcji : {false, true}) {
+    JednostkaZapisu zapis(b.baza);
+    Dodaj(QStringLiteral("a"));
+    zapis.Zatwierdz();
+    std::optional<JednostkaZapisu> otwarta;
+    if (wTransakcji) otwarta.emplace(b.baza);
+    EXPECT_NO_THROW(b.baza.Utrwal());
+  }
+  EXPECT_EQ(Ile(), 2);
 }
 
 TEST_F(Baza, KopiaDajeSieZatrzymac) {

@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 
 #include "platform/nazwa_pliku.h"
 #include "platform/otwarcie_pliku.h"
+#include "platform/plik_obok.h"
 #include "platform/tozsamosc_pliku.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -129,6 +131,22 @@ TEST_F(Pliki, NowyPlikZastepujeDowiazanie) {
   QFile plik;
   EXPECT_NE(OtworzNaNowo(plik, W(u"potok"_s)), std::nullopt);
   EXPECT_NE(OtworzNaNowo(plik, W(u"."_s)), std::nullopt);
+}
+
+TEST_F(Pliki, NazwaZajetaTymczasemZostajeZajeta) {
+  for (const auto istniejacy : {PlikObok::Istniejacy::Zachowaj, PlikObok::Istniejacy::Zastap}) {
+    PlikObok obok;
+    ASSERT_EQ(obok.Zacznij(W(u"kopia"_s)), std::nullopt);
+    PlikObok drugi;  // leaves alone what another one is writing
+    ASSERT_EQ(drugi.Zacznij(W(u"inny"_s)), std::nullopt);
+    EXPECT_TRUE(QFile::exists(obok.Sciezka()));
+    drugi.Porzuc();
+    Zapisz(u"kopia"_s, "cudzy");
+    const bool zachowaj = istniejacy == PlikObok::Istniejacy::Zachowaj;
+    EXPECT_EQ(obok.Podmien(istniejacy).has_value(), zachowaj);
+    EXPECT_EQ(Tresc(u"kopia"_s), zachowaj ? "cudzy" : "");
+    EXPECT_EQ(QDir(W(u"."_s)).entryList(QDir::Files | QDir::Hidden), QStringList{u"kopia"_s});
+  }
 }
 
 }  // namespace

@@ -96,7 +96,8 @@ TEST_F(PlikTekstowy, KonceLinii) {
       {"a\x1A\x1A\n\x1A", {"a"}},
       {"a\n\n" + std::string(300'000, '\x1A'), {"a", ""}},
       {"a\rb\r\rc", {"a", "b", "", "c"}},
-      {"a\r" + std::string(400'000, 'b') + "\r\x1A", {"a", std::string(400'000, 'b')}},
+      {std::string(400'000, 'b') + "\ra\r\x1A", {std::string(400'000, 'b'), "a"}},
+      {"a\r" + std::string(400'000, 'b') + "\nc", {"a\r" + std::string(400'000, 'b'), "c"}},
       {"a\x1A\r\nb\r\n", {"a\x1A", "b"}},
       {"a\rb\r\r\n", {"a\rb\r"}},
   };

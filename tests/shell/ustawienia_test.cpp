@@ -276,6 +276,8 @@ TEST_F(Zrodla, PozniejszeZrodloMaPierwszenstwo) {
   EXPECT_TRUE(magazyn_ustawien::WczytajZBazy(test.baza, zBazy).empty());
   EXPECT_EQ(Teksty(zBazy), Teksty(u));
   if (NaSerwerze()) return;
+  EXPECT_EQ(QFileInfo(test.Sciezka() + QStringLiteral("-wal")).size(), 0)
+      << "what is saved lies in the database file";
   // Nothing is told as saved in a file that is gone.
   ASSERT_TRUE(QFile::remove(test.Sciezka()));
   EXPECT_THROW(magazyn_ustawien::ZapiszDoBazy(test.baza, u), EBladBazy);
