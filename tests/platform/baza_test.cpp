@@ -306,7 +306,7 @@ TEST_F(Baza, UtrwalNieCzekaNaCzytajacych) {
   inna.Otworz("select count(*) from T", {TypPola::Calkowite}).Nastepny();
   for (const bool wTransakcji : {false, true}) {
     JednostkaZapisu zapis(b.baza);
-    Dodaj(QStringLiteral("a"));
+    Dodaj(wTransakcji ? QStringLiteral("b") : QStringLiteral("a"));
     zapis.Zatwierdz();
     std::optional<JednostkaZapisu> otwarta;
     if (wTransakcji) otwarta.emplace(b.baza);
