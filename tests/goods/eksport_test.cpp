@@ -219,7 +219,7 @@ TEST_F(EksportTest, OdmawiaPlikuKtoregoNieWolnoNadpisac) {
   };
   const QString twarde = folder.filePath(u"twarde"_s);
   EXPECT_EQ(link(pominiete.fileName().toStdString().c_str(), twarde.toStdString().c_str()), 0);
-  qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
+  qputenv("XDG_DATA_HOME", folder.filePath(u"dane"_s).toLocal8Bit());
   const QString zapas = RaportProblemow::KatalogZapasowy();
   EXPECT_TRUE(QDir().mkpath(zapas));
   const std::pair<QString, QString> przypadki[] = {
