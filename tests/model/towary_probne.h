@@ -70,6 +70,10 @@ class TowaryProbne : public testing::Test {
   bool unikalneCKU = false;
 };
 
+inline KodDodatkowy Dodatkowy(const QString& kod, const QString& skrot) {
+  return {0, kod, skrot};
+}
+
 template <typename Praca>
 int KodBledu(Praca praca) {
   try {
