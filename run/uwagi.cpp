@@ -32,8 +32,7 @@ constexpr OpisUwagi kOpisy[] = {
      u"Wartość pola „%1” odczytano razem z kwalifikatorem tekstu (cudzysłowem albo apostrofem)"},
     {RodzajUwagi::StronaKodowa, u"strona-kodowa",
      u"Większość znaków spoza ASCII nie jest polskimi literami na wybranej stronie kodowej %1, a jest nimi "
-     u"na "
-     u"stronie %2; zmień stronę kodową w strukturze pliku"},
+     u"na stronie %2; zmień stronę kodową w strukturze pliku"},
     {RodzajUwagi::DbaseLiczba, u"dbase-liczba",
      u"Liczba rekordów według nagłówka tabeli dBase: %1, odczytano: %2; gdy brakuje ostatniego, tabela nie "
      u"kończy się bajtem 1A: zapisz ją ponownie w programie, z którego pochodzi, albo dopisz ten bajt"},
