@@ -70,7 +70,7 @@ constexpr Opcja kOpcje[] = {
     {u"demo", u"", u"dodaje do nowej bazy dane pokazowego sklepu", GrupaOpcji::NowaBaza,
      PrzyjmijFlage<&A::demo>},
     {u"help", u"", u"ta pomoc", GrupaOpcji::Ogolne | GrupaOpcji::Okno, PrzyjmijFlage<&A::pomoc>},
-    {u"wersja", u"", u"wersja programu", GrupaOpcji::Ogolne, PrzyjmijFlage<&A::wersja>},
+    {u"wersja", u"", u"wersja programu", GrupaOpcji::Ogolne | GrupaOpcji::Okno, PrzyjmijFlage<&A::wersja>},
     {u"version", u"", u"wersja programu", GrupaOpcji::Okno, PrzyjmijFlage<&A::wersja>},
 };
 

@@ -98,7 +98,7 @@ StatusWyjscia Uruchom(const QStringList& slowa) {
 std::unique_ptr<QCoreApplication> UtworzProgram(int& argc, char** argv) {
   const bool bezOkna = std::any_of(argv, argv + argc, [](const char* slowo) {
     const std::string_view opcja = slowo;
-    return opcja == "--help" || opcja == "--version";
+    return opcja == "--help" || opcja == "--version" || opcja == "--wersja";
   });
   if (bezOkna) return std::make_unique<QCoreApplication>(argc, argv);
   return std::make_unique<Program>(argc, argv);

@@ -1,5 +1,7 @@
 #include "platform/nazwa_pliku.h"
 
+#include <array>
+#include <climits>
 #include <cstdlib>
 #include <memory>
 
@@ -11,6 +13,7 @@
 
 namespace {
 
+constexpr int kNajwiecejDowiazan = 40;         // as the system counts them
 constexpr ushort kPierwszyZastepczy = 0xDC00;  // and the byte; never below 0xDC80
 
 // The length of the longest beginning that is valid UTF-8.
@@ -71,6 +74,17 @@ QString OdszukajNazwe(const QString& sciezka) {
     if (pokazana == sciezka) pasujace << cala;
   }
   return pasujace.size() == 1 ? pasujace.constFirst() : sciezka;
+}
+
+QString KoniecDowiazan(QString sciezka) {
+  std::array<char, PATH_MAX> cel;
+  for (int i = 0; i < kNajwiecejDowiazan; ++i) {
+    const ssize_t ile = readlink(BajtyNazwy(sciezka).constData(), cel.data(), cel.size());
+    if (ile <= 0) break;
+    const QString dalej = NazwaZBajtow(QByteArray(cel.data(), ile));
+    sciezka = dalej.startsWith(u'/') ? dalej : sciezka.left(sciezka.lastIndexOf(u'/') + 1) + dalej;
+  }
+  return sciezka;
 }
 
 QString SciezkaBezDowiazan(const QString& sciezka) {

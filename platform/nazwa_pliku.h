@@ -14,5 +14,8 @@ QByteArray BajtyNazwy(const QString& nazwa);
 // in its folder whose name has a byte of its own for every "?", if there is exactly one.
 QString OdszukajNazwe(const QString& sciezka);
 
-// The path behind all links; the path itself when it leads to nothing.
+// What a chain of links in the path's last place leads to, whether or not it is there.
+QString KoniecDowiazan(QString sciezka);
+
+// The path behind all links, folders included; the path itself when it leads to nothing.
 QString SciezkaBezDowiazan(const QString& sciezka);

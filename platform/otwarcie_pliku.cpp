@@ -17,8 +17,27 @@ std::optional<QString> Przejmij(QFile& plik, int deskryptor, QIODevice::OpenMode
   return plik.errorString();
 }
 
+// The reader of a pipe may be a little later than its writer; without any the writer would wait for ever.
+constexpr int kProbPotoku = 50;
+constexpr useconds_t kMikrosekundMiedzyProbami = 100'000;
+
+// As the system's open, but an end of a pipe that has no other one fails with ENXIO in the end.
+int OtworzDoZapisu(const char* nazwa, int flagi) {
+  int deskryptor = open(nazwa, flagi | O_NONBLOCK, 0666);
+  for (int i = 1; deskryptor < 0 && errno == ENXIO && i < kProbPotoku; ++i) {
+    usleep(kMikrosekundMiedzyProbami);
+    deskryptor = open(nazwa, flagi | O_NONBLOCK, 0666);
+  }
+  if (deskryptor >= 0 && fcntl(deskryptor, F_SETFL, fcntl(deskryptor, F_GETFL) & ~O_NONBLOCK) != 0) {
+    close(deskryptor);
+    return -1;
+  }
+  return deskryptor;
+}
+
 std::optional<QString> Odmow(int deskryptor, int blad) {
   if (deskryptor >= 0) close(deskryptor);
+  if (blad == ENXIO) return QStringLiteral("Potoku nikt nie czyta");
   return qt_error_string(blad);
 }
 
@@ -42,7 +61,8 @@ std::optional<QString> OtworzPlik(QFile& plik, const QString& sciezka, SposobOtw
       tryb = QIODevice::ReadWrite;
       break;
   }
-  const int deskryptor = open(nazwa.constData(), flagi, 0666);
+  const int deskryptor = sposob == SposobOtwarcia::Zapis ? OtworzDoZapisu(nazwa.constData(), flagi)
+                                                         : open(nazwa.constData(), flagi, 0666);
   if (deskryptor < 0) return Odmow(deskryptor, errno);
   struct stat opis;
   if (fstat(deskryptor, &opis) != 0) return Odmow(deskryptor, errno);

@@ -7,7 +7,7 @@
 
 enum class SposobOtwarcia {
   Odczyt,      // a regular file alone; never waits for the other end of a pipe
-  Zapis,       // created if need be, emptied
+  Zapis,       // created if need be, emptied; a pipe that nobody reads is refused after a while
   Modyfikacja  // read and written; created if need be, kept
 };
 

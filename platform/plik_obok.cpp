@@ -1,8 +1,6 @@
 #include "platform/plik_obok.h"
 
-#include <array>
 #include <cerrno>
-#include <climits>
 #include <cstdio>
 
 #include <QDir>
@@ -22,7 +20,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int kNajwiecejDowiazan = 40;  // as the system counts them
 constexpr int kProb = 100;
 constexpr QLatin1String kPoczatek(".zorvik-");
 constexpr QLatin1String kKoniec(".tmp");
@@ -30,18 +27,6 @@ constexpr QLatin1String kKoniec(".tmp");
 QString Folder(const QString& sciezka) {
   const qsizetype ukosnik = sciezka.lastIndexOf(u'/');
   return ukosnik < 0 ? u"./"_s : sciezka.left(ukosnik + 1);
-}
-
-// What a chain of links leads to, whether or not it is there.
-QString BezDowiazan(QString sciezka) {
-  std::array<char, PATH_MAX> cel;
-  for (int i = 0; i < kNajwiecejDowiazan; ++i) {
-    const ssize_t ile = readlink(BajtyNazwy(sciezka).constData(), cel.data(), cel.size());
-    if (ile <= 0) break;
-    const QString dalej = NazwaZBajtow(QByteArray(cel.data(), ile));
-    sciezka = dalej.startsWith(u'/') ? dalej : Folder(sciezka) + dalej;
-  }
-  return sciezka;
 }
 
 // A file whose lock is free belongs to nobody any more.
@@ -82,7 +67,7 @@ bool NadajNazwe(const QByteArray& z, const QByteArray& na) {
 std::optional<QString> PlikObok::Zacznij(const QString& cel) {
   Porzuc();
   if (cel.isEmpty() || cel.endsWith(u'/')) return u"Brak nazwy pliku"_s;
-  m_cel = BezDowiazan(cel);
+  m_cel = KoniecDowiazan(cel);
   m_dlaczego.clear();
   const QByteArray nazwa = BajtyNazwy(m_cel);
   struct stat dawny;

@@ -1,16 +1,12 @@
 #include "platform/tozsamosc_pliku.h"
 
-#include <array>
-#include <climits>
+#include <cerrno>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "platform/nazwa_pliku.h"
 
 namespace {
-
-constexpr int kNajwiecejDowiazan = 40;  // as the system counts them
 
 struct Rozlozona {
   QString folder, nazwa;
@@ -20,15 +16,6 @@ Rozlozona Rozloz(const QString& sciezka) {
   const qsizetype ukosnik = sciezka.lastIndexOf(u'/');
   if (ukosnik < 0) return {QStringLiteral("."), sciezka};
   return {sciezka.left(ukosnik + 1), sciezka.mid(ukosnik + 1)};
-}
-
-// Where a link leads; empty when the path is none.
-QString CelDowiazania(const QString& sciezka) {
-  std::array<char, PATH_MAX> cel;
-  const ssize_t ile = readlink(BajtyNazwy(sciezka).constData(), cel.data(), cel.size());
-  if (ile <= 0) return {};
-  const QString tekst = NazwaZBajtow(QByteArray(cel.data(), ile));
-  return tekst.startsWith(u'/') ? tekst : Rozloz(sciezka).folder + u'/' + tekst;
 }
 
 }  // namespace
@@ -74,15 +61,10 @@ QString CzymJest(RodzajPliku rodzaj) {
 }
 
 std::optional<TozsamoscPliku> TozsamoscPliku::Sciezki(const QString& sciezka) {
-  QString dokad = sciezka;
-  for (int i = 0; i < kNajwiecejDowiazan; ++i) {
-    struct stat opis;
-    if (stat(BajtyNazwy(dokad).constData(), &opis) == 0) return TozsamoscPliku(opis.st_dev, opis.st_ino);
-    const QString dalej = CelDowiazania(dokad);
-    if (dalej.isEmpty()) return Miejsca(dokad);
-    dokad = dalej;  // a link to a file that is not there yet
-  }
-  return std::nullopt;
+  struct stat opis;
+  if (stat(BajtyNazwy(sciezka).constData(), &opis) == 0) return TozsamoscPliku(opis.st_dev, opis.st_ino);
+  // Links that lead round in a circle lead to no place.
+  return errno == ELOOP ? std::nullopt : Miejsca(KoniecDowiazan(sciezka));
 }
 
 std::optional<TozsamoscPliku> TozsamoscPliku::Miejsca(const QString& sciezka) {

@@ -8,6 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QDir>
+
 #include "tests/end_to_end/pliki_kontrahentow.h"
 #include "tests/end_to_end/pliki_towarow.h"
 #include "tests/end_to_end/wlasny_serwer.h"
@@ -140,7 +142,8 @@ TEST_P(Awarie, DwaImportyNaRaz) {
   ZapiszPlik(ile);
   const auto pierwszy = s.Zacznij(Slowa());
   QStringList slowaDrugiego = Slowa();
-  slowaDrugiego.replace(slowaDrugiego.indexOf(u"."_s), u"/"_s);
+  ASSERT_TRUE(QDir(s.Sciezka(u"."_s)).mkdir(u"drugi"_s));
+  slowaDrugiego.replace(slowaDrugiego.indexOf(u"."_s), u"drugi"_s);
   const auto drugi = s.Zacznij(slowaDrugiego);
   const Wynik a = Stanowisko::Zakoncz(*pierwszy);
   const Wynik b = Stanowisko::Zakoncz(*drugi);

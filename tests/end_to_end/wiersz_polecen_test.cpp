@@ -98,6 +98,10 @@ TEST(WierszPolecen, KazdyKoniecMaStatusIObiekt) {
         u"asortymentow bezZmian czasSekund dodanych formatowKodowWazonych jednostek kategorii komunikaty "
         "koniec operacja parametrow plikPominietych pominietych poprawionych rekordow stawek uwagi"_s);
   }
+  const Wynik wynik =
+      s.Uruchom(Slowa("import-towarow dobry --baza baza.db --pominiete . --json --konfiguracja baza.db"));
+  EXPECT_EQ(wynik.status, 3);
+  EXPECT_TRUE(wynik.MaKomunikat(u"UWAGA"_s, u"Plik baza.db jest plikiem bazy danych\nWskaż inny plik"_s));
 }
 
 // Between the end and the summary on standard error, and in the object.

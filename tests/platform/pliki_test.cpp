@@ -1,9 +1,11 @@
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -108,6 +110,21 @@ TEST_F(Pliki, RodzajBezOtwierania) {
     EXPECT_EQ(powod.value_or(QString()), rodzaj == R::Zwykly ? QString() : qt_error_string(blad));
     EXPECT_EQ(plik.isOpen(), rodzaj == R::Zwykly);
   }
+}
+
+TEST_F(Pliki, PotokDoZapisuCzekaNaCzytajacego) {
+  ASSERT_EQ(mkfifo(Bajty(u"potok"_s).c_str(), 0600), 0);
+  QFile plik;
+  EXPECT_EQ(OtworzPlik(plik, W(u"potok"_s), SposobOtwarcia::Zapis), u"Potoku nikt nie czyta"_s);
+  std::thread czytajacy([&] {
+    usleep(300'000);
+    EXPECT_EQ(Tresc(u"potok"_s), "dane");
+  });
+  EXPECT_EQ(OtworzPlik(plik, W(u"potok"_s), SposobOtwarcia::Zapis), std::nullopt);
+  EXPECT_EQ(fcntl(plik.handle(), F_GETFL) & O_NONBLOCK, 0) << "a full pipe would fail";
+  plik.write("dane");
+  plik.close();
+  czytajacy.join();
 }
 
 TEST_F(Pliki, NowyPlikZastepujeDowiazanie) {
