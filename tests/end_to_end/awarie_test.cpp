@@ -1,5 +1,6 @@
 #include <csignal>
 
+#include <QDir>
 #include <QThread>
 
 #include <linux/capability.h>
@@ -7,8 +8,6 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <QDir>
 
 #include "tests/end_to_end/pliki_kontrahentow.h"
 #include "tests/end_to_end/pliki_towarow.h"
