@@ -46,8 +46,9 @@ class Osoba final : public Rozmowa {
   }
   Przycisk Zapytaj(QWidget* /*rodzic*/, const Komunikat& pytanie, Ikona /*ikona*/, Przyciski przyciski,
                    Przycisk /*domyslny*/) override {
-    if (przyciski != QMessageBox::Ok) throw std::runtime_error(qPrintable(pytanie.tekst));
-    return QMessageBox::Ok;
+    if (przyciski == QMessageBox::Ok) return QMessageBox::Ok;
+    if (pytanie.tekst == u"Czy rzeczywiście chcesz opuścić program") return QMessageBox::Yes;
+    throw std::runtime_error(qPrintable(pytanie.tekst));
   }
   int Pokaz(QDialog& okno) override {
     auto* const przycisk = okno.findChild<QAbstractButton*>("button"_L1);
