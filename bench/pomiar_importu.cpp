@@ -108,7 +108,7 @@ const OpisImportu& ImportTowarow() {
                                 .ustawienia = UstawieniaImportuTowarow(TypPliku::Rozdzielany),
                                 .granicaDodawania = 3,
                                 .granicaIdentycznych = 1.5,
-                                .granicaPoprawiania = 2};
+                                .granicaPoprawiania = 2.5};
   return opis;
 }
 
