@@ -202,12 +202,4 @@ TEST_F(EksportKontrahentowTest, CalyZJednejChwili) {
   EXPECT_EQ(linie[1000][5], u"Łódź"_s);
 }
 
-TEST_F(EksportKontrahentowTest, ZatrzymujeSieMiedzyKontrahentami) {
-  b.baza.UstawPodsluch(
-      [&](std::string_view sql) { stop = stop || sql.starts_with("select KontrId, AkwId"); });
-  EXPECT_EQ(Eksportuj().koniec, KoniecPrzebiegu::Przerwano);
-  EXPECT_TRUE(postep.linie.contains(u"Aktualizacja przerwana przez operatora"_s));
-  EXPECT_EQ(LinieEksportu(Plik()).size(), 1u);
-}
-
 }  // namespace

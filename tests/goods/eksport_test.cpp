@@ -282,11 +282,4 @@ TEST_F(EksportTest, CalyZJednejChwili) {
   EXPECT_EQ(linie[13'000][0], u"N"_s);
 }
 
-TEST_F(EksportTest, ZatrzymujeSieMiedzyTowarami) {
-  b.baza.UstawPodsluch([&](std::string_view sql) { stop = stop || sql.starts_with("select AsId"); });
-  EXPECT_EQ(Eksportuj().koniec, KoniecPrzebiegu::Przerwano);
-  EXPECT_TRUE(postep.linie.contains(u"Aktualizacja przerwana przez operatora"_s));
-  EXPECT_EQ(Linie().size(), 1u);
-}
-
 }  // namespace
