@@ -192,7 +192,9 @@ TEST_F(PrzebiegTest, Przerwanie) {
                                                u"Koniec: Zakończono"_s, u"Dodanych 2"_s, u"Pominiętych 0"_s));
   stop = false;
   poRekordzie = [] {};
-  EXPECT_EQ(Uruchom("1;a\n2;stop\n3;c\n").koniec, KoniecPrzebiegu::Przerwano);
+  const WynikPrzebiegu wynik = Uruchom("1;a\n2;stop;x\n3;c;x\n");
+  EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Przerwano);
+  EXPECT_EQ(wynik.uwagi.at(0).ile, 1);
   EXPECT_EQ(Zapisanych(), 3);
 }
 
@@ -277,7 +279,7 @@ TEST_F(PrzebiegTest, KolidujacaPaczkaJestPowtarzana) {
   EXPECT_EQ(Uruchom(Rekordy(PaczkaZapisow::kNajwiecejRekordow + 1)).koniec, KoniecPrzebiegu::Zakonczono);
 }
 
-// A commit that fails takes its batch with its counters and lines; the batches before it stay.
+// A commit that fails takes its batch with its counters, lines and notices; the batches before it stay.
 TEST_F(PrzebiegTest, BladZatwierdzeniaKonczyPrzebieg) {
   constexpr int kPaczka = PaczkaZapisow::kNajwiecejRekordow;
   int zatwierdzen = 0;
@@ -285,15 +287,43 @@ TEST_F(PrzebiegTest, BladZatwierdzeniaKonczyPrzebieg) {
     if (sql == "commit" && ++zatwierdzen == 2)
       throw EBladBazy(RodzajBleduBazy::PelnyDysk, u"Brak miejsca"_s, {});
   });
-  const WynikPrzebiegu wynik = Uruchom("0;z\xB3y\n" + Rekordy(kPaczka + 50) + "0;z\xB3y\n");
+  const WynikPrzebiegu wynik = Uruchom("0;z\xB3y\n" + Rekordy(kPaczka + 50) + "0;z\xB3y\n0;b;x\n");
   EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Blad);
   EXPECT_EQ(Zapisanych(), kPaczka - 1);
   EXPECT_EQ(wynik.liczniki[Licznik::Dodane], kPaczka - 1);
   EXPECT_EQ(wynik.liczniki[Licznik::Pominiete], 1);
+  EXPECT_TRUE(wynik.uwagi.empty());
   EXPECT_EQ(Pominiete().count('\n'), 3);
   ASSERT_EQ(wynik.komunikaty.size(), 1u);
   EXPECT_TRUE(wynik.komunikaty[0].tekst.startsWith(u"Brak miejsca"_s));
   EXPECT_TRUE(wynik.komunikaty[0].tekst.contains(u"do rekordu %1 włącznie"_s.arg(kPaczka)));
+}
+
+// The fault that ended the run stands first, behind it whether the disk has what the run has left.
+TEST_F(PrzebiegTest, PoBledzieMowiCoPrzetrwa) {
+  const QString zapisano = u"Zapisano w bazie wynik pracy do rekordu 2 włącznie."_s;
+  const struct {
+    std::function<void()> przyUtrwalaniu;
+    int zapisanych;
+    QString tekst;
+  } przypadki[] = {{[] {}, 2, zapisano},
+                   {[] { throw EBladBazy(RodzajBleduBazy::Wejscie, u"Zły sektor"_s, {}); }, 2,
+                    zapisano + u"\nNie ma jednak pewności, że przetrwa to wyłączenie komputera. Sprawdź dysk "
+                               u"i powtórz import."_s},
+                   {[this] { QFile::remove(baza.Sciezka()); }, 0,
+                    u"Niczego z tego przebiegu nie można uznać za zapisane. Przywróć plik bazy i powtórz "
+                    u"import."_s}};
+  for (const auto& p : przypadki) {
+    baza.baza.UstawPodsluch([&p, wstawien = 0](std::string_view sql) mutable {
+      if (sql.starts_with("insert") && ++wstawien == 3) throw EBladBazy(RodzajBleduBazy::PelnyDysk, {}, {});
+      if (sql.find("wal_checkpoint") != std::string_view::npos) p.przyUtrwalaniu();
+    });
+    const WynikPrzebiegu wynik = Uruchom("1;a\n2;b\n3;c\n");
+    EXPECT_EQ(wynik.koniec, KoniecPrzebiegu::Blad);
+    EXPECT_EQ(wynik.liczniki[Licznik::Dodane], p.zapisanych);
+    ASSERT_EQ(wynik.komunikaty.size(), 1u);
+    EXPECT_EQ(wynik.komunikaty[0].tekst, u"Brak miejsca na dysku bazy danych\n"_s + p.tekst);
+  }
 }
 
 // A notice counts records, each once, and shows the first ten; it is told after the end and before the
@@ -314,15 +344,6 @@ TEST_F(PrzebiegTest, UwagiSaLiczoneIPokazaneNaKoncu) {
               ElementsAre(u"Uwaga: "_s + wynik.uwagi[0].tekst +
                               u". Rekordów: 12 (1, 3, 4, 5, 6, 7, 8, 9, 10, 11, …)."_s,
                           u"Dodanych 13"_s, u"Pominiętych 0"_s));
-}
-
-TEST_F(PrzebiegTest, UwagiUtraconejPaczkiPrzepadaja) {
-  baza.baza.UstawPodsluch([](std::string_view sql) {
-    if (sql == "commit") throw EBladBazy(RodzajBleduBazy::PelnyDysk, u"Brak miejsca"_s, {});
-  });
-  EXPECT_TRUE(Uruchom("1;a;x\n").uwagi.empty());
-  baza.baza.UstawPodsluch({});
-  EXPECT_EQ(Uruchom("1;a\n2;stop;x\n3;a;x\n").uwagi.at(0).ile, 1);  // also after a stop
 }
 
 TEST(Uwagi, RozneTekstyMajaGranice) {
