@@ -40,16 +40,20 @@ TEST_F(Serwer, PrzyczynyOdmowyPolaczenia) {
 }
 
 // Refused before anything is made.
-TEST_F(Serwer, NowaBazaTylkoWUnikodzie) {
+TEST_F(Serwer, BazaTylkoWUnikodzie) {
   const Stanowisko s;
   const QString nazwa = s.Serwer().Nazwa() + u"_latin2"_s;
   BazaSerwera::Zlec(
       ("create database " + nazwa + " encoding 'LATIN2' locale_provider libc locale 'C' template template0")
           .toStdString());
   s.Zapisz(u"latin2.odbc"_s, (BazaSerwera::Serwer() + u";Database="_s + nazwa).toStdString());
-  const Wynik wynik = s.Uruchom({u"nowa-baza"_s, u"odbc:@latin2.odbc"_s});
-  EXPECT_EQ(wynik.status, 3);
-  EXPECT_TRUE(wynik.bledy.contains(u"koduje teksty jako LATIN2, a nie UTF8"_s)) << wynik.bledy.toStdString();
+  for (const QStringList& slowa :
+       {QStringList{u"nowa-baza"_s}, QStringList{u"sprawdz-baze"_s, u"--baza"_s}}) {
+    const Wynik wynik = s.Uruchom(slowa + QStringList{u"odbc:@latin2.odbc"_s});
+    EXPECT_EQ(wynik.status, 3);
+    EXPECT_TRUE((wynik.bledy + wynik.wyjscie).contains(u"koduje teksty jako LATIN2, a nie UTF8"_s))
+        << wynik.bledy.toStdString();
+  }
   {
     TVLTBazaDanych baza(
         *ParametryPolaczenia::ZTekstu(u"odbc:"_s + BazaSerwera::Serwer() + u";Database="_s + nazwa));
@@ -98,7 +102,12 @@ TEST_F(Serwer, WystarczajaPrawaZDokumentacji) {
     EXPECT_GT(wynik.Liczba(u"dodanych"_s), 0);
     EXPECT_GT(wynik.Liczba(u"poprawionych"_s), 0);
   }
-  zlec(u"revoke insert, update, delete on all tables in schema "_s + s.Serwer().Nazwa() + u" from "_s + rola);
+  for (const QString& prawo : {u"insert, update, delete on all tables"_s, u"usage on all sequences"_s})
+    zlec(u"revoke "_s + prawo + u" in schema "_s + s.Serwer().Nazwa() + u" from "_s + rola);
+  for (const char* klucz : {"Asort.AsId", "JM.JMId", "Magazyn.MagId", "Kategoria.KatId", "Parametr.ParId",
+                            "KodWazony.KWId", "Kontrahent.KontrId", "Osoba.OsId", "Towar.TowId"})
+    brakow << u"Brak prawa używania sekwencji kolumny %1: nie da się dopisać wiersza"_s.arg(
+        QLatin1String(klucz));
   const Wynik zle = s.Uruchom(sprawdz);
   EXPECT_EQ(zle.status, 3);
   EXPECT_EQ(zle.wyjscie.count(u"Brak prawa "_s), brakow.size()) << zle.wyjscie.toStdString();
