@@ -310,6 +310,10 @@ TEST_F(Kontrahenci, WierszSklepuPowstajeZmieniaSieIZnika) {
   trzeci->UstawNrSklepu(8);
   EXPECT_EQ(KodBledu([&] { trzeci->Zapisz(); }), 2860);
   EXPECT_EQ(b.Liczba("select count(*) from Kontrahent"), 2);
+  // Two shops with one number: the lower identifier is named, though a server now meets the other row first.
+  b.baza.ExecSQL("insert into Kontrahent (KontrId, Nazwa) values (9, 'D')");
+  b.baza.ExecSQL("insert into Sklep (SklepId, NrSklepu) values (9, 7)");
+  b.baza.ExecSQL("update Sklep set NrSklepu = 7 where SklepId = 1");
   drugi->UstawNrSklepu(7);
   try {
     drugi->Zapisz();
@@ -318,6 +322,7 @@ TEST_F(Kontrahenci, WierszSklepuPowstajeZmieniaSieIZnika) {
     EXPECT_EQ(blad.MacMessage(), u"Numer sklepu nie jest unikalny");
     EXPECT_EQ(blad.Detail(), u"[1]: A");
   }
+  b.baza.ExecSQL("delete from Sklep where SklepId = 9");
 
   b.baza.ExecSQL("insert into Asort (Nazwa) values ('x')");
   b.baza.ExecSQL("insert into JM (Nazwa) values ('x')");
