@@ -3,12 +3,9 @@
 #include <QDir>
 #include <QThread>
 
-#include <linux/capability.h>
-#include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
+#include "tests/end_to_end/ograniczenia.h"
 #include "tests/end_to_end/pliki_kontrahentow.h"
 #include "tests/end_to_end/pliki_towarow.h"
 #include "tests/end_to_end/wlasny_serwer.h"
@@ -169,22 +166,12 @@ TEST_P(RestartSerwera, MowiCoZapisano) {
   Dokoncz();
 }
 
-void TylkoDoOdczytu() {
-  // The superuser may write everything unless this is taken from him.
-  if (geteuid() == 0) prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
-}
-
-void MalyDysk() {
-  const rlimit limit{1 << 20, 1 << 20};
-  setrlimit(RLIMIT_FSIZE, &limit);
-}
-
 TEST_P(Awarie, BazaPelnaZablokowanaTylkoDoOdczytu) {
   if (NaSerwerze()) GTEST_SKIP() << "rights and disk of a file";
   ZapiszPlik();
   const std::string baza = s.Sciezka(u"baza.db"_s).toStdString();
   chmod(baza.c_str(), 0444);
-  SprawdzKoniecZBledem(s.Uruchom(Slowa(), TylkoDoOdczytu), u"tylko do odczytu"_s);
+  SprawdzKoniecZBledem(s.Uruchom(Slowa(), BezWladzyNadPlikami), u"tylko do odczytu"_s);
   chmod(baza.c_str(), 0644);
   {
     TVLTBazaDanych inny;

@@ -2,10 +2,10 @@
 #include <csignal>
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "tests/end_to_end/ograniczenia.h"
 #include "tests/end_to_end/stanowisko.h"
 
 namespace {
@@ -85,30 +85,6 @@ TEST_P(EksportCaly, PlikIWynik) {
   EXPECT_TRUE(dlaLudzi.wyjscie.endsWith(u". Rekordów: 5000.\n"_s)) << dlaLudzi.wyjscie.toStdString();
 }
 
-TEST_P(EksportCaly, Odmowy) {
-  s.Zapisz(u"POMINIETE.TXT"_s, "x");
-  QFile::link(s.Sciezka(u"POMINIETE.TXT"_s), s.Sciezka(u"dowiązanie"_s));
-  const QByteArray baza = s.Odczytaj(u"baza.db"_s);
-  const std::pair<QString, QString> przypadki[] = {
-      {u"POMINIETE.TXT"_s, u"jest plikiem pominiętych rekordów"_s},
-      {u"dowiązanie"_s, u"jest plikiem pominiętych rekordów"_s},
-      {u"./POMINIECI.TXT"_s, u"jest plikiem pominiętych rekordów"_s},
-      {u"baza.db"_s, u"jest plikiem bazy danych"_s},
-      {u"."_s, u"Błąd otwarcia pliku"_s},
-      {u"nie/ma/plik.txt"_s, u"Błąd otwarcia pliku"_s}};
-  for (const auto& [plik, odmowa] : przypadki) {
-    if (NaSerwerze() && plik == u"baza.db"_s) continue;
-    SCOPED_TRACE(plik.toStdString());
-    const Wynik wynik = Eksport(plik);
-    EXPECT_EQ(wynik.status, 3);
-    EXPECT_EQ(wynik.Koniec(), u"odmowa"_s);
-    EXPECT_EQ(wynik.Liczba(u"rekordow"_s), 0);
-    EXPECT_TRUE(wynik.bledy.contains(odmowa)) << wynik.bledy.toStdString();
-  }
-  EXPECT_EQ(s.Odczytaj(u"POMINIETE.TXT"_s), "x");
-  EXPECT_EQ(s.Odczytaj(u"baza.db"_s), baza);
-}
-
 TEST_P(EksportCaly, PelnyDyskNieKonczySieZakonczeniem) {
   const auto sprawdz = [](const Wynik& wynik) {
     EXPECT_EQ(wynik.status, 4);
@@ -123,10 +99,7 @@ TEST_P(EksportCaly, PelnyDyskNieKonczySieZakonczeniem) {
   sprawdz(Eksport(u"/dev/full"_s));
   Napelnij();
   sprawdz(Eksport(u"/dev/full"_s));
-  sprawdz(Eksport(u"plik.txt"_s, [] {
-    const rlimit limit{1 << 20, 1 << 20};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }));
+  sprawdz(Eksport(u"plik.txt"_s, MalyDysk));
   EXPECT_EQ(s.Odczytaj(u"plik.txt"_s).size(), 1 << 20);
 }
 
