@@ -170,9 +170,7 @@ TEST_F(EksportKontrahentowTest, MowiOTymCoNieWroci) {
   b.baza.ExecSQL("update Kontrahent set Nazwa = '#', NIP = Skrot, Dostawca = 1");
   Eksportuj();
   EXPECT_TRUE(postep.linie.last().endsWith(
-      u": 6\nPierwsze z nich: 1 # (nazwa czytana jako komentarz), 2 # (nazwa czytana jako "
-      "komentarz), 3 # (nazwa czytana jako komentarz), 4 # (nazwa czytana jako komentarz), "
-      "5 # (nazwa czytana jako komentarz)"_s))
+      u": 6\nPierwsze z nich: 1 # (nazwa czytana jako komentarz), 2 # (nazwa czytana jako komentarz), 3 # (nazwa czytana jako komentarz), 4 # (nazwa czytana jako komentarz), 5 # (nazwa czytana jako komentarz)"_s))
       << postep.linie.last().toStdString();
 }
 

@@ -95,8 +95,7 @@ TEST(WierszPolecen, KazdyKoniecMaStatusIObiekt) {
     QStringList klucze = wynik.Json().keys();
     EXPECT_EQ(
         klucze.join(u' '),
-        u"asortymentow bezZmian czasSekund dodanych formatowKodowWazonych jednostek kategorii komunikaty "
-        "koniec operacja parametrow plikPominietych pominietych poprawionych rekordow stawek uwagi"_s);
+        u"asortymentow bezZmian czasSekund dodanych formatowKodowWazonych jednostek kategorii komunikaty koniec operacja parametrow plikPominietych pominietych poprawionych rekordow stawek uwagi"_s);
   }
   const Wynik wynik =
       s.Uruchom(Slowa("import-towarow dobry --baza baza.db --pominiete . --json --konfiguracja baza.db"));

@@ -18,26 +18,21 @@ class EksportTest : public testing::Test, protected ImportTestowy {
     for (const char* sql :
          {"insert into Magazyn (Nazwa) values ('Sklep'), ('Hurtownia')",
           "insert into Asort (Nazwa) values ('Nabiał')", "insert into JM (Nazwa, Precyzja) values ('kg', 3)",
-          "insert into Kontrahent (Nazwa, NIP) values ('P', '111-11'), ('D', '222'), ('E', ' 333 '), ('B', "
-          "'')",
+          "insert into Kontrahent (Nazwa, NIP) values ('P', '111-11'), ('D', '222'), ('E', ' 333 '),"
+          " ('B', '')",
           "insert into Kategoria (Nazwa) values ('Sery')",
-          "insert into Parametr (Nazwa, Typ, Od, Do) values ('Smak', 0, 0, 0), ('Dni', 1, -2, 30), ('?', 2, "
-          "0, 0)",
+          "insert into Parametr (Nazwa, Typ, Od, Do) values ('Smak', 0, 0, 0), ('Dni', 1, -2, 30),"
+          " ('?', 2, 0, 0)",
           "insert into ParWartosc values (1, 0, 'słodki'), (1, 1, 'słony')",
           "insert into KatParam values (1, 2, 0), (1, 1, 1)",
           "insert into Towar (Kod, Nazwa, Skrot, TypTowaru, Indeks1, Indeks2, Opis1, Opis2, Opis3, Opis4,"
-          " IleWZgrzewce, IleWCalosci, TermWazn, PrefPLU, Marza, HurtRabat, NocNarzut, CenaEw, CenaDet, "
-          "CenaHurt,"
-          " CenaNoc, CenaDod, CenaOtwarta, Stawka, AsId, JMId, KatId, Producent, Aktywny) values ('5900001',"
-          " 'Ser \"żółty\" 100%', 'SER', 1, 'i1', 'i2', 'o''1', ' o2 ', '', 'o4', 12.5, 0.25, 14, 7, 0.123, "
-          "0.05,"
-          " 0.1, 9.99, 10, 1.005, 0, 3, 1, 800, 1, 1, 1, 1, 1),"
-          " ('0A', 'Ser dawny', 'SD', 9, '', '', '', '', '', '', 0, 0, 0, 0, 0, 0, 0, 1, 2, 0, 0, 0, 0, "
-          "2300, 1, 1,"
-          " null, null, 0),"
-          " ('5900003', 'Ćma', 'Ć', 2, '', '', '', '', '', '', 0, 0, 0, 0, 0, 0, 0, 1, 10, 0, 0, 0, 0, -1, "
-          "1, 1,"
-          " null, null, 1)",
+          " IleWZgrzewce, IleWCalosci, TermWazn, PrefPLU, Marza, HurtRabat, NocNarzut, CenaEw, CenaDet,"
+          " CenaHurt, CenaNoc, CenaDod, CenaOtwarta, Stawka, AsId, JMId, KatId, Producent, Aktywny) values"
+          " ('5900001', 'Ser \"żółty\" 100%', 'SER', 1, 'i1', 'i2', 'o''1', ' o2 ', '', 'o4', 12.5, 0.25,"
+          " 14, 7, 0.123, 0.05, 0.1, 9.99, 10, 1.005, 0, 3, 1, 800, 1, 1, 1, 1, 1),"
+          " ('0A', 'Ser dawny', 'SD', 9, '', '', '', '', '', '', 0, 0, 0, 0, 0, 0, 0, 1, 2, 0, 0, 0, 0,"
+          " 2300, 1, 1, null, null, 0), ('5900003', 'Ćma', 'Ć', 2, '', '', '', '', '', '', 0, 0, 0, 0, 0,"
+          " 0, 0, 1, 10, 0, 0, 0, 0, -1, 1, 1, null, null, 1)",
           "insert into KodDod (TowId, Kolejnosc, Kod, Skrot, PrefPLU) values (1, 1, '5900012', 'SERŁ', 3),"
           " (1, 5, '5900013', 'S2', 0)",
           "insert into TowWartosc values (1, 1, 1), (1, 2, -1)",
@@ -72,15 +67,12 @@ TEST_F(EksportTest, FazyIKolejnosc) {
             "^10.000000^9.990000^10.000000^1.005000^0.000000^3.000000^1^800^Nabiał^kg^(5900012|SERŁ|3);"
             "(5900013|S2|0)^Sery: Dni(-1:-2..30);Smak(2:słodki|słony)^^111-11^(333|222)^1"_s);
   EXPECT_EQ(linie[0].join(u'^'),
-            u"Kod towaru^Nazwa towaru^Skrót (nazwa na kasach)^Typ towaru^Indeks1 (SWW)^Indeks2 (PKWiU)^Opis "
-            u"1^Opis 2"
-            "^Opis 3^Opis 4^Ilość w opakowaniu zbiorczym^Ile kilogramów/litrów^Termin ważności^Preferowany "
-            "numer na "
-            "kasie^Marża^Rabat hurtowy^Narzut nocny^Cena ewidencyjna^Cena detaliczna (netto)^Cena "
-            "hurtowa^Cena nocna"
-            "^Cena dodatkowa^Cena otwarta^Stawka VAT^Nazwa asortymentu^Jednostka^Kody dodatkowe^Kategoria i "
-            "parametry"
-            "^Stan^NIP producenta^NIP-y dostawców^Status towaru"_s);
+            u"Kod towaru^Nazwa towaru^Skrót (nazwa na kasach)^Typ towaru^Indeks1 (SWW)^Indeks2 (PKWiU)^"
+            "Opis 1^Opis 2^Opis 3^Opis 4^Ilość w opakowaniu zbiorczym^Ile kilogramów/litrów^Termin ważności^"
+            "Preferowany numer na kasie^Marża^Rabat hurtowy^Narzut nocny^Cena ewidencyjna^Cena detaliczna "
+            "(netto)^Cena hurtowa^Cena nocna^Cena dodatkowa^Cena otwarta^Stawka VAT^Nazwa asortymentu^"
+            "Jednostka^Kody dodatkowe^Kategoria i parametry^Stan^NIP producenta^NIP-y dostawców^"
+            "Status towaru"_s);
   for (const auto& [linia, pole, tekst] :
        {std::tuple{2, 3, u"0"_s}, {2, 27, u""_s}, {2, 30, u""_s}, {2, 31, u"0"_s}, {3, 23, u"-1"_s}})
     EXPECT_EQ(linie[static_cast<std::size_t>(linia)][pole], tekst) << linia << '/' << pole;

@@ -48,9 +48,7 @@ TEST_F(SterownikTest, UwagiOStawkachVat) {
     b.baza.ExecSQL("insert into Vat (Stawka) values (:Stawka)", {{"Stawka", stawka}});
   opcje.cb_nowestawki = opcje.cb_akttow = opcje.cb_nowetowary = true;
   const QString bezOpisu =
-      u"nieznany-vat Stawka VAT 5,5 % jest w bazie, a w strukturze pliku nie ma jej opisu; towary z tą "
-      u"stawką w "
-      u"pliku dostają stawkę 22 % 0: "_s;
+      u"nieznany-vat Stawka VAT 5,5 % jest w bazie, a w strukturze pliku nie ma jej opisu; towary z tą stawką w pliku dostają stawkę 22 % 0: "_s;
   const auto nieznana = [](const char* tekst, const char* rekordy) {
     return u"nieznany-vat Tekst „%1” nie jest opisem żadnej stawki VAT; przyjęto stawkę 22 % %2"_s.arg(
         QString::fromUtf8(tekst), QString::fromUtf8(rekordy));

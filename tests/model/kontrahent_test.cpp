@@ -310,10 +310,12 @@ TEST_F(Kontrahenci, WierszSklepuPowstajeZmieniaSieIZnika) {
   trzeci->UstawNrSklepu(8);
   EXPECT_EQ(KodBledu([&] { trzeci->Zapisz(); }), 2860);
   EXPECT_EQ(b.Liczba("select count(*) from Kontrahent"), 2);
-  // Two shops with one number: the lower identifier is named, though a server now meets the other row first.
-  b.baza.ExecSQL("insert into Kontrahent (KontrId, Nazwa) values (9, 'D')");
-  b.baza.ExecSQL("insert into Sklep (SklepId, NrSklepu) values (9, 7)");
-  b.baza.ExecSQL("update Sklep set NrSklepu = 7 where SklepId = 1");
+  // Of two shops with the number the one with the lower identifier is named, though a server meets the other
+  // first.
+  for (const char* sql :
+       {"insert into Kontrahent (KontrId, Nazwa) values (9, 'D')", "delete from Sklep where SklepId = 1",
+        "insert into Sklep (SklepId, NrSklepu) values (9, 7), (1, 7)"})
+    b.baza.ExecSQL(sql);
   drugi->UstawNrSklepu(7);
   try {
     drugi->Zapisz();

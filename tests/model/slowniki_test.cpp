@@ -91,13 +91,6 @@ TEST_F(Slowniki, PrecyzjaJednostkiWGranicach) {
   }
 }
 
-TEST_F(Slowniki, MagazynyStojaWedlugNazw) {
-  TDmVLTListaMagazynow lista(kontekst);
-  lista.Otworz();
-  EXPECT_EQ(lista.IdBiezacego(), 2);
-  EXPECT_EQ(lista.Nazwa(2), u"A");
-}
-
 TEST_F(Slowniki, KategorieIParametryZeSzczegolami) {
   TDmVLTParametr lista(kontekst), zakres(kontekst);
   lista.Nowy();

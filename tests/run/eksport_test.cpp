@@ -8,7 +8,6 @@
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-using Strony = std::vector<std::pair<int, int>>;
 
 constexpr OpisPrzebiegu kOpis{{}, u"zamykanie", u"Zakończono", {}};
 constexpr OpisEksportu kOpisEksportu{{}, u"eksport", "Proba", "Id"};
@@ -18,12 +17,12 @@ class EksportProbny final : public PrzebiegEksportu {
  public:
   EksportProbny(const ParametryPrzebiegu& parametry, std::atomic<bool>* stop)
       : PrzebiegEksportu(parametry, kOpis, kOpisEksportu), m_stop(stop) {}
-  Strony strony;
+  std::pair<int, int> ostatniaStrona;
 
  protected:
   void PrzedRekordami() override {}
   void Naglowek(ZapisRekordow& zapis) override { zapis.Pole(u"Id"); }
-  void Strona(int od, int doId) override { strony.emplace_back(od, doId); }
+  void Strona(int od, int doId) override { ostatniaStrona = {od, doId}; }
   bool Wczytaj(int id) override {
     if (m_stop && id == 0) *m_stop = true;
     m_id = id;
@@ -68,7 +67,7 @@ TEST(PrzebiegEksportuTest, WieleBlokowIdentyfikatorow) {
     EXPECT_EQ(eksport.Wykonaj().koniec,
               p.przerwany ? KoniecPrzebiegu::Przerwano : KoniecPrzebiegu::Zakonczono);
     EXPECT_EQ(postep.linie.contains(u"Aktualizacja przerwana przez operatora"_s), p.przerwany);
-    EXPECT_EQ(eksport.strony.back(), p.ostatniaStrona);
+    EXPECT_EQ(eksport.ostatniaStrona, p.ostatniaStrona);
     const auto linie = LinieEksportu(folder.filePath(u"plik"_s));
     ASSERT_EQ(linie.size(), p.rekordow + 1);
     for (std::size_t i = 1; i <= p.rekordow; ++i) ASSERT_EQ(linie[i][0].toInt(), static_cast<int>(2 * i) - 8);
