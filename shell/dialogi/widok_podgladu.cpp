@@ -20,6 +20,7 @@
 #include "shell/dialogi/siatka.h"
 #include "shell/kontekst_okna.h"
 #include "shell/kontrolki/filtry_plikow.h"
+#include "shell/kontrolki/pozniej.h"
 #include "shell/rozmowa.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -137,10 +138,9 @@ void WidokPodgladu::Odswiez() {
   QThreadPool::globalInstance()->start([struktura = m_struktura, plik = m_plik,
                                         baza = m_kontekst.baza.Parametry(), program = qApp,
                                         widok = std::weak_ptr(m_jestem)] {
-    const auto pokaz = [podglad = CzytajPodglad(struktura, plik, baza), widok] {
+    Pozniej(*program, [podglad = CzytajPodglad(struktura, plik, baza), widok] {
       if (const auto jest = widok.lock()) (*jest)->Przyjmij(podglad);
-    };
-    QMetaObject::invokeMethod(program, pokaz, Qt::QueuedConnection);
+    });
   });
 }
 

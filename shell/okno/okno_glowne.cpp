@@ -23,6 +23,7 @@
 #include "run/pliki_zastrzezone.h"
 #include "shell/dialogi/dialogi.h"
 #include "shell/kontrolki/pasek_przyciskow.h"
+#include "shell/kontrolki/pozniej.h"
 #include "shell/okno/strony.h"
 #include "shell/okno/wybor_pliku.h"
 #include "shell/przebieg/wykonanie_przebiegu.h"
@@ -389,6 +390,5 @@ void Tfrm_main::dragEnterEvent(QDragEnterEvent* zdarzenie) {
 void Tfrm_main::dropEvent(QDropEvent* zdarzenie) {
   const QString plik = PrzeciaganyPlik(*zdarzenie->mimeData());
   zdarzenie->acceptProposedAction();
-  QMetaObject::invokeMethod(
-      this, [this, plik] { Wykonaj([&] { ImportujUpuszczony(plik); }); }, Qt::QueuedConnection);
+  Pozniej(*this, [this, plik] { Wykonaj([&] { ImportujUpuszczony(plik); }); });
 }
