@@ -22,6 +22,7 @@ OpisPolaFormularza Opis(RodzajPola rodzaj) {
 // A good holds the position of the value.
 std::vector<PozycjaListy> Pozycje(const std::vector<QString>& wartosci) {
   std::vector<PozycjaListy> pozycje;
+  pozycje.reserve(wartosci.size());
   for (const QString& wartosc : wartosci) pozycje.push_back({static_cast<int>(pozycje.size()), wartosc});
   return pozycje;
 }
@@ -79,7 +80,7 @@ void ParametryTowaru::PokazKategorie(int katId) {
 }
 
 QString ParametryTowaru::Podpis(int parId) {
-  const QString nazwa = m_parametry->Nazwa(parId);
+  QString nazwa = m_parametry->Nazwa(parId);
   if (m_parametry->Rodzaj(parId) != Typ::Zakres) return nazwa;
   return u"%1 (od %2 do %3)"_s.arg(nazwa, PokazLiczbe(m_parametry->Od(parId)),
                                    PokazLiczbe(m_parametry->Do(parId)));
