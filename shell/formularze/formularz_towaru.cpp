@@ -161,6 +161,7 @@ void TFmVLTFormularzTowaru::ZaproponujSkrot(int wiersz) {
   TabelaKodow& tabela = *m_ui->tabelaKodow;
   auto& glowny = KontrolkaPola<QLineEdit>(K::Skrot);
   std::vector<QString> dodatkowe;
+  dodatkowe.reserve(static_cast<size_t>(tabela.rowCount()));
   for (int i = 0; i < tabela.rowCount(); ++i) dodatkowe.push_back(tabela.Tekst(i, TabelaKodow::Skrot));
   Sprobuj([&] {
     const auto skrot = m_towar.ZaproponujSkrot(KontrolkaPola<QLineEdit>(K::Nazwa).text(),
