@@ -5,7 +5,6 @@
 #include "app/argumenty.h"
 #include "app/terminal.h"
 #include "platform/windows1250.h"
-#include "run/pliki_zastrzezone.h"
 #include "ustawienia/magazyn_ustawien.h"
 #include "ustawienia/tabela_ustawien.h"
 
@@ -34,11 +33,6 @@ bool WczytajUstawienia(const Argumenty& argumenty, const PokazKomunikat& pokaz, 
   zrodla.baza = srodowisko.baza.Polaczona() ? &srodowisko.baza : nullptr;
   zrodla.plikKonfiguracji = argumenty.konfiguracja;
   zrodla.pojedyncze = argumenty.ustaw;
-  if (zrodla.baza && argumenty.konfiguracja)
-    if (const auto odmowa = OdmowaPlikuBazy(zrodla.baza->Parametry(), *argumenty.konfiguracja)) {
-      pokaz(*odmowa);
-      return false;
-    }
   const auto wynik = magazyn_ustawien::WczytajUstawienia(zrodla, srodowisko.ustawienia);
   for (const Komunikat& komunikat : wynik.komunikaty) pokaz(komunikat);
   OdrzucBledneUstawienia(wynik);

@@ -37,7 +37,6 @@ int OtworzDoZapisu(const char* nazwa, int flagi) {
 
 std::optional<QString> Odmow(int deskryptor, int blad) {
   if (deskryptor >= 0) close(deskryptor);
-  if (blad == ENXIO) return QStringLiteral("Potoku nikt nie czyta");
   return qt_error_string(blad);
 }
 

@@ -8,6 +8,7 @@
 #include "exchange/czytnik.h"
 #include "platform/baza/sesja.h"
 #include "platform/config.h"
+#include "run/pliki_zastrzezone.h"
 #include "ustawienia/tabela_ustawien.h"
 #include "ustawienia/ustawienia.h"
 #include "ustawienia/wspolzaleznosci.h"
@@ -31,6 +32,13 @@ WynikImportu WczytajPlik(const QString& sciezka, Ustawienia& ustawienia) {
   TMConfig config;
   if (plik_konfiguracji::Wczytaj(sciezka, config)) return {false, {KomunikatBladOtwarcia(sciezka)}};
   return {true, Zastosuj(config, ustawienia)};
+}
+
+// The database's own file is not opened: closing it would take the engine's locks away.
+WynikImportu ImportujPozaBaza(const QString& sciezka, const TVLTBazaDanych* baza, Ustawienia& ustawienia) {
+  if (baza)
+    if (const auto odmowa = OdmowaPlikuBazy(baza->Parametry(), sciezka)) return {false, {*odmowa}};
+  return ImportujZPliku(sciezka, ustawienia);
 }
 
 void Dopisz(Komunikaty& cel, Komunikaty zrodlo) {
@@ -95,7 +103,7 @@ WynikWczytania WczytajUstawienia(const Zrodla& zrodla, Ustawienia& ustawienia) {
   Dopisz(wynik.komunikaty, WczytajDomyslnyPlik(zrodla.katalogStartowy, ustawienia));
   if (zrodla.baza) Dopisz(wynik.komunikaty, WczytajZBazy(*zrodla.baza, ustawienia));
   if (zrodla.plikKonfiguracji) {
-    WynikImportu zPliku = ImportujZPliku(*zrodla.plikKonfiguracji, ustawienia);
+    WynikImportu zPliku = ImportujPozaBaza(*zrodla.plikKonfiguracji, zrodla.baza, ustawienia);
     wynik.brakPliku = !zPliku.wczytano;
     Dopisz(wynik.komunikaty, std::move(zPliku.komunikaty));
   }

@@ -52,7 +52,7 @@ struct Zrodla {
 
 struct WynikWczytania {
   Komunikaty komunikaty;
-  bool brakPliku = false;               // the named configuration file could not be read
+  bool brakPliku = false;               // the named configuration file could not be read, or is the database
   std::vector<QString> bledneKlucze;    // single settings with an unknown key
   std::vector<QString> bledneWartosci;  // single settings whose value is none of theirs, by key
 };

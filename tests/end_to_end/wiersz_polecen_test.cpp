@@ -95,7 +95,8 @@ TEST(WierszPolecen, KazdyKoniecMaStatusIObiekt) {
     QStringList klucze = wynik.Json().keys();
     EXPECT_EQ(
         klucze.join(u' '),
-        u"asortymentow bezZmian czasSekund dodanych formatowKodowWazonych jednostek kategorii komunikaty koniec operacja parametrow plikPominietych pominietych poprawionych rekordow stawek uwagi"_s);
+        u"asortymentow bezZmian czasSekund dodanych formatowKodowWazonych jednostek kategorii komunikaty "
+        "koniec operacja parametrow plikPominietych pominietych poprawionych rekordow stawek uwagi"_s);
   }
   if (NaSerwerze()) return;
   const Wynik wynik =
